@@ -1,0 +1,115 @@
+#include "ssh/sshremoteprocessrunner.h"
+
+#include <QProcess>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace QSsh {
+
+// Exit code of the client itself when it could not log in or lost the connection.
+static constexpr int clientFailure = 255;
+
+// Options that hold file names are split at spaces and have their percent signs expanded.
+static QString fileNameOption(const QString &option, QString fileName)
+{
+    fileName.replace(u'\\', u"\\\\"_s).replace(u'"', u"\\\""_s).replace(u'%', u"%%"_s);
+    return u"%1=\"%2\""_s.arg(option, fileName);
+}
+
+static QStringList clientArguments(const QString &command,
+                                   const SshConnectionParameters &parameters)
+{
+    QStringList options{
+        u"BatchMode=yes"_s,
+        u"ConnectTimeout=%1"_s.arg(parameters.timeout.count()),
+        u"ForwardAgent=no"_s,
+        u"ForwardX11=no"_s,
+        u"IdentitiesOnly=yes"_s,
+        u"IdentityAgent=none"_s,
+        u"LogLevel=ERROR"_s,
+        u"StrictHostKeyChecking=accept-new"_s,
+    };
+    if (!parameters.privateKeyFile.isEmpty())
+        options << fileNameOption(u"IdentityFile"_s, parameters.privateKeyFile);
+    if (!parameters.knownHostsFile.isEmpty())
+        options << fileNameOption(u"UserKnownHostsFile"_s, parameters.knownHostsFile);
+
+    // The user's own configuration could send the connection elsewhere.
+    QStringList arguments{u"-F"_s, u"none"_s};
+    for (const QString &option : std::as_const(options))
+        arguments << u"-o"_s << option;
+    arguments << u"-p"_s << QString::number(parameters.port) << u"-l"_s << parameters.userName
+              << u"--"_s << parameters.host << command;
+    return arguments;
+}
+
+static QString failureOf(QProcess &process)
+{
+    if (process.error() == QProcess::FailedToStart || process.exitStatus() == QProcess::CrashExit)
+        return process.errorString();
+    if (process.exitCode() != clientFailure)
+        return {};
+    const QString text = QString::fromLocal8Bit(process.readAllStandardError()).trimmed();
+    return text.isEmpty() ? SshRemoteProcessRunner::tr("The SSH connection failed.") : text;
+}
+
+SshRemoteProcessRunner::SshRemoteProcessRunner(QObject *parent)
+    : QObject(parent)
+{}
+
+SshRemoteProcessRunner::~SshRemoteProcessRunner()
+{
+    discardProcess();
+}
+
+void SshRemoteProcessRunner::run(const QString &command,
+                                 const SshConnectionParameters &parameters)
+{
+    discardProcess();
+    m_command = command;
+    auto *process = new QProcess(this);
+    m_process = process;
+
+    connect(process, &QProcess::finished, this, [this, process] {
+        Q_EMIT processClosed(failureOf(*process));
+    });
+    // Queued, because a start can fail before this function returns; the process may have been
+    // replaced by then.
+    connect(process, &QProcess::errorOccurred, this,
+            [this, process](QProcess::ProcessError error) {
+                if (error == QProcess::FailedToStart && process == m_process)
+                    Q_EMIT processClosed(failureOf(*process));
+            },
+            Qt::QueuedConnection);
+
+    process->setStandardInputFile(QProcess::nullDevice());
+    process->start(u"ssh"_s, clientArguments(command, parameters));
+}
+
+QString SshRemoteProcessRunner::command() const
+{
+    return m_command;
+}
+
+QByteArray SshRemoteProcessRunner::readAllStandardOutput()
+{
+    return m_process ? m_process->readAllStandardOutput() : QByteArray();
+}
+
+// May be called from a handler of the process's own signals, which therefore outlives this call.
+void SshRemoteProcessRunner::discardProcess()
+{
+    QProcess *process = std::exchange(m_process, nullptr);
+    if (!process)
+        return;
+    process->disconnect(this);
+    process->kill();
+    if (process->state() == QProcess::NotRunning)
+        process->deleteLater();
+    else
+        connect(process, &QProcess::finished, process, &QObject::deleteLater);
+}
+
+} // namespace QSsh
