@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QLocalServer>
+#include <QObject>
+
+namespace NimbraEmulator {
+
+class Journal;
+class PackageList;
+class Relay;
+
+/// Lets a local program ask the emulator for faults: it takes commands from a local socket, a line
+/// each, and answers with the line "ok" or "error: …".
+///
+///     relay close                    drop the relay's connections and stop listening
+///     relay open                     listen again
+///     relay delay MILLISECONDS       send every reply that much later
+///     relay answer TEXT              send TEXT instead of the next reply
+///     fail METHOD ERRORNAME TEXT     answer METHOD with this error; with METHOD alone: no more
+///     package with|without NAME      add or take out a package
+///     kill                           die at once, without a word
+class Control : public QObject
+{
+    Q_OBJECT
+
+public:
+    Control(Relay &relay, PackageList &packages, Journal &journal, QObject *parent = nullptr);
+
+    /// Listens on \a socket, in place of what an earlier run left there.
+    [[nodiscard]] bool listen(const QString &socket);
+    [[nodiscard]] QString errorString() const { return m_server.errorString(); }
+
+private:
+    void acceptClients();
+    [[nodiscard]] QString execute(const QString &command);
+    [[nodiscard]] QString executeRelay(const QString &action, const QString &text);
+    [[nodiscard]] QString executeFail(const QString &method, const QString &error);
+    [[nodiscard]] QString executePackage(const QString &action, const QString &name);
+
+    Relay &m_relay;
+    PackageList &m_packages;
+    Journal &m_journal;
+    QLocalServer m_server;
+};
+
+} // namespace NimbraEmulator

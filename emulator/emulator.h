@@ -1,0 +1,55 @@
+#pragma once
+
+#include "control.h"
+#include "journal.h"
+#include "locationservice.h"
+#include "options.h"
+#include "packagelist.h"
+#include "relay.h"
+#include "sensorservice.h"
+#include "sshserver.h"
+#include "systembus.h"
+
+#include <memory>
+
+namespace NimbraEmulator {
+
+/// The emulator as seen from outside: puts its parts together, starts them in their order and ends
+/// them in the opposite one. Its journal begins and ends with it.
+class Emulator : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Emulator(const Options &options, QObject *parent = nullptr);
+    ~Emulator() override;
+
+    /// Starts all parts and returns when they serve. On failure puts one sentence into \a error.
+    [[nodiscard]] bool start(QString *error);
+
+    [[nodiscard]] const SensorService &sensors() const { return m_sensors; }
+    [[nodiscard]] const LocationService &location() const { return m_location; }
+
+Q_SIGNALS:
+    /// A part that the emulator cannot do without has ended. \a error is one sentence.
+    void failed(const QString &error);
+
+private:
+    [[nodiscard]] bool startServices(QString *error);
+    [[nodiscard]] bool startRelay(QString *error);
+    void startControl();
+    void startForwarding(const Forwarding &forwarding);
+    [[nodiscard]] SshCommandServer::Answer answerCommand(const QString &command);
+
+    Options m_options;
+    Journal m_journal;
+    PackageList m_packages;
+    SensorService m_sensors;
+    LocationService m_location;
+    SystemBus m_bus;
+    SshServer m_sshServer;
+    std::unique_ptr<Relay> m_relay;
+    std::unique_ptr<Control> m_control;
+};
+
+} // namespace NimbraEmulator

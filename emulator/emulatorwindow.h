@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+
+QT_BEGIN_NAMESPACE
+class QGridLayout;
+class QGroupBox;
+QT_END_NAMESPACE
+
+namespace NimbraEmulator {
+
+class LocationService;
+class SensorService;
+
+/// Shows what the device would: the sensors and their values, the position, the track and the
+/// camera's picture. It follows the services at the rate of a screen, however often they change.
+class EmulatorWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Both services outlive the window.
+    EmulatorWindow(const QString &name, const QString &deviceModel, const SensorService &sensors,
+                   const LocationService &location, QWidget *parent = nullptr);
+
+private:
+    void addSensors(QGridLayout *layout);
+    void addSensor(QGridLayout *layout, const QString &sensor, const QString &title,
+                   const QList<std::pair<QString, std::function<QString()>>> &values);
+    [[nodiscard]] QGroupBox *createCamera();
+    [[nodiscard]] QGroupBox *createPosition();
+    [[nodiscard]] QGroupBox *createTrack();
+    void addValue(QGroupBox *group, const QString &title, std::function<QString()> text);
+    void refreshSoon();
+    void refresh();
+
+    const SensorService &m_sensors;
+    const LocationService &m_location;
+    QList<std::function<void()>> m_updates; // one a value that is shown
+    QTimer m_refreshTimer;
+};
+
+} // namespace NimbraEmulator

@@ -1,0 +1,66 @@
+#include "relay.h"
+
+#include "journal.h"
+#include "relayclient.h"
+
+#include <QWebSocket>
+
+namespace NimbraEmulator {
+
+using namespace Qt::StringLiterals;
+
+// Whatever text this long asks for still fits into one D-Bus message.
+static constexpr quint64 maxRequestBytes = 32 << 20;
+
+Relay::Relay(const QHostAddress &address, const QDBusConnection &bus, Journal &journal,
+             QObject *parent)
+    : QObject(parent)
+    , m_address(address)
+    , m_bus(bus)
+    , m_journal(journal)
+    , m_server(u"remote-dbus-invoker"_s, QWebSocketServer::NonSecureMode)
+{
+    connect(&m_server, &QWebSocketServer::newConnection, this, &Relay::acceptClients);
+}
+
+Relay::~Relay()
+{
+    close();
+}
+
+bool Relay::open(QString *error)
+{
+    if (m_server.isListening() || m_server.listen(m_address, port))
+        return true;
+    *error = u"The relay cannot listen on %1 port %2: %3."_s.arg(m_address.toString())
+                 .arg(port).arg(m_server.errorString());
+    return false;
+}
+
+void Relay::close()
+{
+    m_server.close();
+    const QList<RelayClient *> clients = std::exchange(m_clients, {});
+    for (RelayClient *client : clients) {
+        delete client;
+        m_journal.write("relay-disconnected"_L1);
+    }
+}
+
+void Relay::acceptClients()
+{
+    while (QWebSocket *socket = m_server.nextPendingConnection()) {
+        socket->setMaxAllowedIncomingFrameSize(maxRequestBytes);
+        socket->setMaxAllowedIncomingMessageSize(maxRequestBytes);
+        auto client = new RelayClient(socket, m_bus, m_faults, m_journal, this);
+        m_clients.append(client);
+        m_journal.write("relay-connected"_L1);
+        connect(client, &RelayClient::disconnected, this, [this, client] {
+            m_clients.removeOne(client);
+            client->deleteLater();
+            m_journal.write("relay-disconnected"_L1);
+        });
+    }
+}
+
+} // namespace NimbraEmulator

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QHash>
+#include <QHostAddress>
+#include <QObject>
+#include <QWebSocketServer>
+
+#include <chrono>
+#include <optional>
+
+namespace NimbraEmulator {
+
+class Journal;
+class RelayClient;
+
+/// What the relay was asked to do wrong.
+struct RelayFaults
+{
+    struct Failure
+    {
+        QString errorName;
+        QString errorText;
+    };
+
+    std::chrono::milliseconds delay{0}; ///< from an answer to its being sent
+    std::optional<QString> answer;      ///< sent once, instead of the next reply
+    QHash<QString, Failure> failures;   ///< by the method that is not called
+};
+
+/// The way from the host to the emulator's system bus: a WebSocket server that takes request lines
+/// and answers each with a reply line.
+class Relay : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr quint16 port = 1234;
+
+    Relay(const QHostAddress &address, const QDBusConnection &bus, Journal &journal,
+          QObject *parent = nullptr);
+    ~Relay() override;
+
+    /// Listens; true when it already does. On failure puts one sentence into \a error.
+    [[nodiscard]] bool open(QString *error);
+
+    /// Drops all connections and stops listening.
+    void close();
+
+    [[nodiscard]] RelayFaults &faults() { return m_faults; }
+
+private:
+    void acceptClients();
+
+    QHostAddress m_address;
+    QDBusConnection m_bus;
+    Journal &m_journal;
+    QWebSocketServer m_server;
+    RelayFaults m_faults;
+    QList<RelayClient *> m_clients; // children of the relay
+};
+
+} // namespace NimbraEmulator

@@ -1,0 +1,69 @@
+#include "tcpforwarder.h"
+
+#include <QTcpSocket>
+
+namespace NimbraEmulator {
+
+// How much a connection holds for an end that reads slower than the other one writes.
+static constexpr qint64 bufferSize = 256 << 10;
+
+static void pump(QTcpSocket *from, QTcpSocket *to)
+{
+    if (to->state() == QAbstractSocket::ConnectedState && to->bytesToWrite() < bufferSize)
+        to->write(from->read(bufferSize));
+}
+
+// Passes on what `from` sends, and its end once all of it is passed on.
+static void forward(QTcpSocket *from, QTcpSocket *to)
+{
+    from->setReadBufferSize(bufferSize);
+    const auto pumpNow = [from, to] { pump(from, to); };
+    QObject::connect(from, &QTcpSocket::readyRead, to, pumpNow);
+    QObject::connect(to, &QTcpSocket::connected, from, pumpNow);
+    QObject::connect(to, &QTcpSocket::bytesWritten, from, pumpNow);
+    QObject::connect(from, &QTcpSocket::disconnected, to, [from, to] {
+        if (to->state() == QAbstractSocket::ConnectedState) {
+            to->write(from->readAll());
+            to->disconnectFromHost();
+        } else {
+            to->abort();
+        }
+    });
+}
+
+TcpForwarder::TcpForwarder(const QHostAddress &address, quint16 port, QObject *parent)
+    : QObject(parent)
+    , m_address(address)
+    , m_port(port)
+{
+    connect(&m_server, &QTcpServer::newConnection, this, &TcpForwarder::acceptConnections);
+}
+
+bool TcpForwarder::listen(quint16 hostPort)
+{
+    return m_server.listen(QHostAddress::LocalHost, hostPort);
+}
+
+void TcpForwarder::acceptConnections()
+{
+    while (QTcpSocket *client = m_server.nextPendingConnection()) {
+        auto guest = new QTcpSocket(client);
+        forward(client, guest);
+        forward(guest, client);
+        connect(guest, &QTcpSocket::errorOccurred, client, [client, guest] {
+            if (guest->state() != QAbstractSocket::ConnectedState
+                && guest->error() != QAbstractSocket::RemoteHostClosedError)
+                client->abort();
+        });
+        connect(client, &QTcpSocket::disconnected, client, [client, guest] {
+            // the emulator's end may still be writing what the client sent last
+            if (guest->state() == QAbstractSocket::UnconnectedState)
+                client->deleteLater();
+            else
+                connect(guest, &QTcpSocket::disconnected, client, &QObject::deleteLater);
+        });
+        guest->connectToHost(m_address, m_port);
+    }
+}
+
+} // namespace NimbraEmulator
