@@ -1,0 +1,59 @@
+#include "emulationmanager.h"
+
+#include "remotedbusinvokerservice.h"
+
+namespace EmulationManagement::Internal {
+
+namespace {
+
+constexpr qsizetype replyFieldCount = 5;
+constexpr qsizetype errorNameField = 3;
+constexpr qsizetype errorTextField = 4;
+
+} // namespace
+
+EmulationManager::EmulationManager(QObject *parent)
+    : QObject(parent)
+{}
+
+RemoteDBusInvokerService *EmulationManager::rdbusinvoker() const
+{
+    return m_rdbusinvoker;
+}
+
+void EmulationManager::setRdbusinvoker(RemoteDBusInvokerService *invoker)
+{
+    m_rdbusinvoker = invoker;
+    connect(invoker, &RemoteDBusInvokerService::webSocketConnected,
+            this, &EmulationManager::emulatorConnected);
+    connect(invoker, &RemoteDBusInvokerService::replyReceived,
+            this, &EmulationManager::processReplyFromEmulator);
+    Q_EMIT rdbusinvokerChanged();
+}
+
+void EmulationManager::processReplyFromEmulator(const QString &reply)
+{
+    const QStringList fields = reply.split(u':');
+    if (fields.size() != replyFieldCount) {
+        Q_EMIT replyFromEmulatorReceived(reply);
+        return;
+    }
+    if (!fields.at(errorNameField).isEmpty()) {
+        Q_EMIT replyFromEmulatorReceived(
+            QStringLiteral("%1 %2").arg(fields.at(errorNameField), fields.at(errorTextField)));
+        return;
+    }
+    processDBusMethodsReturnValues(fields);
+    Q_EMIT replyFromEmulatorReceived(QStringLiteral("OK"));
+}
+
+void EmulationManager::callDBusMethod(const QString &method, const QString &arguments)
+{
+    const QString busName = bus();
+    const QString service = dbusService();
+    const QString objectPath = dbusObject();
+    const QString interface = dbusInterface();
+    m_rdbusinvoker->callDBusMethod(busName, service, objectPath, interface, method, arguments);
+}
+
+} // namespace EmulationManagement::Internal

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QString>
+#include <QWebSocket>
+
+namespace EmulationManagement::Internal {
+
+/*!
+ * The one link to the services inside the emulator.
+ *
+ * A relay inside the emulator performs D-Bus calls: each text frame of a WebSocket (RFC 6455) is
+ * one request, each text frame that comes back one reply. Replies carry no request identifier.
+ * Once opened, the link reconnects for as long as the object lives.
+ */
+class RemoteDBusInvokerService : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Host end of the forwarded TCP port.
+    static constexpr unsigned short hostTcpPort = 5454;
+    /// Emulator end of the forwarded TCP port, where the relay listens.
+    static constexpr unsigned short emulatorTcpPort = 1234;
+    /// Name of the SDK's port forwarding rule for the two.
+    static const QString portForwardingRule;
+
+    explicit RemoteDBusInvokerService(QObject *parent = nullptr);
+
+    /// Opens the WebSocket to the host end of the forwarded port.
+    void connectToEmulator();
+
+    /*!
+     * Sends "bus service objectPath interface method arguments" as one text frame.
+     *
+     * \a arguments are "type:value" tokens separated by single spaces, or empty. The other texts
+     * must not hold spaces. While the link is down the call is dropped without a reply.
+     */
+    void callDBusMethod(const QString &bus, const QString &service, const QString &objectPath,
+                        const QString &interface, const QString &method, const QString &arguments);
+
+Q_SIGNALS:
+    void webSocketConnected();
+    void webSocketDisconnected();
+    /// A reply line of the relay, as it came.
+    void replyReceived(const QString &reply);
+
+private:
+    QWebSocket m_webSocket;
+};
+
+} // namespace EmulationManagement::Internal
