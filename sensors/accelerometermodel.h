@@ -1,0 +1,24 @@
+#pragma once
+
+#include "xyzmodel.h"
+
+namespace EmulationManagement::Internal {
+
+/// Acceleration in thousandths of standard gravity: 1000 is 1 g.
+class AccelerometerModel final : public IntXYZModel
+{
+    Q_OBJECT
+
+public:
+    /// Standard gravity in m/s² (CGPM 1901).
+    static constexpr double gravityAccelEarth = 9.80665;
+    /// A device that lies on its back reads 1 g along z.
+    static constexpr int defaultZValue = 1000;
+
+    explicit AccelerometerModel(QObject *parent = nullptr);
+
+    QString name() const override;
+    void setDefaultValues();
+};
+
+} // namespace EmulationManagement::Internal

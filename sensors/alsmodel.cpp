@@ -1,0 +1,30 @@
+#include "alsmodel.h"
+
+namespace EmulationManagement::Internal {
+
+AlsModel::AlsModel(QObject *parent)
+    : SensorModel(parent)
+{}
+
+QString AlsModel::name() const
+{
+    return QStringLiteral("als");
+}
+
+void AlsModel::setDefaultValues()
+{
+    setLux(defaultLux);
+}
+
+int AlsModel::lux() const
+{
+    return m_lux;
+}
+
+void AlsModel::setLux(int lux)
+{
+    m_lux = lux;
+    Q_EMIT luxChanged();
+}
+
+} // namespace EmulationManagement::Internal

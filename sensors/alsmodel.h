@@ -1,0 +1,42 @@
+#pragma once
+
+#include "sensormodel.h"
+
+namespace EmulationManagement::Internal {
+
+/// Ambient light in lux.
+class AlsModel final : public SensorModel
+{
+    Q_OBJECT
+    Q_PROPERTY(int lux READ lux WRITE setLux NOTIFY luxChanged)
+
+public:
+    /// Levels of light by the lux from which on they hold.
+    enum LightLevel {
+        Undefined = -1,
+        Dark = 0,
+        Twilight = 10,
+        Light = 80,
+        Bright = 400,
+        Sunny = 2500,
+    };
+    Q_ENUM(LightLevel)
+
+    static constexpr int defaultLux = 100;
+
+    explicit AlsModel(QObject *parent = nullptr);
+
+    QString name() const override;
+    void setDefaultValues();
+
+    [[nodiscard]] int lux() const;
+    void setLux(int lux);
+
+Q_SIGNALS:
+    void luxChanged();
+
+private:
+    int m_lux = defaultLux;
+};
+
+} // namespace EmulationManagement::Internal

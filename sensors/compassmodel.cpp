@@ -1,0 +1,75 @@
+#include "compassmodel.h"
+
+#include "accelerometermodel.h"
+#include "magnetometermodel.h"
+
+#include <cmath>
+
+namespace EmulationManagement::Internal {
+
+namespace {
+
+constexpr double degreesPerRadian = 57.29577951308232;
+constexpr double fullTurn = 360.0;
+constexpr double gPerUnit = 0.001;
+
+} // namespace
+
+CompassModel::CompassModel(QObject *parent)
+    : SensorModel(parent)
+{}
+
+QString CompassModel::name() const
+{
+    return QStringLiteral("compass");
+}
+
+void CompassModel::setDefaultValues()
+{
+    setAzimuth(calculateAzimuth(0, 0, AccelerometerModel::defaultZValue,
+                                MagnetometerModel::defaultXValue, 0.0, 0.0));
+    setCalibrationLevel(MagnetometerModel::defaultCalibLevel);
+}
+
+int CompassModel::azimuth() const
+{
+    return m_azimuth;
+}
+
+void CompassModel::setAzimuth(int azimuth)
+{
+    m_azimuth = azimuth;
+    Q_EMIT azimuthChanged();
+}
+
+int CompassModel::calibrationLevel() const
+{
+    return m_calibrationLevel;
+}
+
+void CompassModel::setCalibrationLevel(int calibrationLevel)
+{
+    m_calibrationLevel = calibrationLevel;
+    Q_EMIT calibrationLevelChanged();
+}
+
+int CompassModel::calculateAzimuth(int ax, int ay, int az, double mx, double my, double mz)
+{
+    constexpr double g = AccelerometerModel::gravityAccelEarth;
+    const double accelerationX = ax * gPerUnit * g;
+    const double accelerationY = ay * -gPerUnit * g;
+    const double accelerationZ = az * -gPerUnit * g;
+
+    const double roll = std::atan2(accelerationX, accelerationZ);
+    const double pitch = std::atan(
+        accelerationY / (accelerationX * std::sin(roll) + accelerationZ * std::cos(roll)));
+    const double yaw = std::atan2(
+        std::sin(roll) * mz - mx * std::cos(roll),
+        my * std::cos(pitch) + (mx * std::sin(roll) + mz * std::cos(roll)) * std::sin(pitch));
+    if (!std::isfinite(yaw)) // free fall: nothing says where the horizon is
+        return 0;
+    return static_cast<int>(std::lround(yaw * -degreesPerRadian + fullTurn))
+        % static_cast<int>(fullTurn);
+}
+
+} // namespace EmulationManagement::Internal

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "xyzmodel.h"
+
+namespace EmulationManagement::Internal {
+
+/// The ambient magnetic field around the device in microtesla. It stays on the host.
+class MagneticFieldModel final : public DoubleXYZModel
+{
+    Q_OBJECT
+
+public:
+    static constexpr double defaultYValue = 5.95;
+    static constexpr double defaultZValue = -48.76;
+
+    explicit MagneticFieldModel(QObject *parent = nullptr);
+
+    QString name() const override;
+    void setDefaultValues();
+};
+
+} // namespace EmulationManagement::Internal

@@ -1,0 +1,31 @@
+#include "magnetometermodel.h"
+
+namespace EmulationManagement::Internal {
+
+MagnetometerModel::MagnetometerModel(QObject *parent)
+    : DoubleXYZModel(defaultXValue, 0.0, 0.0, parent)
+{}
+
+QString MagnetometerModel::name() const
+{
+    return QStringLiteral("magnetometer");
+}
+
+void MagnetometerModel::setDefaultValues()
+{
+    setValues(defaultXValue, 0.0, 0.0);
+    setCalibrationLevel(defaultCalibLevel);
+}
+
+int MagnetometerModel::calibrationLevel() const
+{
+    return m_calibrationLevel;
+}
+
+void MagnetometerModel::setCalibrationLevel(int calibrationLevel)
+{
+    m_calibrationLevel = calibrationLevel;
+    Q_EMIT calibrationLevelChanged();
+}
+
+} // namespace EmulationManagement::Internal

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "xyzmodel.h"
+
+namespace EmulationManagement::Internal {
+
+/// Magnetic flux density in tesla, and how well the sensor is calibrated (0 to 3).
+class MagnetometerModel final : public DoubleXYZModel
+{
+    Q_OBJECT
+    Q_PROPERTY(int calibrationLevel READ calibrationLevel WRITE setCalibrationLevel
+                   NOTIFY calibrationLevelChanged)
+
+public:
+    static constexpr double defaultXValue = 4.3e-5;
+    static constexpr int defaultCalibLevel = 0;
+
+    explicit MagnetometerModel(QObject *parent = nullptr);
+
+    QString name() const override;
+    void setDefaultValues();
+
+    [[nodiscard]] int calibrationLevel() const;
+    void setCalibrationLevel(int calibrationLevel);
+
+Q_SIGNALS:
+    void calibrationLevelChanged();
+
+private:
+    int m_calibrationLevel = defaultCalibLevel;
+};
+
+} // namespace EmulationManagement::Internal

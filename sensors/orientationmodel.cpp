@@ -1,0 +1,72 @@
+#include "orientationmodel.h"
+
+#include "accelerometermodel.h"
+
+#include <cmath>
+
+namespace EmulationManagement::Internal {
+
+namespace {
+
+constexpr double degreesPerRadian = 57.29577951308232;
+// A turn to the side is taken later than one to the front or back, so that a device held upright
+// and a little askew stays in portrait.
+constexpr long sideThreshold = 25;
+constexpr long topThreshold = 21;
+constexpr double faceThreshold = 300.0;
+
+long tiltInDegrees(double component, double otherA, double otherB)
+{
+    const double tilt = std::atan(component / std::sqrt(otherA * otherA + otherB * otherB));
+    return std::isfinite(tilt) ? std::lround(tilt * degreesPerRadian) : 0; // free fall: no tilt
+}
+
+QOrientationReading::Orientation tiltOf(double x, double y, double z)
+{
+    const long side = tiltInDegrees(x, y, z);
+    if (std::abs(side) > sideThreshold)
+        return side > 0 ? QOrientationReading::RightUp : QOrientationReading::LeftUp;
+    const long top = tiltInDegrees(y, x, z);
+    if (std::abs(top) >= topThreshold)
+        return top > 0 ? QOrientationReading::TopUp : QOrientationReading::TopDown;
+    return QOrientationReading::Undefined;
+}
+
+} // namespace
+
+OrientationModel::OrientationModel(QObject *parent)
+    : SensorModel(parent)
+{}
+
+QString OrientationModel::name() const
+{
+    return QStringLiteral("orientation");
+}
+
+void OrientationModel::setDefaultValues()
+{
+    setOrientation(0.0, 0.0, AccelerometerModel::defaultZValue);
+}
+
+QOrientationReading::Orientation OrientationModel::orientation() const
+{
+    return m_orientation;
+}
+
+void OrientationModel::setOrientation(QOrientationReading::Orientation orientation)
+{
+    m_orientation = orientation;
+    Q_EMIT orientationChanged();
+}
+
+void OrientationModel::setOrientation(double x, double y, double z)
+{
+    const QOrientationReading::Orientation tilt = tiltOf(x, y, z);
+    if (std::abs(z) >= faceThreshold) {
+        const bool faceDown = z <= 0 && tilt == QOrientationReading::Undefined;
+        m_face = faceDown ? QOrientationReading::FaceDown : QOrientationReading::FaceUp;
+    }
+    setOrientation(tilt != QOrientationReading::Undefined ? tilt : m_face);
+}
+
+} // namespace EmulationManagement::Internal

@@ -1,0 +1,30 @@
+#include "proximitymodel.h"
+
+namespace EmulationManagement::Internal {
+
+ProximityModel::ProximityModel(QObject *parent)
+    : SensorModel(parent)
+{}
+
+QString ProximityModel::name() const
+{
+    return QStringLiteral("proximity");
+}
+
+void ProximityModel::setDefaultValues()
+{
+    setReflectance(defaultReflectance);
+}
+
+int ProximityModel::reflectance() const
+{
+    return m_reflectance;
+}
+
+void ProximityModel::setReflectance(int reflectance)
+{
+    m_reflectance = reflectance;
+    Q_EMIT reflectanceChanged();
+}
+
+} // namespace EmulationManagement::Internal

@@ -1,0 +1,466 @@
+#include "sensorsemulationmanager.h"
+
+#include <cmath>
+
+namespace EmulationManagement::Internal {
+
+namespace {
+
+constexpr double radiansPerDegree = 0.017453292519943295;
+// Horizontal flux density of the readings that stand for an azimuth, in tesla.
+constexpr double azimuthFluxDensity = 4.358898943540674e-05;
+// Accelerations that stand for an orientation, in thousandths of g.
+constexpr int tiltedAcceleration = 100;
+constexpr int facingAcceleration = 300;
+
+QString stringArgument(const QString &value)
+{
+    return QStringLiteral("string:%1").arg(value);
+}
+
+QString intArgument(int value)
+{
+    return QStringLiteral("int32:%1").arg(value);
+}
+
+QString doubleArgument(double value)
+{
+    return QStringLiteral("double:%1").arg(value);
+}
+
+QString doubleArguments(double x, double y, double z)
+{
+    return QStringLiteral("double:%1 double:%2 double:%3").arg(x).arg(y).arg(z);
+}
+
+} // namespace
+
+SensorsEmulationManager::SensorsEmulationManager(QObject *parent)
+    : EmulationManager(parent)
+    , m_accelerometer(new AccelerometerModel(this))
+    , m_magnetometer(new MagnetometerModel(this))
+    , m_magneticField(new MagneticFieldModel(this))
+    , m_compass(new CompassModel(this))
+    , m_orientation(new OrientationModel(this))
+    , m_gyroscope(new GyroscopeModel(this))
+    , m_als(new AlsModel(this))
+    , m_proximity(new ProximityModel(this))
+    , m_tap(new TapModel(this))
+{
+    const QList<SensorModel *> sensors = {m_accelerometer, m_compass,   m_orientation, m_magnetometer,
+                                          m_als,           m_gyroscope, m_proximity,   m_tap};
+    for (SensorModel *sensor : sensors) {
+        m_sensorsEnabledStates.insert(sensor->name(), false);
+        m_sensors.insert(sensor->name(), sensor);
+    }
+    initSensorsAvailability();
+    connect(this, &EmulationManager::emulatorConnected,
+            this, &SensorsEmulationManager::setupSensors);
+}
+
+SensorsEmulationManager::~SensorsEmulationManager()
+{
+    saveCurrentSensorsValues();
+}
+
+QString SensorsEmulationManager::bus() const
+{
+    return QStringLiteral("system");
+}
+
+QString SensorsEmulationManager::dbusService() const
+{
+    return QStringLiteral("org.vexa.SensorfwEmulationManagement");
+}
+
+QString SensorsEmulationManager::dbusObject() const
+{
+    return QStringLiteral("/org/vexa/SensorfwEmulationManagement");
+}
+
+QString SensorsEmulationManager::dbusInterface() const
+{
+    return dbusService();
+}
+
+void SensorsEmulationManager::processDBusMethodsReturnValues(const QStringList &values)
+{
+    if (values.at(0) != u"enabled")
+        return;
+    const QString name = values.at(1).split(u'|', Qt::SkipEmptyParts).value(0);
+    const bool enabled = QVariant(values.at(2)).toBool();
+    if (m_sensorsAvailability.value(name).toBool()) {
+        m_sensorsEnabledStates.insert(name, enabled);
+    } else {
+        disableSensor(name);
+        m_sensorsEnabledStates.insert(name, false);
+    }
+    Q_EMIT sensorsEnabledStatesChanged();
+}
+
+AccelerometerModel *SensorsEmulationManager::accelerometer() const
+{
+    return m_accelerometer;
+}
+
+MagnetometerModel *SensorsEmulationManager::magnetometer() const
+{
+    return m_magnetometer;
+}
+
+MagneticFieldModel *SensorsEmulationManager::magneticField() const
+{
+    return m_magneticField;
+}
+
+CompassModel *SensorsEmulationManager::compass() const
+{
+    return m_compass;
+}
+
+OrientationModel *SensorsEmulationManager::orientation() const
+{
+    return m_orientation;
+}
+
+GyroscopeModel *SensorsEmulationManager::gyroscope() const
+{
+    return m_gyroscope;
+}
+
+AlsModel *SensorsEmulationManager::als() const
+{
+    return m_als;
+}
+
+ProximityModel *SensorsEmulationManager::proximity() const
+{
+    return m_proximity;
+}
+
+TapModel *SensorsEmulationManager::tap() const
+{
+    return m_tap;
+}
+
+QVariantMap SensorsEmulationManager::sensorsEnabledStates() const
+{
+    return m_sensorsEnabledStates;
+}
+
+QVariantMap SensorsEmulationManager::sensorsAvailability() const
+{
+    return m_sensorsAvailability;
+}
+
+void SensorsEmulationManager::initSensorsAvailability()
+{
+    m_sensorsAvailability.clear();
+    for (auto sensor = m_sensors.cbegin(); sensor != m_sensors.cend(); ++sensor)
+        m_sensorsAvailability.insert(sensor.key(), true);
+    Q_EMIT sensorsAvailabilityChanged();
+}
+
+void SensorsEmulationManager::setSensorAvailable(const QString &name, bool available)
+{
+    m_sensorsAvailability.insert(name, available);
+    setSensorEnabled(name, available);
+    if (available)
+        enableSensor(name);
+    else
+        disableSensor(name);
+    Q_EMIT sensorsAvailabilityChanged();
+}
+
+void SensorsEmulationManager::makeAllSensorsAvailable()
+{
+    initSensorsAvailability();
+    const QStringList names = m_sensorsAvailability.keys();
+    for (const QString &name : names) {
+        enableSensor(name);
+        setSensorEnabled(name, true);
+    }
+}
+
+void SensorsEmulationManager::enableSensor(const QString &sensorName)
+{
+    callDBusMethod(QStringLiteral("enableSensor"), stringArgument(sensorName));
+}
+
+void SensorsEmulationManager::disableSensor(const QString &sensorName)
+{
+    callDBusMethod(QStringLiteral("disableSensor"), stringArgument(sensorName));
+}
+
+void SensorsEmulationManager::checkSensorState(const QString &sensorName)
+{
+    callDBusMethod(QStringLiteral("enabled"), stringArgument(sensorName));
+}
+
+void SensorsEmulationManager::setSensorEnabled(const QString &name, bool enabled)
+{
+    m_sensorsEnabledStates.insert(name, enabled);
+    Q_EMIT sensorsEnabledStatesChanged();
+}
+
+void SensorsEmulationManager::setAccelerometerValues(int x, int y, int z)
+{
+    callDBusMethod(QStringLiteral("setAccelerometerValues"),
+                   QStringLiteral("int32:%1 int32:%2 int32:%3").arg(x).arg(y).arg(z));
+    m_accelerometer->setValues(x, y, z);
+    updateAzimuth();
+    updateOrientation();
+}
+
+void SensorsEmulationManager::setAccelerometerX(int x)
+{
+    callDBusMethod(QStringLiteral("setAccelerometerX"), intArgument(x));
+    m_accelerometer->setX(x);
+    updateAzimuth();
+    updateOrientation();
+}
+
+void SensorsEmulationManager::setAccelerometerY(int y)
+{
+    callDBusMethod(QStringLiteral("setAccelerometerY"), intArgument(y));
+    m_accelerometer->setY(y);
+    updateAzimuth();
+    updateOrientation();
+}
+
+void SensorsEmulationManager::setAccelerometerZ(int z)
+{
+    callDBusMethod(QStringLiteral("setAccelerometerZ"), intArgument(z));
+    m_accelerometer->setZ(z);
+    updateAzimuth();
+    updateOrientation();
+}
+
+void SensorsEmulationManager::setAlsLuxValue(int lux)
+{
+    callDBusMethod(QStringLiteral("setAlsValue"), intArgument(lux));
+    m_als->setLux(lux);
+}
+
+void SensorsEmulationManager::setAlsLightLevel(AlsModel::LightLevel level)
+{
+    setAlsLuxValue(level);
+}
+
+void SensorsEmulationManager::setGyroscopeValues(double x, double y, double z)
+{
+    callDBusMethod(QStringLiteral("setGyroscopeValues"), doubleArguments(x, y, z));
+    m_gyroscope->setValues(x, y, z);
+}
+
+void SensorsEmulationManager::setGyroscopeX(double x)
+{
+    callDBusMethod(QStringLiteral("setGyroscopeX"), doubleArgument(x));
+    m_gyroscope->setX(x);
+}
+
+void SensorsEmulationManager::setGyroscopeY(double y)
+{
+    callDBusMethod(QStringLiteral("setGyroscopeY"), doubleArgument(y));
+    m_gyroscope->setY(y);
+}
+
+void SensorsEmulationManager::setGyroscopeZ(double z)
+{
+    callDBusMethod(QStringLiteral("setGyroscopeZ"), doubleArgument(z));
+    m_gyroscope->setZ(z);
+}
+
+void SensorsEmulationManager::setMagnetometerValues(double x, double y, double z)
+{
+    callDBusMethod(QStringLiteral("setMagnetometerValues"), doubleArguments(x, y, z));
+    m_magnetometer->setValues(x, y, z);
+    updateAzimuth();
+}
+
+void SensorsEmulationManager::setMagnetometerX(double x)
+{
+    callDBusMethod(QStringLiteral("setMagnetometerX"), doubleArgument(x));
+    m_magnetometer->setX(x);
+    updateAzimuth();
+}
+
+void SensorsEmulationManager::setMagnetometerY(double y)
+{
+    callDBusMethod(QStringLiteral("setMagnetometerY"), doubleArgument(y));
+    m_magnetometer->setY(y);
+    updateAzimuth();
+}
+
+void SensorsEmulationManager::setMagnetometerZ(double z)
+{
+    callDBusMethod(QStringLiteral("setMagnetometerZ"), doubleArgument(z));
+    m_magnetometer->setZ(z);
+    updateAzimuth();
+}
+
+void SensorsEmulationManager::setMagnetometerCalibrationLevel(int calibrationLevel)
+{
+    callDBusMethod(QStringLiteral("setMagnetometerCalibrationLevel"),
+                   intArgument(calibrationLevel));
+    m_magnetometer->setCalibrationLevel(calibrationLevel);
+    m_compass->setCalibrationLevel(calibrationLevel);
+}
+
+void SensorsEmulationManager::setMagneticFieldValues(double x, double y, double z)
+{
+    m_magneticField->setValues(x, y, z);
+}
+
+void SensorsEmulationManager::setMagneticFieldX(double x)
+{
+    m_magneticField->setX(x);
+}
+
+void SensorsEmulationManager::setMagneticFieldY(double y)
+{
+    m_magneticField->setY(y);
+}
+
+void SensorsEmulationManager::setMagneticFieldZ(double z)
+{
+    m_magneticField->setZ(z);
+}
+
+void SensorsEmulationManager::setCompassAzimuth(int azimuth)
+{
+    m_compass->setAzimuth(azimuth);
+    setAccelerometerValues(0, 0, AccelerometerModel::defaultZValue);
+    const double angle = -azimuth * radiansPerDegree;
+    setMagnetometerValues(std::sin(angle) * azimuthFluxDensity,
+                          std::cos(angle) * azimuthFluxDensity,
+                          0.0);
+}
+
+void SensorsEmulationManager::setCompassCalibrationLevel(int calibrationLevel)
+{
+    m_compass->setCalibrationLevel(calibrationLevel);
+    setMagnetometerCalibrationLevel(calibrationLevel);
+}
+
+void SensorsEmulationManager::setOrientation(int orientation)
+{
+    switch (orientation) {
+    case QOrientationReading::TopUp:
+        return setAccelerometerValues(0, tiltedAcceleration, 0);
+    case QOrientationReading::TopDown:
+        return setAccelerometerValues(0, -tiltedAcceleration, 0);
+    case QOrientationReading::LeftUp:
+        return setAccelerometerValues(-tiltedAcceleration, 0, 0);
+    case QOrientationReading::RightUp:
+        return setAccelerometerValues(tiltedAcceleration, 0, 0);
+    case QOrientationReading::FaceUp:
+        return setAccelerometerValues(0, 0, facingAcceleration);
+    case QOrientationReading::FaceDown:
+        return setAccelerometerValues(0, 0, -facingAcceleration);
+    default:
+        return;
+    }
+}
+
+void SensorsEmulationManager::setProximitySensorReflectanceValue(int reflectance)
+{
+    callDBusMethod(QStringLiteral("setProximitySensorValue"), intArgument(reflectance));
+    m_proximity->setReflectance(reflectance);
+}
+
+void SensorsEmulationManager::setProximitySensorNearValue(bool near)
+{
+    setProximitySensorReflectanceValue(near ? ProximityModel::nearReflectance
+                                            : ProximityModel::farReflectance);
+}
+
+void SensorsEmulationManager::setTapSensorValue(TapModel::TapDirection tapDirection)
+{
+    callDBusMethod(QStringLiteral("setTapSensorValue"), intArgument(tapDirection));
+    m_tap->setTapDirection(tapDirection);
+}
+
+void SensorsEmulationManager::setDefaultValues()
+{
+    setAccelerometerValues(0, 0, AccelerometerModel::defaultZValue);
+    setAlsLuxValue(AlsModel::defaultLux);
+    setGyroscopeValues(0.0, 0.0, GyroscopeModel::defaultZValue);
+    setMagnetometerValues(MagnetometerModel::defaultXValue, 0.0, 0.0);
+    setMagnetometerCalibrationLevel(MagnetometerModel::defaultCalibLevel);
+    setProximitySensorReflectanceValue(ProximityModel::defaultReflectance);
+    setTapSensorValue(TapModel::Undefined);
+}
+
+void SensorsEmulationManager::setupSensors()
+{
+    if (m_sensorsSetUp) {
+        const QMap<QString, QVariant> availability = m_sensorsAvailability;
+        for (auto sensor = availability.cbegin(); sensor != availability.cend(); ++sensor)
+            setSensorAvailable(sensor.key(), sensor.value().toBool());
+    } else {
+        const QStringList names = m_sensorsEnabledStates.keys();
+        for (const QString &name : names)
+            checkSensorState(name);
+        m_sensorsSetUp = true;
+    }
+    restoreSensorsValues();
+    Q_EMIT sensorsInitialized();
+}
+
+void SensorsEmulationManager::restoreSensorsValues()
+{
+    setAccelerometerValues(m_settings.readAccelerometerX(),
+                           m_settings.readAccelerometerY(),
+                           m_settings.readAccelerometerZ());
+    setMagnetometerValues(m_settings.readMagnetometerX(),
+                          m_settings.readMagnetometerY(),
+                          m_settings.readMagnetometerZ());
+    setMagneticFieldValues(m_settings.readMagneticFieldX(),
+                           m_settings.readMagneticFieldY(),
+                           m_settings.readMagneticFieldZ());
+    setMagnetometerCalibrationLevel(m_settings.readMagnetometerCalibLevel());
+    setGyroscopeValues(m_settings.readGyroscopeX(),
+                       m_settings.readGyroscopeY(),
+                       m_settings.readGyroscopeZ());
+    setAlsLuxValue(m_settings.readAlsLuxValue());
+    setProximitySensorReflectanceValue(m_settings.readProximitySensorReflectanceValue());
+    setTapSensorValue(m_settings.readTapSensorValue());
+}
+
+void SensorsEmulationManager::saveCurrentSensorsValues()
+{
+    m_settings.saveAccelerometerValues(m_accelerometer->x(),
+                                       m_accelerometer->y(),
+                                       m_accelerometer->z());
+    m_settings.saveAlsLuxValue(m_als->lux());
+    m_settings.saveGyroscopeValues(m_gyroscope->x(), m_gyroscope->y(), m_gyroscope->z());
+    m_settings.saveMagneticFieldValues(m_magneticField->x(),
+                                       m_magneticField->y(),
+                                       m_magneticField->z());
+    m_settings.saveMagnetometerValues(m_magnetometer->x(),
+                                      m_magnetometer->y(),
+                                      m_magnetometer->z());
+    m_settings.saveMagnetometerCalibLevel(m_magnetometer->calibrationLevel());
+    m_settings.saveProximitySensorReflectanceValue(m_proximity->reflectance());
+    m_settings.saveTapSensorValue(m_tap->tapDirection());
+}
+
+void SensorsEmulationManager::updateAzimuth()
+{
+    m_compass->setAzimuth(CompassModel::calculateAzimuth(m_accelerometer->x(),
+                                                         m_accelerometer->y(),
+                                                         m_accelerometer->z(),
+                                                         m_magnetometer->x(),
+                                                         m_magnetometer->y(),
+                                                         m_magnetometer->z()));
+}
+
+void SensorsEmulationManager::updateOrientation()
+{
+    m_orientation->setOrientation(m_accelerometer->x(),
+                                  m_accelerometer->y(),
+                                  m_accelerometer->z());
+}
+
+} // namespace EmulationManagement::Internal

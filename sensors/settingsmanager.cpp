@@ -1,0 +1,286 @@
+#include "settingsmanager.h"
+
+#include "accelerometermodel.h"
+#include "alsmodel.h"
+#include "gyroscopemodel.h"
+#include "magneticfieldmodel.h"
+#include "magnetometermodel.h"
+#include "proximitymodel.h"
+
+#include <coreplugin/icore.h>
+
+#include <utils/qtcsettings.h>
+
+namespace EmulationManagement::Internal {
+
+const QString SettingsManager::groupName = QStringLiteral("emulationmanagement");
+
+const QString SettingsManager::accelerometerXKey = QStringLiteral("accelerometer_x");
+const QString SettingsManager::accelerometerYKey = QStringLiteral("accelerometer_y");
+const QString SettingsManager::accelerometerZKey = QStringLiteral("accelerometer_z");
+const QString SettingsManager::alsKey = QStringLiteral("als");
+const QString SettingsManager::gyroscopeXKey = QStringLiteral("gyroscope_x");
+const QString SettingsManager::gyroscopeYKey = QStringLiteral("gyroscope_y");
+const QString SettingsManager::gyroscopeZKey = QStringLiteral("gyroscope_z");
+const QString SettingsManager::magneticFieldXKey = QStringLiteral("magnetic_field_x");
+const QString SettingsManager::magneticFieldYKey = QStringLiteral("magnetic_field_y");
+const QString SettingsManager::magneticFieldZKey = QStringLiteral("magnetic_field_z");
+const QString SettingsManager::magnetometerXKey = QStringLiteral("magnetometer_x");
+const QString SettingsManager::magnetometerYKey = QStringLiteral("magnetometer_y");
+const QString SettingsManager::magnetometerZKey = QStringLiteral("magnetometer_z");
+const QString SettingsManager::magnetometerCalibLevelKey
+    = QStringLiteral("magnetometer_calib_level");
+const QString SettingsManager::proximityReflectanceKey = QStringLiteral("proximity_reflectance");
+const QString SettingsManager::tapKey = QStringLiteral("tap");
+const QString SettingsManager::gpsLatitudeKey = QStringLiteral("gps_latitude");
+const QString SettingsManager::gpsLongitudeKey = QStringLiteral("gps_longitude");
+const QString SettingsManager::gpsAltitudeKey = QStringLiteral("gps_altitude");
+const QString SettingsManager::modelRotationXKey = QStringLiteral("model_rotation_x");
+const QString SettingsManager::modelRotationYKey = QStringLiteral("model_rotation_y");
+const QString SettingsManager::modelRotationZKey = QStringLiteral("model_rotation_z");
+const QString SettingsManager::modelPositionXKey = QStringLiteral("model_position_x");
+const QString SettingsManager::modelPositionYKey = QStringLiteral("model_position_y");
+const QString SettingsManager::modelPositionZKey = QStringLiteral("model_position_z");
+const QString SettingsManager::doNotShowAgainResetSensorsDialogKey
+    = QStringLiteral("do_not_show_again_reset_sensors_dialog");
+
+static Utils::Key groupedKey(const QString &key)
+{
+    return Utils::keyFromString(QStringLiteral("%1/%2").arg(SettingsManager::groupName, key));
+}
+
+SettingsManager::SettingsManager(QObject *parent)
+    : QObject(parent)
+    , m_settings(Core::ICore::settings())
+{}
+
+void SettingsManager::setValue(const QString &key, const QVariant &value)
+{
+    m_settings->setValue(groupedKey(key), value);
+}
+
+QVariant SettingsManager::value(const QString &key, const QVariant &defaultValue) const
+{
+    return m_settings->value(groupedKey(key), defaultValue);
+}
+
+int SettingsManager::readAccelerometerX() const
+{
+    return value(accelerometerXKey, 0).toInt();
+}
+
+int SettingsManager::readAccelerometerY() const
+{
+    return value(accelerometerYKey, 0).toInt();
+}
+
+int SettingsManager::readAccelerometerZ() const
+{
+    return value(accelerometerZKey, AccelerometerModel::defaultZValue).toInt();
+}
+
+int SettingsManager::readAlsLuxValue() const
+{
+    return value(alsKey, AlsModel::defaultLux).toInt();
+}
+
+double SettingsManager::readGyroscopeX() const
+{
+    return value(gyroscopeXKey, 0.0).toDouble();
+}
+
+double SettingsManager::readGyroscopeY() const
+{
+    return value(gyroscopeYKey, 0.0).toDouble();
+}
+
+double SettingsManager::readGyroscopeZ() const
+{
+    return value(gyroscopeZKey, GyroscopeModel::defaultZValue).toDouble();
+}
+
+double SettingsManager::readMagneticFieldX() const
+{
+    return value(magneticFieldXKey, 0.0).toDouble();
+}
+
+double SettingsManager::readMagneticFieldY() const
+{
+    return value(magneticFieldYKey, MagneticFieldModel::defaultYValue).toDouble();
+}
+
+double SettingsManager::readMagneticFieldZ() const
+{
+    return value(magneticFieldZKey, MagneticFieldModel::defaultZValue).toDouble();
+}
+
+double SettingsManager::readMagnetometerX() const
+{
+    return value(magnetometerXKey, MagnetometerModel::defaultXValue).toDouble();
+}
+
+double SettingsManager::readMagnetometerY() const
+{
+    return value(magnetometerYKey, 0.0).toDouble();
+}
+
+double SettingsManager::readMagnetometerZ() const
+{
+    return value(magnetometerZKey, 0.0).toDouble();
+}
+
+int SettingsManager::readMagnetometerCalibLevel() const
+{
+    return value(magnetometerCalibLevelKey, MagnetometerModel::defaultCalibLevel).toInt();
+}
+
+int SettingsManager::readProximitySensorReflectanceValue() const
+{
+    return value(proximityReflectanceKey, ProximityModel::defaultReflectance).toInt();
+}
+
+TapModel::TapDirection SettingsManager::readTapSensorValue() const
+{
+    return static_cast<TapModel::TapDirection>(value(tapKey, TapModel::Undefined).toInt());
+}
+
+double SettingsManager::readGpsLatitude() const
+{
+    return value(gpsLatitudeKey, 0.0).toDouble();
+}
+
+double SettingsManager::readGpsLongitude() const
+{
+    return value(gpsLongitudeKey, 0.0).toDouble();
+}
+
+double SettingsManager::readGpsAltitude() const
+{
+    return value(gpsAltitudeKey, 0.0).toDouble();
+}
+
+double SettingsManager::read3DModelRotationX() const
+{
+    return value(modelRotationXKey, 0.0).toDouble();
+}
+
+double SettingsManager::read3DModelRotationY() const
+{
+    return value(modelRotationYKey, 0.0).toDouble();
+}
+
+double SettingsManager::read3DModelRotationZ() const
+{
+    return value(modelRotationZKey, 0.0).toDouble();
+}
+
+double SettingsManager::read3DModelPositionX() const
+{
+    return value(modelPositionXKey, 0.0).toDouble();
+}
+
+double SettingsManager::read3DModelPositionY() const
+{
+    return value(modelPositionYKey, 0.0).toDouble();
+}
+
+double SettingsManager::read3DModelPositionZ() const
+{
+    return value(modelPositionZKey, 0.0).toDouble();
+}
+
+bool SettingsManager::readDoNotShowAgainResetSensorsDialog() const
+{
+    return value(doNotShowAgainResetSensorsDialogKey, false).toBool();
+}
+
+void SettingsManager::saveAccelerometerValues(int x, int y, int z)
+{
+    setValue(accelerometerXKey, x);
+    setValue(accelerometerYKey, y);
+    setValue(accelerometerZKey, z);
+}
+
+void SettingsManager::saveAlsLuxValue(int lux)
+{
+    setValue(alsKey, lux);
+}
+
+void SettingsManager::saveGyroscopeValues(double x, double y, double z)
+{
+    setValue(gyroscopeXKey, x);
+    setValue(gyroscopeYKey, y);
+    setValue(gyroscopeZKey, z);
+}
+
+void SettingsManager::saveMagneticFieldValues(double x, double y, double z)
+{
+    setValue(magneticFieldXKey, x);
+    setValue(magneticFieldYKey, y);
+    setValue(magneticFieldZKey, z);
+}
+
+void SettingsManager::saveMagnetometerValues(double x, double y, double z)
+{
+    setValue(magnetometerXKey, x);
+    setValue(magnetometerYKey, y);
+    setValue(magnetometerZKey, z);
+}
+
+void SettingsManager::saveMagnetometerCalibLevel(int calibrationLevel)
+{
+    setValue(magnetometerCalibLevelKey, calibrationLevel);
+}
+
+void SettingsManager::saveProximitySensorReflectanceValue(int reflectance)
+{
+    setValue(proximityReflectanceKey, reflectance);
+}
+
+void SettingsManager::saveTapSensorValue(TapModel::TapDirection tapDirection)
+{
+    setValue(tapKey, static_cast<int>(tapDirection));
+}
+
+void SettingsManager::saveGpsValues(double latitude, double longitude, double altitude)
+{
+    saveGpsLatitude(latitude);
+    saveGpsLongitude(longitude);
+    saveGpsAltitude(altitude);
+}
+
+void SettingsManager::saveGpsLatitude(double latitude)
+{
+    setValue(gpsLatitudeKey, latitude);
+}
+
+void SettingsManager::saveGpsLongitude(double longitude)
+{
+    setValue(gpsLongitudeKey, longitude);
+}
+
+void SettingsManager::saveGpsAltitude(double altitude)
+{
+    setValue(gpsAltitudeKey, altitude);
+}
+
+void SettingsManager::save3DModelRotationValues(double x, double y, double z)
+{
+    setValue(modelRotationXKey, x);
+    setValue(modelRotationYKey, y);
+    setValue(modelRotationZKey, z);
+}
+
+void SettingsManager::save3DModelPositionValues(double x, double y, double z)
+{
+    setValue(modelPositionXKey, x);
+    setValue(modelPositionYKey, y);
+    setValue(modelPositionZKey, z);
+}
+
+void SettingsManager::saveDoNotShowAgainResetSensorsDialog(bool doNotShowAgain)
+{
+    setValue(doNotShowAgainResetSensorsDialogKey, doNotShowAgain);
+}
+
+} // namespace EmulationManagement::Internal

@@ -1,0 +1,30 @@
+#include "tapmodel.h"
+
+namespace EmulationManagement::Internal {
+
+TapModel::TapModel(QObject *parent)
+    : SensorModel(parent)
+{}
+
+QString TapModel::name() const
+{
+    return QStringLiteral("tap");
+}
+
+void TapModel::setDefaultValues()
+{
+    setTapDirection(Undefined);
+}
+
+TapModel::TapDirection TapModel::tapDirection() const
+{
+    return m_tapDirection;
+}
+
+void TapModel::setTapDirection(TapDirection tapDirection)
+{
+    m_tapDirection = tapDirection;
+    Q_EMIT tapDirectionChanged();
+}
+
+} // namespace EmulationManagement::Internal
