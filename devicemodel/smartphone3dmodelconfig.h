@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QMap>
+#include <QObject>
+#include <QString>
+#include <QVariant>
+
+namespace EmulationManagement::Internal {
+
+/*!
+ * Chooses the mesh and the texture that stand for the emulated device.
+ *
+ * INI files in the folder "configs" beside the IDE map the name of a device model ("device-name")
+ * to a file in "meshes" and one in "textures". A device model without a file of its own gets that
+ * of "default". The folder is read once. Nothing is reported when files are missing.
+ */
+class Smartphone3DModelConfig : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString smartphone3DModelMeshUri READ smartphone3DModelMeshUri
+                   NOTIFY smartphone3DModelMeshUriChanged)
+    Q_PROPERTY(QString smartphone3DModelTextureUri READ smartphone3DModelTextureUri
+                   NOTIFY smartphone3DModelTextureUriChanged)
+
+public:
+    explicit Smartphone3DModelConfig(QObject *parent = nullptr);
+
+    /// Reads the INI files. Of two for the same device model the one listed later holds.
+    void initSmartphone3DModelsConfigurations();
+    /// Selects the files of a device model by its exact name.
+    void updateSmartphone3DModel(const QString &deviceName);
+
+    /// Both URIs are set. The files need not exist.
+    Q_INVOKABLE bool smartphone3DModelConfigured() const;
+
+    /// URL of the mesh file.
+    [[nodiscard]] QString smartphone3DModelMeshUri() const;
+    /// URL of the texture image.
+    [[nodiscard]] QString smartphone3DModelTextureUri() const;
+
+Q_SIGNALS:
+    /// The only signal of an update: both URIs are to be read again.
+    void smartphone3DModelConfigChanged();
+    void smartphone3DModelMeshUriChanged();
+    void smartphone3DModelTextureUriChanged();
+
+private:
+    QMap<QString, QVariant> m_configurations;
+    QString m_meshUri;
+    QString m_textureUri;
+};
+
+} // namespace EmulationManagement::Internal
