@@ -1,0 +1,33 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+SensorControls {
+    id: root
+
+    required property var sensorsManager
+
+    readonly property double gravityAccelEarth: 9.80665 // m/s²
+    readonly property double unitsPerG: 1000
+
+    sensorName: "accelerometer"
+    title: qsTr("Accelerometer")
+
+    controls: Component {
+        AxesControls {
+            calculatedValueFactor: root.gravityAccelEarth / root.unitsPerG
+            calculatedValueUnits: qsTr("m/s²")
+            maxValue: 3.0
+            minValue: -3.0
+            model: root.sensorsManager.accelerometer
+            resultValueMultiplier: root.unitsPerG
+            showCalculatedValue: true
+            valueUnits: qsTr("g")
+
+            // 1.001 g times 1000 is a hair below the integer that it stands for
+            onXSubmited: value => root.sensorsManager.setAccelerometerX(Math.round(value))
+            onYSubmited: value => root.sensorsManager.setAccelerometerY(Math.round(value))
+            onZSubmited: value => root.sensorsManager.setAccelerometerZ(Math.round(value))
+        }
+    }
+}

@@ -1,0 +1,182 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Dialogs
+import QtQuick.Layouts
+import QtQuick.Window
+
+import org.plova 1.0
+
+import "../js/sensor-controls-view-logic.js" as Logic
+
+Rectangle {
+    id: root
+
+    readonly property list<EmulationPage> pagesIds: [
+        sensorsManagementPage,
+        sensorsValuesPage,
+        smartphoneModelPage,
+        gpsManagementPage,
+        cameraManagementPage,
+    ]
+    // The sensor that was switched last, and the state to go back to if the emulator refuses.
+    property string lastChangedSensorName: ""
+    property bool lastChangedSensorEnabled: false
+    readonly property var sensorsManager: sensorsEmulationManager // qmllint disable unqualified
+    readonly property color separatorColor: themeSeparatorColor // qmllint disable unqualified
+
+    property alias errorDialog: errorDialog
+    property alias messageDialog: messageDialog
+
+    function switchVisiblePage(page: EmulationPage) {
+        const current = Array.from(pagesIds).filter(candidate => candidate.active).pop();
+        current.exitPage(() => {
+            for (const other of pagesIds) {
+                if (other !== current)
+                    other.active = false;
+            }
+            if (current === sensorsValuesPage && page === smartphoneModelPage
+                    && sensorsValuesPage.modelSensorChanged
+                    && !settingsManager.readDoNotShowAgainResetSensorsDialog()) {
+                warningDialog.callback = () => changeActivePage(current, page);
+                warningDialog.show();
+            } else {
+                changeActivePage(current, page);
+            }
+        });
+    }
+
+    function changeActivePage(current: EmulationPage, page: EmulationPage) {
+        current.active = false;
+        page.active = true;
+    }
+
+    width: 1100
+    height: 600
+    color: themeBackgroundColorNormal // qmllint disable unqualified
+
+    ErrorMessageDialog {
+        id: errorDialog
+    }
+
+    MessageDialog {
+        id: messageDialog
+
+        buttons: MessageDialog.Ok
+    }
+
+    SettingsManager {
+        id: settingsManager
+    }
+
+    WarningDialog {
+        id: warningDialog
+
+        property var callback: null
+
+        text: qsTr("The sensors values will be reset using the smartphone 3D-model position. Do you want to continue?")
+        withDoNotShowAgainCheckBox: true
+
+        onAccepted: doNotShowAgain => {
+            if (callback)
+                callback();
+            settingsManager.saveDoNotShowAgainResetSensorsDialog(doNotShowAgain);
+        }
+    }
+
+    Connections {
+        target: root.sensorsManager
+
+        function onReplyFromEmulatorReceived(reply: string) {
+            Logic.replyFromEmulatorReceivedHandler(reply, errorDialog);
+        }
+    }
+
+    Column {
+        id: buttonsColumn
+
+        anchors.top: parent.top
+        anchors.bottom: parent.bottom
+        anchors.left: parent.left
+        width: 180
+
+        PageButton {
+            active: sensorsManagementPage.visible
+            text: qsTr("Sensors Management")
+            onClicked: root.switchVisiblePage(sensorsManagementPage)
+        }
+
+        PageButton {
+            active: sensorsValuesPage.visible
+            text: qsTr("Sensors Values")
+            onClicked: root.switchVisiblePage(sensorsValuesPage)
+        }
+
+        PageButton {
+            active: smartphoneModelPage.visible
+            text: qsTr("Orientation Management")
+            onClicked: root.switchVisiblePage(smartphoneModelPage)
+        }
+
+        PageButton {
+            active: gpsManagementPage.visible
+            text: qsTr("GPS Management")
+            onClicked: root.switchVisiblePage(gpsManagementPage)
+        }
+
+        PageButton {
+            active: cameraManagementPage.visible
+            text: qsTr("Camera Management")
+            onClicked: root.switchVisiblePage(cameraManagementPage)
+        }
+    }
+
+    Rectangle {
+        id: buttonsColumnSeparator
+
+        anchors.top: parent.top
+        anchors.bottom: parent.bottom
+        anchors.left: buttonsColumn.right
+        width: 1
+        color: root.separatorColor
+    }
+
+    Item {
+        id: pagesArea
+
+        anchors.top: parent.top
+        anchors.bottom: parent.bottom
+        anchors.left: buttonsColumnSeparator.right
+        anchors.right: parent.right
+
+        SensorsManagementPage {
+            id: sensorsManagementPage
+
+            anchors.fill: parent
+        }
+
+        SensorsValuesPage {
+            id: sensorsValuesPage
+
+            anchors.fill: parent
+            active: true
+        }
+
+        SmartphoneModelPage {
+            id: smartphoneModelPage
+
+            anchors.fill: parent
+        }
+
+        GpsManagementPage {
+            id: gpsManagementPage
+
+            anchors.fill: parent
+        }
+
+        CameraManagementPage {
+            id: cameraManagementPage
+
+            anchors.fill: parent
+        }
+    }
+}

@@ -1,0 +1,6 @@
+import QtQuick.Dialogs
+
+MessageDialog {
+    title: qsTr("Error")
+    buttons: MessageDialog.Ok
+}

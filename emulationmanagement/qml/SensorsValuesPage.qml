@@ -1,0 +1,95 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+
+EmulationPage {
+    id: root
+
+    readonly property var sensorsManager: sensorsEmulationManager // qmllint disable unqualified
+    // A sensor that the device model page drives too was changed since this page was shown.
+    property bool modelSensorChanged: false
+
+    function resetValues() {
+        for (const control of sensorsGrid.children)
+            control.clearFocus();
+        sensorsManager.setDefaultValues();
+    }
+
+    onActiveChanged: {
+        if (active)
+            modelSensorChanged = false;
+    }
+
+    component ModelWatch: Connections {
+        function onXChanged() {
+            root.modelSensorChanged = true;
+        }
+        function onYChanged() {
+            root.modelSensorChanged = true;
+        }
+        function onZChanged() {
+            root.modelSensorChanged = true;
+        }
+    }
+
+    ModelWatch {
+        target: root.sensorsManager.accelerometer
+    }
+
+    ModelWatch {
+        target: root.sensorsManager.magnetometer
+    }
+
+    ModelWatch {
+        target: root.sensorsManager.magneticField
+    }
+
+    ModelWatch {
+        target: root.sensorsManager.gyroscope
+    }
+
+    Connections {
+        target: root.sensorsManager
+
+        function onSensorsInitialized() {
+            root.modelSensorChanged = false;
+        }
+    }
+
+    ColumnLayout {
+        anchors.fill: parent
+        anchors.margins: 12
+        spacing: 12
+
+        ScrollView {
+            id: scrollView
+
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+
+            GridLayout {
+                id: sensorsGrid
+
+                width: Math.max(scrollView.availableWidth, implicitWidth)
+                columns: 2
+                columnSpacing: 12
+                rowSpacing: 8
+                uniformCellWidths: true
+
+                AccelerometerControls {
+                    Layout.fillWidth: true
+                    controlsEnabled: root.sensorsManager.sensorsEnabledStates[sensorName] ?? false
+                    sensorsManager: root.sensorsManager
+                    visible: root.sensorsManager.sensorsAvailability[sensorName] ?? false
+                }
+            }
+        }
+
+        Button {
+            text: qsTr("Reset values")
+            onClicked: root.resetValues()
+        }
+    }
+}
