@@ -1,0 +1,49 @@
+#include "emulationmanagementpackageschecker.h"
+
+const QString EmulationManagementPackagesChecker::sensorfwPluginsPackageName
+    = QStringLiteral("sensorfw-qt5-emulator-plugins");
+const QString EmulationManagementPackagesChecker::rdbusinvokerPackageName
+    = QStringLiteral("remote-dbus-invoker");
+const QString EmulationManagementPackagesChecker::geoclueEmulatorPackageName
+    = QStringLiteral("geoclue-emulator");
+const QString EmulationManagementPackagesChecker::gtsreamerEmulatorPackageName
+    = QStringLiteral("gstreamer-emulator");
+const QString EmulationManagementPackagesChecker::searchPackagesCommand = QStringLiteral("rpm -qa");
+
+EmulationManagementPackagesChecker::EmulationManagementPackagesChecker(QObject *parent)
+    : QObject(parent)
+{
+    connect(&m_runner, &QSsh::SshRemoteProcessRunner::processClosed,
+            this, &EmulationManagementPackagesChecker::handleSshProcessFinished);
+}
+
+void EmulationManagementPackagesChecker::checkPackages(
+    const QSsh::SshConnectionParameters &parameters)
+{
+    m_parameters = parameters;
+    m_packages = {{sensorfwPluginsPackageName, false},
+                  {rdbusinvokerPackageName, false},
+                  {geoclueEmulatorPackageName, false},
+                  {gtsreamerEmulatorPackageName, false}};
+    m_runner.run(searchPackagesCommand, m_parameters);
+}
+
+void EmulationManagementPackagesChecker::handleSshProcessFinished(const QString &error)
+{
+    Q_UNUSED(error) // an emulator that cannot be reached has no package either
+    if (!m_runner.command().contains(searchPackagesCommand))
+        return;
+
+    const QString installed = QString::fromUtf8(m_runner.readAllStandardOutput());
+    QString missing;
+    for (auto package = m_packages.begin(); package != m_packages.end(); ++package) {
+        package.value() = installed.contains(package.key());
+        if (!package.value())
+            missing += package.key() + u'\n';
+    }
+    if (missing.isEmpty())
+        Q_EMIT checkFinished({}, {});
+    else
+        Q_EMIT checkFinished(tr("Necessary packages not found on emulator!"),
+                             tr("Packages is not installed: \n") + missing);
+}

@@ -1,0 +1,219 @@
+#include "emulationmanagementplugin.h"
+
+#include "emulationmanagementconstants.h"
+#include "textfielddoublevalidator.h"
+#include "warningdialog.h"
+
+#include <coreplugin/actionmanager/actioncontainer.h>
+#include <coreplugin/actionmanager/actionmanager.h>
+#include <coreplugin/actionmanager/command.h>
+#include <coreplugin/coreconstants.h>
+#include <coreplugin/icore.h>
+
+#include <extensionsystem/pluginmanager.h>
+
+#include <ravik/sdk.h>
+
+#include <utils/filepath.h>
+#include <utils/qtcsettings.h>
+#include <utils/theme/theme.h>
+
+#include <QAction>
+#include <QDebug>
+#include <QDir>
+#include <QLocale>
+#include <QQmlContext>
+#include <QSettings>
+#include <QTranslator>
+
+namespace EmulationManagement::Internal {
+
+namespace {
+
+constexpr char qmlModule[] = "org.plova";
+constexpr int qmlMajorVersion = 1;
+constexpr int qmlMinorVersion = 0;
+
+constexpr char remoteDBusInvokerServiceProperty[] = "remoteDBusInvokerService";
+constexpr char gpsEmulationManagerProperty[] = "gpsEmulationManager";
+
+} // namespace
+
+bool EmulationManagementPlugin::initialize(const QStringList &arguments, QString *errorString)
+{
+    Q_UNUSED(arguments)
+    Q_UNUSED(errorString)
+
+    setupTranslations();
+    registerQmlTypes();
+    setupContextProperties();
+    initEmulatorModesSensorsConfigurations();
+    // The GPS manager listens to the invoker twice: it sets the emulator up a second time on each
+    // connection and handles every reply twice.
+    m_gpsEmulationManager.setRdbusinvoker(&m_remoteDBusInvokerService);
+    setupView();
+    setupMenu();
+    return true;
+}
+
+void EmulationManagementPlugin::extensionsInitialized()
+{
+    m_sdk = Ravik::Sdk::instance();
+    if (!m_sdk)
+        return;
+    connect(m_sdk, &Ravik::Sdk::emulatorAdded,
+            this, &EmulationManagementPlugin::setUpEmulatorConnection);
+    connect(m_sdk, &Ravik::Sdk::aboutToRemoveEmulator,
+            this, &EmulationManagementPlugin::setUpEmulatorConnection);
+    connect(m_sdk, &Ravik::Sdk::deviceModelsChanged,
+            this, &EmulationManagementPlugin::setUpEmulatorConnection);
+}
+
+ExtensionSystem::IPlugin::ShutdownFlag EmulationManagementPlugin::aboutToShutdown()
+{
+    m_emulationManagementView.close();
+    return SynchronousShutdown;
+}
+
+void EmulationManagementPlugin::setupTranslations()
+{
+    static constexpr char catalogue[] = "EmulationManagement";
+
+    const QVariant language
+        = ExtensionSystem::PluginManager::settings()->value("General/OverrideLanguage");
+    const QLocale locale = language.isValid() ? QLocale(language.toString()) : QLocale();
+    const QString directory = Core::ICore::resourcePath("translations").toFSPathString();
+
+    auto *translator = new QTranslator(this);
+    if (translator->load(locale, QLatin1StringView(catalogue), QStringLiteral("_"), directory))
+        QCoreApplication::installTranslator(translator);
+    else
+        qDebug() << "Failed to load translator:" << directory << catalogue;
+}
+
+void EmulationManagementPlugin::registerQmlTypes()
+{
+    qputenv("QML_XHR_ALLOW_FILE_READ", "1");
+
+    qmlRegisterType<WarningDialog>(qmlModule, qmlMajorVersion, qmlMinorVersion, "WarningDialog");
+    qmlRegisterType<SettingsManager>(qmlModule, qmlMajorVersion, qmlMinorVersion,
+                                     "SettingsManager");
+    qmlRegisterType<SensorsEmulationManager>(qmlModule, qmlMajorVersion, qmlMinorVersion,
+                                             "SensorsEmulationManager");
+    qmlRegisterType<TextFieldDoubleValidator>(qmlModule, qmlMajorVersion, qmlMinorVersion,
+                                              "TextFieldDoubleValidator");
+    qRegisterMetaType<AlsModel::LightLevel>("AlsModel::LightLevel");
+    qRegisterMetaType<TapModel::TapDirection>("TapModel::TapDirection");
+    qmlRegisterUncreatableType<AlsModel>(
+        qmlModule, qmlMajorVersion, qmlMinorVersion, "AlsModel",
+        QStringLiteral("Could not create the AlsModel instance"));
+    qmlRegisterUncreatableType<TapModel>(
+        qmlModule, qmlMajorVersion, qmlMinorVersion, "TapModel",
+        QStringLiteral("Could not create the TapModel instance"));
+}
+
+void EmulationManagementPlugin::setupContextProperties()
+{
+    m_gpsEmulationManager.setRdbusinvoker(&m_remoteDBusInvokerService);
+    m_sensorsEmulationManager.setRdbusinvoker(&m_remoteDBusInvokerService);
+
+    const auto setProperty = [context = m_emulationManagementView.rootContext()](
+                                 const char *name, const auto &value) {
+        context->setContextProperty(QLatin1StringView(name), value);
+    };
+    setProperty(remoteDBusInvokerServiceProperty, &m_remoteDBusInvokerService);
+    setProperty(gpsEmulationManagerProperty, &m_gpsEmulationManager);
+    setProperty("sensorsEmulationManager", &m_sensorsEmulationManager);
+    setProperty("smartphone3DModelConfig", &m_smartphone3DModelConfig);
+    setProperty("emulationManagementPlugin", this);
+
+    const Utils::Theme *theme = Utils::creatorTheme();
+    setProperty("themeBackgroundColorNormal", theme->color(Utils::Theme::BackgroundColorNormal));
+    setProperty("themeHighlightColor", theme->color(Utils::Theme::PaletteHighlight));
+    setProperty("themeSeparatorColor", theme->color(Utils::Theme::FancyToolBarSeparatorColor));
+    setProperty("darkUserInterface", theme->flag(Utils::Theme::DarkUserInterface));
+}
+
+void EmulationManagementPlugin::setupView()
+{
+    QQmlContext *context = m_emulationManagementView.rootContext();
+    context->setContextProperty(QStringLiteral("cameraEmulationManager"),
+                                &m_cameraEmulationManager);
+
+    m_emulationManagementView.setTitle(tr("Emulation Management"));
+    m_emulationManagementView.setResizeMode(QQuickView::SizeRootObjectToView);
+    m_emulationManagementView.setSource(
+        QUrl(QStringLiteral("qrc:/emulationmanagement/qml/EmulationManagementView.qml")));
+
+    connect(&m_emulationManagementView, &QWindow::visibleChanged, this, [this](bool visible) {
+        if (visible || !m_cameraEmulationManager.streamRunning())
+            return;
+        m_cameraEmulationManager.stopVideoStream();
+        m_cameraEmulationManager.stopCameraStream();
+    });
+}
+
+void EmulationManagementPlugin::setupMenu()
+{
+    auto *action = new QAction(tr("Emulation Management…"), this);
+    Core::Command *command
+        = Core::ActionManager::registerAction(action,
+                                              Constants::showEmulationManagementViewActionId,
+                                              Core::Context(Core::Constants::C_GLOBAL));
+    connect(action, &QAction::triggered,
+            this, &EmulationManagementPlugin::showEmulationManagementView);
+
+    // made by the SDK's main plugin when it came first, and titled by it
+    Core::ActionContainer *sdkMenu = Core::ActionManager::createMenu(Constants::sdkToolsMenuId);
+    sdkMenu->addAction(command);
+    Core::ActionManager::actionContainer(Core::Constants::M_TOOLS)->addMenu(sdkMenu);
+}
+
+void EmulationManagementPlugin::initEmulatorModesSensorsConfigurations()
+{
+    m_deviceSensorsConfigurations.clear();
+    const QDir directory(
+        QStringLiteral("%1/%2").arg(QCoreApplication::applicationDirPath(), QString()));
+    const QStringList fileNames
+        = directory.entryList({QStringLiteral("*.ini")}, QDir::Files, QDir::Unsorted);
+    for (const QString &fileName : fileNames) {
+        QSettings file(QStringLiteral("%1/%2").arg(directory.path(), fileName),
+                       QSettings::IniFormat);
+        QVariantMap sensors;
+        file.beginGroup(QStringLiteral("sensors"));
+        const QStringList names = file.childKeys();
+        for (const QString &name : names)
+            sensors.insert(name, file.value(name, true).toBool());
+        file.endGroup();
+        m_deviceSensorsConfigurations.insert(file.value(QStringLiteral("device-name")).toString(),
+                                             sensors);
+    }
+}
+
+void EmulationManagementPlugin::updateSensorsConfiguration(const QString &deviceModelName)
+{
+    const QVariantMap sensors = m_deviceSensorsConfigurations[deviceModelName].toMap();
+    if (sensors.isEmpty()) {
+        m_sensorsEmulationManager.makeAllSensorsAvailable();
+        return;
+    }
+    for (auto sensor = sensors.cbegin(); sensor != sensors.cend(); ++sensor)
+        m_sensorsEmulationManager.setSensorAvailable(sensor.key(), sensor.value().toBool());
+}
+
+void EmulationManagementPlugin::showMessageBox(const QString &text,
+                                               const QString &informativeText,
+                                               const QMessageBox::StandardButtons &buttons)
+{
+    QMessageBox box(QMessageBox::Information,
+                    tr("Emulation management plugin"),
+                    text,
+                    buttons,
+                    Core::ICore::mainWindow(),
+                    Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
+    box.setInformativeText(informativeText);
+    if (box.exec() == QMessageBox::Retry)
+        showEmulationManagementView();
+}
+
+} // namespace EmulationManagement::Internal

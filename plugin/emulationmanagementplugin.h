@@ -1,0 +1,93 @@
+#pragma once
+
+#include "emulationmanagementpackageschecker.h"
+
+#include <camera/cameraemulationmanager.h>
+
+#include <devicemodel/smartphone3dmodelconfig.h>
+
+#include <link/remotedbusinvokerservice.h>
+
+#include <location/gpsemulationmanager.h>
+
+#include <sensors/sensorsemulationmanager.h>
+
+#include <extensionsystem/iplugin.h>
+
+#include <QMap>
+#include <QMessageBox>
+#include <QPointer>
+#include <QQuickView>
+#include <QVariant>
+
+namespace Ravik {
+class Emulator;
+class Sdk;
+class VirtualMachine;
+} // namespace Ravik
+
+namespace EmulationManagement::Internal {
+
+/*!
+ * The plugin: owns every long-lived object, wires them, and opens the tool window.
+ *
+ * It serves the first emulator of the SDK. The window is shown once the emulator runs, its two
+ * ports are forwarded and its packages were found.
+ */
+class EmulationManagementPlugin final : public ExtensionSystem::IPlugin
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "org.qt-project.Qt.QtCreatorPlugin" FILE "EmulationManagement.json")
+
+public:
+    bool initialize(const QStringList &arguments, QString *errorString) override;
+    void extensionsInitialized() override;
+    ShutdownFlag aboutToShutdown() override;
+
+    /// Makes the window appear, or tells the user what is in the way.
+    void showEmulationManagementView();
+
+Q_SIGNALS:
+    /// The emulator was found running with its ports forwarded, before anything is shown.
+    void emulationManagementViewShowed();
+
+private:
+    void setupTranslations();
+    void registerQmlTypes();
+    void setupContextProperties();
+    void setupView();
+    void setupMenu();
+    void initEmulatorModesSensorsConfigurations();
+
+    /*!
+     * Takes the SDK's first emulator and follows it.
+     *
+     * Earlier connections stay, so after several changes of the SDK's lists a handler runs once
+     * for each of them.
+     */
+    void setUpEmulatorConnection();
+    /// Returns whether the window may be opened; adds missing forwardings to a machine that is off.
+    bool setUpPortForwarding();
+    void checkEmulationPackages();
+    void handlePackagesChecked(const QString &message, const QString &detailedText);
+    void handleConnectionLost();
+    void updateSensorsConfiguration(const QString &deviceModelName);
+    void showMessageBox(const QString &text, const QString &informativeText,
+                        const QMessageBox::StandardButtons &buttons);
+
+    RemoteDBusInvokerService m_remoteDBusInvokerService;
+    GPSEmulationManager m_gpsEmulationManager;
+    SensorsEmulationManager m_sensorsEmulationManager;
+    Smartphone3DModelConfig m_smartphone3DModelConfig;
+    CameraEmulationManager m_cameraEmulationManager;
+    QQuickView m_emulationManagementView;
+    Ravik::Sdk *m_sdk = nullptr;
+    QPointer<Ravik::Emulator> m_currentEmulator;
+    bool m_vmRunning = false;
+    bool m_packagesChecked = false;
+    bool m_startRequested = false;
+    QMap<QString, QVariant> m_deviceSensorsConfigurations;
+    EmulationManagementPackagesChecker m_packagesChecker;
+};
+
+} // namespace EmulationManagement::Internal

@@ -1,0 +1,179 @@
+// The part of the plugin object that follows the emulator, prepares it and opens the window.
+
+#include "emulationmanagementplugin.h"
+
+#include <ravik/emulator.h>
+#include <ravik/execasynchronous.h>
+#include <ravik/sdk.h>
+#include <ravik/virtualmachine.h>
+
+#include <algorithm>
+#include <functional>
+
+namespace EmulationManagement::Internal {
+
+namespace {
+
+/// The machine state in which the emulator can be reached.
+constexpr int reachableState = 4;
+
+struct PortForwarding
+{
+    QString rule;
+    QString protocol;
+    unsigned short hostPort;
+    unsigned short emulatorPort;
+};
+
+QList<PortForwarding> portForwardings()
+{
+    return {{RemoteDBusInvokerService::portForwardingRule,
+             QStringLiteral("tcp"),
+             RemoteDBusInvokerService::hostTcpPort,
+             RemoteDBusInvokerService::emulatorTcpPort},
+            {CameraEmulationManager::portForwardingRule,
+             QStringLiteral("udp"),
+             CameraEmulationManager::udpPort,
+             CameraEmulationManager::udpPort}};
+}
+
+} // namespace
+
+void EmulationManagementPlugin::setUpEmulatorConnection()
+{
+    const QList<Ravik::Emulator *> emulators = m_sdk->emulators();
+    if (emulators.isEmpty()) {
+        m_currentEmulator = nullptr;
+        return;
+    }
+    Ravik::Emulator *emulator = emulators.first();
+    m_currentEmulator = emulator;
+    updateSensorsConfiguration(emulator->deviceModel().name);
+    m_smartphone3DModelConfig.updateSmartphone3DModel(emulator->deviceModel().name);
+
+    connect(emulator, &Ravik::Emulator::deviceModelNameChanged,
+            this, &EmulationManagementPlugin::updateSensorsConfiguration);
+    connect(emulator, &Ravik::Emulator::deviceModelNameChanged,
+            &m_smartphone3DModelConfig, &Smartphone3DModelConfig::updateSmartphone3DModel);
+    connect(&m_remoteDBusInvokerService, &RemoteDBusInvokerService::webSocketDisconnected,
+            this, &EmulationManagementPlugin::handleConnectionLost);
+
+    Ravik::VirtualMachine *machine = emulator->virtualMachine();
+    connect(machine, &Ravik::VirtualMachine::virtualMachineOffChanged, this, [this](bool off) {
+        if (off) {
+            m_emulationManagementView.hide();
+            m_packagesChecked = false;
+        }
+        m_vmRunning = !off;
+    });
+    connect(machine, &Ravik::VirtualMachine::stateChanged, this, [this, machine] {
+        if (machine->state() == reachableState && m_startRequested) {
+            checkEmulationPackages();
+            m_startRequested = false;
+        }
+    });
+}
+
+void EmulationManagementPlugin::showEmulationManagementView()
+{
+    if (!m_currentEmulator) {
+        showMessageBox(tr("The emulation management plugin cannot be used. Please, close the "
+                          "emulator if it is running and add %1 Emulator to the list of available "
+                          "devices in Qt Creator settings.")
+                           .arg(Ravik::Sdk::osVariant()),
+                       {}, QMessageBox::Ok);
+        return;
+    }
+
+    m_vmRunning = !m_currentEmulator->virtualMachine()->isOff(nullptr, nullptr);
+    if (!m_vmRunning) {
+        m_emulationManagementView.hide();
+        m_packagesChecked = false;
+    }
+    // waits in an event loop, during which the emulator may be removed
+    if (!setUpPortForwarding() || !m_currentEmulator)
+        return;
+
+    if (!m_vmRunning) {
+        m_currentEmulator->virtualMachine()->connectTo({}, this, [](bool) {});
+        m_startRequested = true;
+        return;
+    }
+    Q_EMIT emulationManagementViewShowed();
+    if (!m_packagesChecked) {
+        checkEmulationPackages();
+        return;
+    }
+    m_cameraEmulationManager.setupCameraStreamPipeline();
+    m_emulationManagementView.show();
+}
+
+bool EmulationManagementPlugin::setUpPortForwarding()
+{
+    Ravik::VirtualMachine *machine = m_currentEmulator->virtualMachine();
+    const QList<PortForwarding> forwardings = portForwardings();
+    const bool complete = std::ranges::all_of(forwardings, [machine](const PortForwarding &port) {
+        return machine->hasPortForwarding(port.hostPort, nullptr);
+    });
+    if (complete)
+        return true;
+
+    if (m_vmRunning) {
+        showMessageBox(tr("The emulation management plugin cannot be used. Please, close %1 and "
+                          "try to use 'Emulation management…' again.")
+                           .arg(m_currentEmulator->name()),
+                       {}, QMessageBox::Ok);
+        return false;
+    }
+    // The machine refuses a rule that it has.
+    for (const PortForwarding &port : forwardings) {
+        Ravik::execAsynchronous([this, &port](const QObject *context,
+                                              std::function<void(bool)> callback) {
+            if (!m_currentEmulator)
+                return callback(false);
+            m_currentEmulator->virtualMachine()->addPortForwarding(
+                port.rule, port.protocol, port.hostPort, port.emulatorPort, context, callback);
+        });
+    }
+    return true;
+}
+
+void EmulationManagementPlugin::checkEmulationPackages()
+{
+    if (!m_currentEmulator)
+        return;
+    connect(&m_packagesChecker, &EmulationManagementPackagesChecker::checkFinished,
+            this, &EmulationManagementPlugin::handlePackagesChecked);
+    m_packagesChecker.checkPackages(m_currentEmulator->virtualMachine()->sshParameters());
+}
+
+void EmulationManagementPlugin::handlePackagesChecked(const QString &message,
+                                                      const QString &detailedText)
+{
+    if (message.isEmpty()) {
+        m_packagesChecked = true;
+        m_remoteDBusInvokerService.connectToEmulator();
+        m_cameraEmulationManager.setupCameraStreamPipeline();
+        m_emulationManagementView.show();
+    } else {
+        showMessageBox(message, detailedText, QMessageBox::Close);
+    }
+    // each check is answered once
+    disconnect(&m_packagesChecker, nullptr, nullptr, nullptr);
+}
+
+void EmulationManagementPlugin::handleConnectionLost()
+{
+    if (!m_gpsEmulationManager.trackLoaded())
+        return;
+    // no track is loaded after that, so the attempts to reconnect that fail now stay silent
+    m_gpsEmulationManager.setupGPSData();
+    Q_EMIT m_gpsEmulationManager.replyFromEmulatorReceived({});
+    const QString name = m_currentEmulator ? m_currentEmulator->name() : QString();
+    showMessageBox(tr("Emulator connection is lost. Please, run %1 if it is needed and load the "
+                      "GPS-track again.")
+                       .arg(name),
+                   {}, QMessageBox::Ok);
+}
+
+} // namespace EmulationManagement::Internal

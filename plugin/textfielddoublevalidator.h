@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QDoubleValidator>
+
+/*!
+ * Validates real numbers in the C locale so strictly that a number outside of the range cannot
+ * even be begun: with a bottom of 10, typing "1" is refused.
+ */
+class TextFieldDoubleValidator : public QDoubleValidator
+{
+    Q_OBJECT
+
+public:
+    using QDoubleValidator::QDoubleValidator;
+
+    /*!
+     * Empty text and a lone "-" are Intermediate. A number within the range that has at most
+     * decimals() characters after its point is Acceptable, all else Invalid.
+     */
+    State validate(QString &input, int &pos) const override;
+};

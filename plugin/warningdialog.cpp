@@ -1,0 +1,68 @@
+#include "warningdialog.h"
+
+#include <coreplugin/icore.h>
+
+#include <QCheckBox>
+
+namespace EmulationManagement::Internal {
+
+QString WarningDialog::text() const
+{
+    return m_text;
+}
+
+void WarningDialog::setText(const QString &text)
+{
+    m_text = text;
+    Q_EMIT textChanged();
+}
+
+QMessageBox::StandardButtons WarningDialog::standardButtons() const
+{
+    return m_standardButtons;
+}
+
+void WarningDialog::setStandardButtons(QMessageBox::StandardButtons buttons)
+{
+    m_standardButtons = buttons;
+    Q_EMIT standardButtonsChanged();
+}
+
+bool WarningDialog::withDoNotShowAgainCheckBox() const
+{
+    return m_withDoNotShowAgainCheckBox;
+}
+
+void WarningDialog::setWithDoNotShowAgainCheckBox(bool withCheckBox)
+{
+    m_withDoNotShowAgainCheckBox = withCheckBox;
+    Q_EMIT withDoNotShowAgainCheckBoxChanged();
+}
+
+void WarningDialog::show()
+{
+    QMessageBox box(QMessageBox::Question,
+                    tr("Warning"),
+                    m_text,
+                    m_standardButtons,
+                    Core::ICore::mainWindow(),
+                    Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
+    auto *doNotShowAgain = new QCheckBox(tr("Do not show again"));
+    box.setCheckBox(doNotShowAgain);
+    doNotShowAgain->setVisible(m_withDoNotShowAgainCheckBox);
+
+    switch (box.exec()) {
+    case QMessageBox::Ok:
+    case QMessageBox::Apply:
+        Q_EMIT accepted(m_withDoNotShowAgainCheckBox && doNotShowAgain->isChecked());
+        break;
+    case QMessageBox::Cancel:
+    case QMessageBox::Discard:
+        Q_EMIT rejected();
+        break;
+    default:
+        break;
+    }
+}
+
+} // namespace EmulationManagement::Internal
