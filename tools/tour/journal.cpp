@@ -1,0 +1,65 @@
+#include "journal.h"
+
+#include "waiting.h"
+
+#include <QJsonDocument>
+
+#include <algorithm>
+
+// Bus, service, object path and interface stand before the method in a request line.
+static constexpr qsizetype addressFieldCount = 4;
+
+Journal::Journal(const QString &path)
+    : m_file(path)
+{}
+
+qsizetype Journal::position()
+{
+    read();
+    return m_entries.size();
+}
+
+QList<QJsonObject> Journal::entriesSince(qsizetype position)
+{
+    read();
+    return m_entries.sliced(position);
+}
+
+QStringList Journal::callsSince(qsizetype position)
+{
+    QStringList calls;
+    const QList<QJsonObject> entries = entriesSince(position);
+    for (const QJsonObject &entry : entries) {
+        if (entry.value(u"event").toString() == u"call")
+            calls << entry.value(u"text").toString().section(u' ', addressFieldCount);
+    }
+    return calls;
+}
+
+void Journal::waitForEvent(const QString &event, qsizetype since)
+{
+    waitFor(QStringLiteral("the emulator's event \"%1\"").arg(event), [&] {
+        const QList<QJsonObject> entries = entriesSince(since);
+        return std::ranges::any_of(entries, [&](const QJsonObject &entry) {
+            return entry.value(u"event").toString() == event;
+        });
+    });
+}
+
+void Journal::waitForCall(const QString &call, qsizetype since)
+{
+    waitFor(QStringLiteral("the emulator to get \"%1\"").arg(call),
+            [&] { return callsSince(since).contains(call); });
+}
+
+void Journal::read()
+{
+    // the file comes into being when the emulator starts
+    if (!m_file.isOpen() && (!m_file.exists() || !m_file.open(QIODevice::ReadOnly)))
+        return;
+    m_partialLine += m_file.readAll();
+    QByteArrayList lines = m_partialLine.split('\n');
+    m_partialLine = lines.takeLast();
+    for (const QByteArray &line : std::as_const(lines))
+        m_entries << QJsonDocument::fromJson(line).object();
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QList>
+#include <QString>
+
+/*!
+ * Follows the emulator's journal, one JSON object a line.
+ *
+ * A position in the journal is the number of entries before it.
+ */
+class Journal
+{
+public:
+    explicit Journal(const QString &path);
+
+    /// The position behind the last entry.
+    [[nodiscard]] qsizetype position();
+    [[nodiscard]] QList<QJsonObject> entriesSince(qsizetype position);
+    /// The texts of the D-Bus calls "method arguments", without the address.
+    [[nodiscard]] QStringList callsSince(qsizetype position);
+
+    /// Waits for an entry of this event, for example "ready".
+    void waitForEvent(const QString &event, qsizetype since);
+    /// Waits for a call, for example "setAccelerometerX int32:10".
+    void waitForCall(const QString &call, qsizetype since);
+
+private:
+    void read();
+
+    QFile m_file;
+    QByteArray m_partialLine;
+    QList<QJsonObject> m_entries;
+};

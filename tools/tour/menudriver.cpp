@@ -1,0 +1,56 @@
+#include "menudriver.h"
+
+#include "waiting.h"
+
+#include <QAction>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+#include <QWindow>
+
+#include <algorithm>
+
+namespace MenuDriver {
+
+/// Uses an entry of a menu or menu bar as the mouse does.
+template<typename Menu>
+static QAction *use(Menu *menu, const QString &text)
+{
+    QAction *action = nullptr;
+    waitFor(QStringLiteral("the menu entry \"%1\"").arg(text), [&] {
+        const QList<QAction *> actions = menu->actions();
+        const auto found = std::ranges::find_if(actions, [&](QAction *candidate) {
+            return candidate->text().remove(u'&') == text && candidate->isVisible()
+                   && candidate->isEnabled();
+        });
+        action = found == actions.end() ? nullptr : *found;
+        return action != nullptr;
+    });
+    // Events to the window go the way of real ones, through the grab of the menus that are open.
+    QWindow *window = menu->window()->windowHandle();
+    const QPoint position = menu->mapTo(menu->window(), menu->actionGeometry(action).center());
+    QTest::mouseMove(window, position - QPoint(1, 1));
+    QTest::mouseMove(window, position);
+    QTest::mouseClick(window, Qt::LeftButton, {}, position);
+    return action;
+}
+
+QMenu *open(QMainWindow *mainWindow, const QStringList &path)
+{
+    QMenu *menu = use(mainWindow->menuBar(), path.first())->menu();
+    for (const QString &text : path.sliced(1)) {
+        waitFor(QStringLiteral("the menu to open"), [&] { return menu->isVisible(); });
+        menu = use(menu, text)->menu();
+    }
+    waitFor(QStringLiteral("the menu \"%1\" to open").arg(path.last()),
+            [&] { return menu->isVisible(); });
+    return menu;
+}
+
+void choose(QMenu *menu, const QString &text)
+{
+    use(menu, text);
+}
+
+} // namespace MenuDriver

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "journal.h"
+#include "windowdriver.h"
+
+#include <QString>
+
+/*!
+ * A walk through the plugin as a user takes it: from the IDE's menu through every page.
+ *
+ * Prints what it does, saves a picture of every page, and throws WaitingFailed when the emulator
+ * does not receive what was sent.
+ */
+class Tour
+{
+public:
+    /// \a pictureFolder must exist; \a journalPath is where the emulator's journal appears.
+    Tour(const QString &pictureFolder, const QString &journalPath);
+
+    void run();
+
+private:
+    void visitAll();
+    void openWindow();
+    void visitSensorsValues(const WindowDriver &driver);
+    void visitOtherPages(const WindowDriver &driver);
+    void takePicture(const QString &name);
+    void printCalls();
+
+    QString m_pictureFolder;
+    Journal m_journal;
+    int m_pictureCount = 0;
+};

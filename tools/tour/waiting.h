@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+#include <chrono>
+#include <functional>
+#include <stdexcept>
+
+/// Something did not come about in time; what() says what.
+class WaitingFailed : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Runs the event loop until \a condition holds. Throws WaitingFailed after \a limit.
+void waitFor(const QString &what, const std::function<bool()> &condition,
+             std::chrono::milliseconds limit = std::chrono::seconds(20));

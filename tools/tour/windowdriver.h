@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+class QQuickItem;
+class QQuickWindow;
+
+/// Finds what a user sees in a QML window and uses it with mouse and keyboard.
+class WindowDriver
+{
+public:
+    explicit WindowDriver(QQuickWindow *window);
+
+    /// Finds the tool window among the application's windows once it is shown.
+    static WindowDriver waitForWindow(const QString &title);
+
+    [[nodiscard]] QQuickWindow *window() const;
+
+    /*!
+     * The visible items below \a root (or in the window) of a QML or C++ class, "Slider" or
+     * "QQuickSlider", in the order of the sources.
+     */
+    [[nodiscard]] QList<QQuickItem *> items(const QString &className,
+                                            QQuickItem *root = nullptr) const;
+    /// The one visible item of a class whose property has a value; waits for it.
+    [[nodiscard]] QQuickItem *item(const QString &className, const char *property,
+                                   const QString &value) const;
+
+    /// Clicks the button with this text.
+    void clickButton(const QString &text) const;
+    void click(const QQuickItem *item) const;
+    /// Drags a slider's handle to a fraction of its way.
+    void drag(const QQuickItem *slider, double fraction) const;
+    /// Replaces a text field's text and presses Enter.
+    void type(const QQuickItem *textField, const QString &text) const;
+
+private:
+    QQuickWindow *m_window;
+};
