@@ -7,8 +7,11 @@ bool CameraEmulationManager::streamRunning() const
     return false;
 }
 
-void CameraEmulationManager::setupCameraStreamPipeline() {}
+void CameraEmulationManager::setupCameraStreamPipeline()
+{}
 
-void CameraEmulationManager::stopVideoStream() {}
+void CameraEmulationManager::stopVideoStream()
+{}
 
-void CameraEmulationManager::stopCameraStream() {}
+void CameraEmulationManager::stopCameraStream()
+{}

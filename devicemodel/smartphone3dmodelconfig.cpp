@@ -16,7 +16,8 @@ static const QString dataPath; // the files lie beside the application itself
 
 static QString fileUri(const QString &pathTemplate, const QString &fileName)
 {
-    const QString path = pathTemplate.arg(QCoreApplication::applicationDirPath(), dataPath, fileName);
+    const QString path
+        = pathTemplate.arg(QCoreApplication::applicationDirPath(), dataPath, fileName);
     return QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()).toString();
 }
 
@@ -47,10 +48,9 @@ void Smartphone3DModelConfig::updateSmartphone3DModel(const QString &deviceName)
 {
     const QString name = m_configurations.contains(deviceName) ? deviceName : defaultDeviceName;
     const QVariantMap configuration = m_configurations[name].toMap();
-    m_meshUri = fileUri(QStringLiteral("%1/%2/meshes/%3"),
-                        configuration.value(meshKey).toString());
-    m_textureUri = fileUri(QStringLiteral("%1/%2/textures/%3"),
-                           configuration.value(textureKey).toString());
+    m_meshUri = fileUri(QStringLiteral("%1/%2/meshes/%3"), configuration.value(meshKey).toString());
+    m_textureUri
+        = fileUri(QStringLiteral("%1/%2/textures/%3"), configuration.value(textureKey).toString());
     Q_EMIT smartphone3DModelConfigChanged();
 }
 

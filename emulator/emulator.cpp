@@ -22,12 +22,10 @@ Emulator::Emulator(const Options &options, QObject *parent)
 {
     for (const QString &name : options.withoutPackages)
         m_packages.remove(name);
-    connect(&m_bus, &SystemBus::died, this, [this] {
-        Q_EMIT failed(u"The D-Bus daemon ended."_s);
-    });
-    connect(&m_sshServer, &SshServer::died, this, [this] {
-        Q_EMIT failed(u"The SSH server ended."_s);
-    });
+    connect(&m_bus, &SystemBus::died, this,
+            [this] { Q_EMIT failed(u"The D-Bus daemon ended."_s); });
+    connect(&m_sshServer, &SshServer::died, this,
+            [this] { Q_EMIT failed(u"The SSH server ended."_s); });
     m_journal.write("started"_L1, {{u"name"_s, options.name},
                                    {u"deviceModel"_s, options.deviceModel},
                                    {u"address"_s, options.address.toString()}});
@@ -62,13 +60,12 @@ bool Emulator::startServices(QString *error)
     if (!m_bus.start(error))
         return false;
     QDBusConnection bus = m_bus.connection(serviceConnection);
-    const bool ok
-        = bus.registerObject(SensorService::objectPath, SensorService::serviceName, &m_sensors,
-                             QDBusConnection::ExportAllSlots)
-        && bus.registerObject(LocationService::objectPath, LocationService::serviceName,
-                              &m_location, QDBusConnection::ExportAllSlots)
-        && bus.registerService(SensorService::serviceName)
-        && bus.registerService(LocationService::serviceName);
+    const bool ok = bus.registerObject(SensorService::objectPath, SensorService::serviceName,
+                                       &m_sensors, QDBusConnection::ExportAllSlots)
+                    && bus.registerObject(LocationService::objectPath, LocationService::serviceName,
+                                          &m_location, QDBusConnection::ExportAllSlots)
+                    && bus.registerService(SensorService::serviceName)
+                    && bus.registerService(LocationService::serviceName);
     if (!ok)
         *error = u"The services cannot go onto the D-Bus: %1."_s.arg(bus.lastError().message());
     return ok;
@@ -91,8 +88,8 @@ void Emulator::startControl()
     if (m_control->listen(QDir(m_options.data).filePath(u"control"_s)))
         return;
     // the path of a socket is limited to 108 bytes; the emulator is of use without it
-    m_journal.write("fault"_L1, {{u"request"_s, u"control is off: %1"_s.arg(
-                                                    m_control->errorString())}});
+    m_journal.write("fault"_L1,
+                    {{u"request"_s, u"control is off: %1"_s.arg(m_control->errorString())}});
 }
 
 void Emulator::startForwarding(const Forwarding &forwarding)

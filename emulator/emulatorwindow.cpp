@@ -53,13 +53,13 @@ EmulatorWindow::EmulatorWindow(const QString &name, const QString &deviceModel,
 {
     setWindowTitle(u"%1 – %2"_s.arg(name, deviceModel));
 
-    auto sensorsLayout = new QGridLayout;
+    auto *sensorsLayout = new QGridLayout;
     addSensors(sensorsLayout);
-    auto deviceLayout = new QVBoxLayout;
+    auto *deviceLayout = new QVBoxLayout;
     deviceLayout->addWidget(createCamera(), 1);
     deviceLayout->addWidget(createPosition());
     deviceLayout->addWidget(createTrack());
-    auto layout = new QHBoxLayout(this);
+    auto *layout = new QHBoxLayout(this);
     layout->addLayout(deviceLayout, 1);
     layout->addLayout(sensorsLayout, 1);
 
@@ -74,12 +74,10 @@ EmulatorWindow::EmulatorWindow(const QString &name, const QString &deviceModel,
 void EmulatorWindow::addSensors(QGridLayout *layout)
 {
     const SensorReadings &readings = m_sensors.readings();
-    const auto integer = [](const int &value) {
-        return [&value] { return QString::number(value); };
-    };
-    const auto real = [](const double &value) {
-        return [&value] { return QString::number(value); };
-    };
+    const auto integer
+        = [](const int &value) { return [&value] { return QString::number(value); }; };
+    const auto real
+        = [](const double &value) { return [&value] { return QString::number(value); }; };
     const auto &[ax, ay, az] = readings.accelerometer;
     const auto &[gx, gy, gz] = readings.gyroscope;
     const auto &[mx, my, mz] = readings.magnetometer;
@@ -106,7 +104,7 @@ void EmulatorWindow::addSensor(QGridLayout *layout, const QString &sensor, const
                                const QList<std::pair<QString, std::function<QString()>>> &values)
 {
     constexpr int columns = 2;
-    auto group = new QGroupBox(title);
+    auto *group = new QGroupBox(title);
     new QFormLayout(group);
     addValue(group, tr("Sensor"),
              [this, sensor] { return m_sensors.sensors().value(sensor) ? tr("on") : tr("off"); });
@@ -119,22 +117,22 @@ void EmulatorWindow::addSensor(QGridLayout *layout, const QString &sensor, const
 QGroupBox *EmulatorWindow::createCamera()
 {
     constexpr QSize smallestPicture(320, 240);
-    auto group = new QGroupBox(tr("Camera"));
-    auto picture = new QLabel(tr("No picture"));
+    auto *group = new QGroupBox(tr("Camera"));
+    auto *picture = new QLabel(tr("No picture"));
     picture->setAlignment(Qt::AlignCenter);
     picture->setFrameShape(QFrame::StyledPanel);
     picture->setAutoFillBackground(true);
     picture->setBackgroundRole(QPalette::Base);
     picture->setForegroundRole(QPalette::Text);
     picture->setMinimumSize(smallestPicture);
-    auto layout = new QVBoxLayout(group);
+    auto *layout = new QVBoxLayout(group);
     layout->addWidget(picture);
     return group;
 }
 
 QGroupBox *EmulatorWindow::createPosition()
 {
-    auto group = new QGroupBox(tr("Position"));
+    auto *group = new QGroupBox(tr("Position"));
     new QFormLayout(group);
     addValue(group, tr("Latitude, °"),
              [this] { return decimal(m_location.position().latitude, coordinateDecimals); });
@@ -147,13 +145,13 @@ QGroupBox *EmulatorWindow::createPosition()
 
 QGroupBox *EmulatorWindow::createTrack()
 {
-    auto group = new QGroupBox(tr("Track"));
+    auto *group = new QGroupBox(tr("Track"));
     new QFormLayout(group);
     addValue(group, tr("State"), [this] { return playbackText(m_location.playback()); });
     addValue(group, tr("Point"), [this] {
         return m_location.trackSize() == 0
-            ? tr("no track")
-            : tr("%1 of %2").arg(m_location.trackIndex() + 1).arg(m_location.trackSize());
+                   ? tr("no track")
+                   : tr("%1 of %2").arg(m_location.trackIndex() + 1).arg(m_location.trackSize());
     });
     addValue(group, tr("Looped"), [this] { return yesNo(m_location.trackOptions().looped); });
     addValue(group, tr("Default interval"),
@@ -163,10 +161,9 @@ QGroupBox *EmulatorWindow::createTrack()
     return group;
 }
 
-void EmulatorWindow::addValue(QGroupBox *group, const QString &title,
-                              std::function<QString()> text)
+void EmulatorWindow::addValue(QGroupBox *group, const QString &title, std::function<QString()> text)
 {
-    auto label = new QLabel;
+    auto *label = new QLabel;
     // wide enough for most values, so that the window does not move with them
     label->setMinimumWidth(label->fontMetrics().horizontalAdvance(u"-0.0000000000"_s));
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);

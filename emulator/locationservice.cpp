@@ -38,13 +38,12 @@ void LocationService::setAltitude(double altitude)
 void LocationService::loadTrack(const QList<QList<double>> &track)
 {
     constexpr qsizetype numbersOfPoint = 4;
-    const auto bad = std::ranges::find_if(track, [](const QList<double> &point) {
-        return point.size() != numbersOfPoint;
-    });
+    const auto bad = std::ranges::find_if(
+        track, [](const QList<double> &point) { return point.size() != numbersOfPoint; });
     if (bad != track.end()) {
-        sendErrorReply(serviceName + ".Error.InvalidTrack"_L1,
-                       u"Point %1 of the track has not four numbers"_s
-                           .arg(std::distance(track.begin(), bad)));
+        sendErrorReply(
+            serviceName + ".Error.InvalidTrack"_L1,
+            u"Point %1 of the track has not four numbers"_s.arg(std::distance(track.begin(), bad)));
         return;
     }
     m_trackIndex = 0;

@@ -33,7 +33,8 @@ bool Relay::open(QString *error)
     if (m_server.isListening() || m_server.listen(m_address, port))
         return true;
     *error = u"The relay cannot listen on %1 port %2: %3."_s.arg(m_address.toString())
-                 .arg(port).arg(m_server.errorString());
+                 .arg(port)
+                 .arg(m_server.errorString());
     return false;
 }
 
@@ -52,7 +53,7 @@ void Relay::acceptClients()
     while (QWebSocket *socket = m_server.nextPendingConnection()) {
         socket->setMaxAllowedIncomingFrameSize(maxRequestBytes);
         socket->setMaxAllowedIncomingMessageSize(maxRequestBytes);
-        auto client = new RelayClient(socket, m_bus, m_faults, m_journal, this);
+        auto *client = new RelayClient(socket, m_bus, m_faults, m_journal, this);
         m_clients.append(client);
         m_journal.write("relay-connected"_L1);
         connect(client, &RelayClient::disconnected, this, [this, client] {

@@ -99,7 +99,7 @@ void RelayClient::call(const Request &request, const PendingReply &pending)
     QDBusMessage message = QDBusMessage::createMethodCall(request.service, request.objectPath,
                                                           request.interface, request.method);
     message.setArguments(request.arguments);
-    auto watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
+    auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, request, pending, watcher] {
         answer(pending, replyLine(request, watcher->reply()));
         watcher->deleteLater();

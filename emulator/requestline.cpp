@@ -115,8 +115,8 @@ static bool parseArguments(QStringView text, Request *request)
     if (text.isEmpty())
         return true;
     for (const QStringView token : text.tokenize(u' ')) {
-        const qsizetype typeEnd = token.startsWith(arrayType) ? arrayType.size() - 1
-                                                              : token.indexOf(u':');
+        const qsizetype typeEnd
+            = token.startsWith(arrayType) ? arrayType.size() - 1 : token.indexOf(u':');
         if (typeEnd < 0)
             return false;
         const QStringView value = token.sliced(typeEnd + 1);
@@ -166,7 +166,8 @@ Request parseRequest(const QString &line)
         return invalid(u"The request's method is not a D-Bus name"_s);
     if (!parseArguments(rest, &request)) {
         return invalid(u"Argument %1 of %2 has an unknown type or a bad value"_s
-                           .arg(request.arguments.size() + 1).arg(request.method));
+                           .arg(request.arguments.size() + 1)
+                           .arg(request.method));
     }
     return request;
 }
@@ -175,7 +176,7 @@ QString replyLine(const Request &request, const QString &returned, const QString
                   const QString &errorText)
 {
     return request.method % u':' % request.argumentTexts.join(u'|') % u':' % returned % u':'
-        % errorName % u':' % errorText;
+           % errorName % u':' % errorText;
 }
 
 QString returnedText(const QVariant &value)

@@ -53,9 +53,9 @@ static QString shellWord(QString text)
 static QString systemProgram(const QString &name)
 {
     const QString found = QStandardPaths::findExecutable(name);
-    return found.isEmpty()
-        ? QStandardPaths::findExecutable(name, {u"/usr/sbin"_s, u"/usr/local/sbin"_s, u"/sbin"_s})
-        : found;
+    return found.isEmpty() ? QStandardPaths::findExecutable(
+                                 name, {u"/usr/sbin"_s, u"/usr/local/sbin"_s, u"/sbin"_s})
+                           : found;
 }
 
 static bool makeHostKey(const QString &file)
@@ -82,20 +82,21 @@ bool SshServer::writeConfiguration(const Options &options, const QString &hostKe
         return false;
     }
     const QString commandSocket = m_folder.filePath(u"commands"_s);
-    const QString command = shellWord(QCoreApplication::applicationFilePath())
-        + " --answer-ssh "_L1 + shellWord(commandSocket);
+    const QString command = shellWord(QCoreApplication::applicationFilePath()) + " --answer-ssh "_L1
+                            + shellWord(commandSocket);
     // of the paths only that of the keys may hold "%" tokens
-    const QString keys = options.authorizedKey.isEmpty()
-        ? u"none"_s
-        : configurationWord(QString(options.authorizedKey).replace(u'%', "%%"_L1));
+    const QString keys
+        = options.authorizedKey.isEmpty()
+              ? u"none"_s
+              : configurationWord(QString(options.authorizedKey).replace(u'%', "%%"_L1));
     QFile file(m_folder.filePath(u"sshd.conf"_s));
-    if (!m_folder.isValid() || !m_commands.listen(commandSocket)
-        || !file.open(QIODevice::WriteOnly)
+    if (!m_folder.isValid() || !m_commands.listen(commandSocket) || !file.open(QIODevice::WriteOnly)
         || file.write(configuration
                           .arg(options.address.toString(), QString::number(options.sshPort),
                                configurationWord(hostKey), keys,
                                QString::fromLocal8Bit(user->pw_name), command)
-                          .toUtf8()) < 0) {
+                          .toUtf8())
+               < 0) {
         *error = u"The SSH server's folder %1 cannot be written."_s.arg(m_folder.path());
         return false;
     }
@@ -122,9 +123,10 @@ bool SshServer::start(const Options &options, QString *error)
     m_daemon.start(program, {u"-D"_s, u"-e"_s, u"-f"_s, m_folder.filePath(u"sshd.conf"_s)});
     if (m_daemon.waitForOutput(QProcess::StandardError, "Server listening on").isEmpty()) {
         const QByteArray reason = m_daemon.readAllStandardError();
-        *error = u"The SSH server does not listen on %1 port %2: %3"_s
-                     .arg(options.address.toString()).arg(options.sshPort)
-                     .arg(QString::fromLocal8Bit(reason.first(reason.indexOf('\n') + 1)).trimmed());
+        *error
+            = u"The SSH server does not listen on %1 port %2: %3"_s.arg(options.address.toString())
+                  .arg(options.sshPort)
+                  .arg(QString::fromLocal8Bit(reason.first(reason.indexOf('\n') + 1)).trimmed());
         return false;
     }
     connect(&m_daemon, &ChildProcess::died, this, &SshServer::died);

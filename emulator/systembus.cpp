@@ -34,8 +34,7 @@ bool SystemBus::start(QString *error)
 {
     QFile file(m_folder.filePath(u"bus.conf"_s));
     // D-Bus addresses are percent-encoded; that leaves nothing that XML would misread
-    const QByteArray socket
-        = QUrl::toPercentEncoding(m_folder.filePath(u"bus"_s), "/", "~");
+    const QByteArray socket = QUrl::toPercentEncoding(m_folder.filePath(u"bus"_s), "/", "~");
     if (!m_folder.isValid() || !file.open(QIODevice::WriteOnly)
         || file.write(configuration.arg(QLatin1StringView(socket)).toUtf8()) < 0) {
         *error = u"The D-Bus daemon's folder %1 cannot be written."_s.arg(m_folder.path());
@@ -49,8 +48,8 @@ bool SystemBus::start(QString *error)
     m_address = QString::fromUtf8(m_daemon.waitForOutput(QProcess::StandardOutput, "\n")).trimmed();
     if (m_address.isEmpty()) {
         *error = m_daemon.error() == QProcess::FailedToStart
-            ? u"The program dbus-daemon was not found."_s
-            : u"The D-Bus daemon did not start."_s;
+                     ? u"The program dbus-daemon was not found."_s
+                     : u"The D-Bus daemon did not start."_s;
         return false;
     }
     connect(&m_daemon, &ChildProcess::died, this, &SystemBus::died);

@@ -47,7 +47,7 @@ bool TcpForwarder::listen(quint16 hostPort)
 void TcpForwarder::acceptConnections()
 {
     while (QTcpSocket *client = m_server.nextPendingConnection()) {
-        auto guest = new QTcpSocket(client);
+        auto *guest = new QTcpSocket(client);
         forward(client, guest);
         forward(guest, client);
         connect(guest, &QTcpSocket::errorOccurred, client, [client, guest] {

@@ -24,10 +24,10 @@ RemoteDBusInvokerService *EmulationManager::rdbusinvoker() const
 void EmulationManager::setRdbusinvoker(RemoteDBusInvokerService *invoker)
 {
     m_rdbusinvoker = invoker;
-    connect(invoker, &RemoteDBusInvokerService::webSocketConnected,
-            this, &EmulationManager::emulatorConnected);
-    connect(invoker, &RemoteDBusInvokerService::replyReceived,
-            this, &EmulationManager::processReplyFromEmulator);
+    connect(invoker, &RemoteDBusInvokerService::webSocketConnected, this,
+            &EmulationManager::emulatorConnected);
+    connect(invoker, &RemoteDBusInvokerService::replyReceived, this,
+            &EmulationManager::processReplyFromEmulator);
     Q_EMIT rdbusinvokerChanged();
 }
 

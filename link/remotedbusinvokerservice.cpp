@@ -11,14 +11,14 @@ RemoteDBusInvokerService::RemoteDBusInvokerService(QObject *parent)
     : QObject(parent)
     , m_webSocket(QString(), QWebSocketProtocol::Version13)
 {
-    connect(&m_webSocket, &QWebSocket::connected,
-            this, &RemoteDBusInvokerService::webSocketConnected);
-    connect(&m_webSocket, &QWebSocket::disconnected,
-            this, &RemoteDBusInvokerService::webSocketDisconnected);
-    connect(&m_webSocket, &QWebSocket::disconnected,
-            this, &RemoteDBusInvokerService::connectToEmulator);
-    connect(&m_webSocket, &QWebSocket::textMessageReceived,
-            this, &RemoteDBusInvokerService::replyReceived);
+    connect(&m_webSocket, &QWebSocket::connected, this,
+            &RemoteDBusInvokerService::webSocketConnected);
+    connect(&m_webSocket, &QWebSocket::disconnected, this,
+            &RemoteDBusInvokerService::webSocketDisconnected);
+    connect(&m_webSocket, &QWebSocket::disconnected, this,
+            &RemoteDBusInvokerService::connectToEmulator);
+    connect(&m_webSocket, &QWebSocket::textMessageReceived, this,
+            &RemoteDBusInvokerService::replyReceived);
 }
 
 void RemoteDBusInvokerService::connectToEmulator()

@@ -109,26 +109,23 @@ void GPSEmulationManager::setupGPSData()
     setTrackLooped(m_trackLooped);
     setTrackIntervalMode(m_useDefaultInterval);
     setTrackSpeed(m_trackSpeed);
-    setPosition(m_settings.readGpsLatitude(),
-                m_settings.readGpsLongitude(),
+    setPosition(m_settings.readGpsLatitude(), m_settings.readGpsLongitude(),
                 m_settings.readGpsAltitude());
 }
 
 void GPSEmulationManager::setLocalPosition(double latitude, double longitude, double altitude)
 {
     m_currentPosition->setValues(latitude, longitude, altitude);
-    m_settings.saveGpsValues(m_currentPosition->latitude(),
-                             m_currentPosition->longitude(),
+    m_settings.saveGpsValues(m_currentPosition->latitude(), m_currentPosition->longitude(),
                              m_currentPosition->altitude());
 }
 
 void GPSEmulationManager::setPosition(double latitude, double longitude, double altitude)
 {
-    callDBusMethod(QStringLiteral("setPosition"),
-                   QStringLiteral("double:%1 double:%2 double:%3")
-                       .arg(coordinateText(latitude),
-                            coordinateText(longitude),
-                            altitudeText(altitude)));
+    callDBusMethod(
+        QStringLiteral("setPosition"),
+        QStringLiteral("double:%1 double:%2 double:%3")
+            .arg(coordinateText(latitude), coordinateText(longitude), altitudeText(altitude)));
     setLocalPosition(latitude, longitude, altitude);
 }
 

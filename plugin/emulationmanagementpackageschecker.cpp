@@ -13,8 +13,8 @@ const QString EmulationManagementPackagesChecker::searchPackagesCommand = QStrin
 EmulationManagementPackagesChecker::EmulationManagementPackagesChecker(QObject *parent)
     : QObject(parent)
 {
-    connect(&m_runner, &QSsh::SshRemoteProcessRunner::processClosed,
-            this, &EmulationManagementPackagesChecker::handleSshProcessFinished);
+    connect(&m_runner, &QSsh::SshRemoteProcessRunner::processClosed, this,
+            &EmulationManagementPackagesChecker::handleSshProcessFinished);
 }
 
 void EmulationManagementPackagesChecker::checkPackages(

@@ -61,12 +61,12 @@ void EmulationManagementPlugin::extensionsInitialized()
     m_sdk = Ravik::Sdk::instance();
     if (!m_sdk)
         return;
-    connect(m_sdk, &Ravik::Sdk::emulatorAdded,
-            this, &EmulationManagementPlugin::setUpEmulatorConnection);
-    connect(m_sdk, &Ravik::Sdk::aboutToRemoveEmulator,
-            this, &EmulationManagementPlugin::setUpEmulatorConnection);
-    connect(m_sdk, &Ravik::Sdk::deviceModelsChanged,
-            this, &EmulationManagementPlugin::setUpEmulatorConnection);
+    connect(m_sdk, &Ravik::Sdk::emulatorAdded, this,
+            &EmulationManagementPlugin::setUpEmulatorConnection);
+    connect(m_sdk, &Ravik::Sdk::aboutToRemoveEmulator, this,
+            &EmulationManagementPlugin::setUpEmulatorConnection);
+    connect(m_sdk, &Ravik::Sdk::deviceModelsChanged, this,
+            &EmulationManagementPlugin::setUpEmulatorConnection);
 }
 
 ExtensionSystem::IPlugin::ShutdownFlag EmulationManagementPlugin::aboutToShutdown()
@@ -104,12 +104,10 @@ void EmulationManagementPlugin::registerQmlTypes()
                                               "TextFieldDoubleValidator");
     qRegisterMetaType<AlsModel::LightLevel>("AlsModel::LightLevel");
     qRegisterMetaType<TapModel::TapDirection>("TapModel::TapDirection");
-    qmlRegisterUncreatableType<AlsModel>(
-        qmlModule, qmlMajorVersion, qmlMinorVersion, "AlsModel",
-        QStringLiteral("Could not create the AlsModel instance"));
-    qmlRegisterUncreatableType<TapModel>(
-        qmlModule, qmlMajorVersion, qmlMinorVersion, "TapModel",
-        QStringLiteral("Could not create the TapModel instance"));
+    qmlRegisterUncreatableType<AlsModel>(qmlModule, qmlMajorVersion, qmlMinorVersion, "AlsModel",
+                                         QStringLiteral("Could not create the AlsModel instance"));
+    qmlRegisterUncreatableType<TapModel>(qmlModule, qmlMajorVersion, qmlMinorVersion, "TapModel",
+                                         QStringLiteral("Could not create the TapModel instance"));
 }
 
 void EmulationManagementPlugin::setupContextProperties()
@@ -117,10 +115,10 @@ void EmulationManagementPlugin::setupContextProperties()
     m_gpsEmulationManager.setRdbusinvoker(&m_remoteDBusInvokerService);
     m_sensorsEmulationManager.setRdbusinvoker(&m_remoteDBusInvokerService);
 
-    const auto setProperty = [context = m_emulationManagementView.rootContext()](
-                                 const char *name, const auto &value) {
-        context->setContextProperty(QLatin1StringView(name), value);
-    };
+    const auto setProperty
+        = [context = m_emulationManagementView.rootContext()](const char *name, const auto &value) {
+              context->setContextProperty(QLatin1StringView(name), value);
+          };
     setProperty(remoteDBusInvokerServiceProperty, &m_remoteDBusInvokerService);
     setProperty(gpsEmulationManagerProperty, &m_gpsEmulationManager);
     setProperty("sensorsEmulationManager", &m_sensorsEmulationManager);
@@ -156,12 +154,11 @@ void EmulationManagementPlugin::setupView()
 void EmulationManagementPlugin::setupMenu()
 {
     auto *action = new QAction(tr("Emulation Management…"), this);
-    Core::Command *command
-        = Core::ActionManager::registerAction(action,
-                                              Constants::showEmulationManagementViewActionId,
-                                              Core::Context(Core::Constants::C_GLOBAL));
-    connect(action, &QAction::triggered,
-            this, &EmulationManagementPlugin::showEmulationManagementView);
+    Core::Command *command = Core::ActionManager::registerAction(
+        action, Constants::showEmulationManagementViewActionId,
+        Core::Context(Core::Constants::C_GLOBAL));
+    connect(action, &QAction::triggered, this,
+            &EmulationManagementPlugin::showEmulationManagementView);
 
     // made by the SDK's main plugin when it came first, and titled by it
     Core::ActionContainer *sdkMenu = Core::ActionManager::createMenu(Constants::sdkToolsMenuId);
@@ -201,16 +198,11 @@ void EmulationManagementPlugin::updateSensorsConfiguration(const QString &device
         m_sensorsEmulationManager.setSensorAvailable(sensor.key(), sensor.value().toBool());
 }
 
-void EmulationManagementPlugin::showMessageBox(const QString &text,
-                                               const QString &informativeText,
+void EmulationManagementPlugin::showMessageBox(const QString &text, const QString &informativeText,
                                                const QMessageBox::StandardButtons &buttons)
 {
-    QMessageBox box(QMessageBox::Information,
-                    tr("Emulation management plugin"),
-                    text,
-                    buttons,
-                    Core::ICore::mainWindow(),
-                    Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
+    QMessageBox box(QMessageBox::Information, tr("Emulation management plugin"), text, buttons,
+                    Core::ICore::mainWindow(), Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
     box.setInformativeText(informativeText);
     if (box.exec() == QMessageBox::Retry)
         showEmulationManagementView();

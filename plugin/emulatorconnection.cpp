@@ -27,14 +27,10 @@ struct PortForwarding
 
 QList<PortForwarding> portForwardings()
 {
-    return {{RemoteDBusInvokerService::portForwardingRule,
-             QStringLiteral("tcp"),
-             RemoteDBusInvokerService::hostTcpPort,
-             RemoteDBusInvokerService::emulatorTcpPort},
-            {CameraEmulationManager::portForwardingRule,
-             QStringLiteral("udp"),
-             CameraEmulationManager::udpPort,
-             CameraEmulationManager::udpPort}};
+    return {{RemoteDBusInvokerService::portForwardingRule, QStringLiteral("tcp"),
+             RemoteDBusInvokerService::hostTcpPort, RemoteDBusInvokerService::emulatorTcpPort},
+            {CameraEmulationManager::portForwardingRule, QStringLiteral("udp"),
+             CameraEmulationManager::udpPort, CameraEmulationManager::udpPort}};
 }
 
 } // namespace
@@ -51,12 +47,12 @@ void EmulationManagementPlugin::setUpEmulatorConnection()
     updateSensorsConfiguration(emulator->deviceModel().name);
     m_smartphone3DModelConfig.updateSmartphone3DModel(emulator->deviceModel().name);
 
-    connect(emulator, &Ravik::Emulator::deviceModelNameChanged,
-            this, &EmulationManagementPlugin::updateSensorsConfiguration);
-    connect(emulator, &Ravik::Emulator::deviceModelNameChanged,
-            &m_smartphone3DModelConfig, &Smartphone3DModelConfig::updateSmartphone3DModel);
-    connect(&m_remoteDBusInvokerService, &RemoteDBusInvokerService::webSocketDisconnected,
-            this, &EmulationManagementPlugin::handleConnectionLost);
+    connect(emulator, &Ravik::Emulator::deviceModelNameChanged, this,
+            &EmulationManagementPlugin::updateSensorsConfiguration);
+    connect(emulator, &Ravik::Emulator::deviceModelNameChanged, &m_smartphone3DModelConfig,
+            &Smartphone3DModelConfig::updateSmartphone3DModel);
+    connect(&m_remoteDBusInvokerService, &RemoteDBusInvokerService::webSocketDisconnected, this,
+            &EmulationManagementPlugin::handleConnectionLost);
 
     Ravik::VirtualMachine *machine = emulator->virtualMachine();
     connect(machine, &Ravik::VirtualMachine::virtualMachineOffChanged, this, [this](bool off) {
@@ -127,13 +123,13 @@ bool EmulationManagementPlugin::setUpPortForwarding()
     }
     // The machine refuses a rule that it has.
     for (const PortForwarding &port : forwardings) {
-        Ravik::execAsynchronous([this, &port](const QObject *context,
-                                              std::function<void(bool)> callback) {
-            if (!m_currentEmulator)
-                return callback(false);
-            m_currentEmulator->virtualMachine()->addPortForwarding(
-                port.rule, port.protocol, port.hostPort, port.emulatorPort, context, callback);
-        });
+        Ravik::execAsynchronous(
+            [this, &port](const QObject *context, const std::function<void(bool)> &callback) {
+                if (!m_currentEmulator)
+                    return callback(false);
+                m_currentEmulator->virtualMachine()->addPortForwarding(
+                    port.rule, port.protocol, port.hostPort, port.emulatorPort, context, callback);
+            });
     }
     return true;
 }
@@ -142,8 +138,8 @@ void EmulationManagementPlugin::checkEmulationPackages()
 {
     if (!m_currentEmulator)
         return;
-    connect(&m_packagesChecker, &EmulationManagementPackagesChecker::checkFinished,
-            this, &EmulationManagementPlugin::handlePackagesChecked);
+    connect(&m_packagesChecker, &EmulationManagementPackagesChecker::checkFinished, this,
+            &EmulationManagementPlugin::handlePackagesChecked);
     m_packagesChecker.checkPackages(m_currentEmulator->virtualMachine()->sshParameters());
 }
 

@@ -41,12 +41,8 @@ void WarningDialog::setWithDoNotShowAgainCheckBox(bool withCheckBox)
 
 void WarningDialog::show()
 {
-    QMessageBox box(QMessageBox::Question,
-                    tr("Warning"),
-                    m_text,
-                    m_standardButtons,
-                    Core::ICore::mainWindow(),
-                    Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
+    QMessageBox box(QMessageBox::Question, tr("Warning"), m_text, m_standardButtons,
+                    Core::ICore::mainWindow(), Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
     auto *doNotShowAgain = new QCheckBox(tr("Do not show again"));
     box.setCheckBox(doNotShowAgain);
     doNotShowAgain->setVisible(m_withDoNotShowAgainCheckBox);

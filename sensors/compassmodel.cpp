@@ -69,7 +69,7 @@ int CompassModel::calculateAzimuth(int ax, int ay, int az, double mx, double my,
     if (!std::isfinite(yaw)) // free fall: nothing says where the horizon is
         return 0;
     return static_cast<int>(std::lround(yaw * -degreesPerRadian + fullTurn))
-        % static_cast<int>(fullTurn);
+           % static_cast<int>(fullTurn);
 }
 
 } // namespace EmulationManagement::Internal

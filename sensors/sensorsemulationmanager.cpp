@@ -47,15 +47,16 @@ SensorsEmulationManager::SensorsEmulationManager(QObject *parent)
     , m_proximity(new ProximityModel(this))
     , m_tap(new TapModel(this))
 {
-    const QList<SensorModel *> sensors = {m_accelerometer, m_compass,   m_orientation, m_magnetometer,
-                                          m_als,           m_gyroscope, m_proximity,   m_tap};
+    const QList<SensorModel *> sensors
+        = {m_accelerometer, m_compass,   m_orientation, m_magnetometer,
+           m_als,           m_gyroscope, m_proximity,   m_tap};
     for (SensorModel *sensor : sensors) {
         m_sensorsEnabledStates.insert(sensor->name(), false);
         m_sensors.insert(sensor->name(), sensor);
     }
     initSensorsAvailability();
-    connect(this, &EmulationManager::emulatorConnected,
-            this, &SensorsEmulationManager::setupSensors);
+    connect(this, &EmulationManager::emulatorConnected, this,
+            &SensorsEmulationManager::setupSensors);
 }
 
 SensorsEmulationManager::~SensorsEmulationManager()
@@ -333,8 +334,7 @@ void SensorsEmulationManager::setCompassAzimuth(int azimuth)
     setAccelerometerValues(0, 0, AccelerometerModel::defaultZValue);
     const double angle = -azimuth * radiansPerDegree;
     setMagnetometerValues(std::sin(angle) * azimuthFluxDensity,
-                          std::cos(angle) * azimuthFluxDensity,
-                          0.0);
+                          std::cos(angle) * azimuthFluxDensity, 0.0);
 }
 
 void SensorsEmulationManager::setCompassCalibrationLevel(int calibrationLevel)
@@ -410,18 +410,14 @@ void SensorsEmulationManager::setupSensors()
 
 void SensorsEmulationManager::restoreSensorsValues()
 {
-    setAccelerometerValues(m_settings.readAccelerometerX(),
-                           m_settings.readAccelerometerY(),
+    setAccelerometerValues(m_settings.readAccelerometerX(), m_settings.readAccelerometerY(),
                            m_settings.readAccelerometerZ());
-    setMagnetometerValues(m_settings.readMagnetometerX(),
-                          m_settings.readMagnetometerY(),
+    setMagnetometerValues(m_settings.readMagnetometerX(), m_settings.readMagnetometerY(),
                           m_settings.readMagnetometerZ());
-    setMagneticFieldValues(m_settings.readMagneticFieldX(),
-                           m_settings.readMagneticFieldY(),
+    setMagneticFieldValues(m_settings.readMagneticFieldX(), m_settings.readMagneticFieldY(),
                            m_settings.readMagneticFieldZ());
     setMagnetometerCalibrationLevel(m_settings.readMagnetometerCalibLevel());
-    setGyroscopeValues(m_settings.readGyroscopeX(),
-                       m_settings.readGyroscopeY(),
+    setGyroscopeValues(m_settings.readGyroscopeX(), m_settings.readGyroscopeY(),
                        m_settings.readGyroscopeZ());
     setAlsLuxValue(m_settings.readAlsLuxValue());
     setProximitySensorReflectanceValue(m_settings.readProximitySensorReflectanceValue());
@@ -430,16 +426,13 @@ void SensorsEmulationManager::restoreSensorsValues()
 
 void SensorsEmulationManager::saveCurrentSensorsValues()
 {
-    m_settings.saveAccelerometerValues(m_accelerometer->x(),
-                                       m_accelerometer->y(),
+    m_settings.saveAccelerometerValues(m_accelerometer->x(), m_accelerometer->y(),
                                        m_accelerometer->z());
     m_settings.saveAlsLuxValue(m_als->lux());
     m_settings.saveGyroscopeValues(m_gyroscope->x(), m_gyroscope->y(), m_gyroscope->z());
-    m_settings.saveMagneticFieldValues(m_magneticField->x(),
-                                       m_magneticField->y(),
+    m_settings.saveMagneticFieldValues(m_magneticField->x(), m_magneticField->y(),
                                        m_magneticField->z());
-    m_settings.saveMagnetometerValues(m_magnetometer->x(),
-                                      m_magnetometer->y(),
+    m_settings.saveMagnetometerValues(m_magnetometer->x(), m_magnetometer->y(),
                                       m_magnetometer->z());
     m_settings.saveMagnetometerCalibLevel(m_magnetometer->calibrationLevel());
     m_settings.saveProximitySensorReflectanceValue(m_proximity->reflectance());
@@ -448,19 +441,14 @@ void SensorsEmulationManager::saveCurrentSensorsValues()
 
 void SensorsEmulationManager::updateAzimuth()
 {
-    m_compass->setAzimuth(CompassModel::calculateAzimuth(m_accelerometer->x(),
-                                                         m_accelerometer->y(),
-                                                         m_accelerometer->z(),
-                                                         m_magnetometer->x(),
-                                                         m_magnetometer->y(),
-                                                         m_magnetometer->z()));
+    m_compass->setAzimuth(CompassModel::calculateAzimuth(m_accelerometer->x(), m_accelerometer->y(),
+                                                         m_accelerometer->z(), m_magnetometer->x(),
+                                                         m_magnetometer->y(), m_magnetometer->z()));
 }
 
 void SensorsEmulationManager::updateOrientation()
 {
-    m_orientation->setOrientation(m_accelerometer->x(),
-                                  m_accelerometer->y(),
-                                  m_accelerometer->z());
+    m_orientation->setOrientation(m_accelerometer->x(), m_accelerometer->y(), m_accelerometer->z());
 }
 
 } // namespace EmulationManagement::Internal

@@ -1,7 +1,5 @@
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Dialogs
-import QtQuick.Layouts
 import QtQuick.Window
 
 import org.plova 1.0
@@ -77,8 +75,7 @@ Rectangle {
         withDoNotShowAgainCheckBox: true
 
         onAccepted: doNotShowAgain => {
-            if (callback)
-                callback();
+            callback?.(); // qmllint disable use-proper-function
             settingsManager.saveDoNotShowAgainResetSensorsDialog(doNotShowAgain);
         }
     }

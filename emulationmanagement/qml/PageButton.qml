@@ -20,10 +20,11 @@ Button {
         fontSizeMode: Text.HorizontalFit
         horizontalAlignment: Text.AlignLeft
         minimumPixelSize: Math.ceil(0.8 * root.font.pixelSize)
+        minimumPointSize: Math.max(1, Math.floor(0.8 * root.font.pointSize))
         opacity: root.enabled ? 1.0 : 0.3
         // white alone cannot be read on the pale highlight of a light theme
         style: root.active && root.highlightColor.hslLightness > 0.6 ? Text.Outline : Text.Normal
-        styleColor: root.palette.windowText
+        styleColor: Qt.darker(root.highlightColor, 2)
         text: root.text
         verticalAlignment: Text.AlignVCenter
     }

@@ -11,7 +11,7 @@ GroupBox {
     property alias controlsEnabled: root.enabled
 
     function clearFocus() {
-        loader.item?.clearFocus?.();
+        loader.item?.clearFocus?.(); // qmllint disable missing-property
     }
 
     Loader {

@@ -13,7 +13,7 @@ EmulationPage {
 
     function resetValues() {
         for (const control of sensorsGrid.children)
-            control.clearFocus();
+            control.clearFocus?.();
         sensorsManager.setDefaultValues();
     }
 

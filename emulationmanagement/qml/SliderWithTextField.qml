@@ -32,7 +32,7 @@ RowLayout {
 
     function formatted(number: double): string {
         const scale = Math.pow(10, numberRoundingSize);
-        const rounded = Math.round(number * scale) / scale || 0; // no "-0.000"
+        const rounded = Math.round(number * scale) / scale; // no "-0.000"
         return rounded.toLocaleString(numberLocale, "f", numberRoundingSize);
     }
 

@@ -27,13 +27,11 @@ EmulatorMenu::EmulatorMenu(HostSdk &sdk)
     , m_deviceModelMenu(tr("Device Model"))
     , m_deviceModels(nullptr)
 {
-    connect(&m_startAction, &QAction::triggered, this, [this] {
-        machine()->connectTo(VirtualMachine::NoConnectOptions, this, [](bool) {});
-    });
+    connect(&m_startAction, &QAction::triggered, this,
+            [this] { machine()->connectTo(VirtualMachine::NoConnectOptions, this, [](bool) {}); });
     connect(&m_stopAction, &QAction::triggered, this, [this] { machine()->shutDown(); });
-    connect(&m_deviceModels, &QActionGroup::triggered, this, [this](const QAction *action) {
-        m_sdk.setDeviceModel(0, action->text());
-    });
+    connect(&m_deviceModels, &QActionGroup::triggered, this,
+            [this](const QAction *action) { m_sdk.setDeviceModel(0, action->text()); });
     createMenu();
 
     connect(&m_sdk, &HostSdk::emulatorAdded, this, &EmulatorMenu::followFirstEmulator);
@@ -64,10 +62,10 @@ void EmulatorMenu::followFirstEmulator()
     }
     m_emulator = m_sdk.emulators().value(0);
     if (m_emulator) {
-        connect(m_emulator, &Ravik::Emulator::deviceModelNameChanged,
-                this, &EmulatorMenu::updateDeviceModel);
-        connect(machine(), &VirtualMachine::virtualMachineOffChanged,
-                this, &EmulatorMenu::updateMachineActions);
+        connect(m_emulator, &Ravik::Emulator::deviceModelNameChanged, this,
+                &EmulatorMenu::updateDeviceModel);
+        connect(machine(), &VirtualMachine::virtualMachineOffChanged, this,
+                &EmulatorMenu::updateMachineActions);
         connect(machine(), &VirtualMachine::stateChanged, this, [this] {
             updateMachineActions();
             reportFailure();
@@ -100,8 +98,8 @@ void EmulatorMenu::updateDeviceModel()
 
 void EmulatorMenu::updateMachineActions()
 {
-    const VirtualMachine::State state = m_emulator ? machine()->state()
-                                                   : VirtualMachine::Disconnecting;
+    const VirtualMachine::State state
+        = m_emulator ? machine()->state() : VirtualMachine::Disconnecting;
     const bool isOff = !m_emulator || machine()->isOff(nullptr, nullptr);
     m_startAction.setEnabled(m_emulator && isOff && state != VirtualMachine::Starting);
     m_stopAction.setEnabled(m_emulator && (!isOff || state == VirtualMachine::Starting)

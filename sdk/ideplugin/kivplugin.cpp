@@ -24,8 +24,8 @@ void KivPlugin::initialize()
 void KivPlugin::extensionsInitialized()
 {
     // By then every plugin has connected to the SDK's signals.
-    connect(Core::ICore::instance(), &Core::ICore::coreOpened,
-            m_sdk.get(), &Ravik::HostSdk::listEmulators);
+    connect(Core::ICore::instance(), &Core::ICore::coreOpened, m_sdk.get(),
+            &Ravik::HostSdk::listEmulators);
 }
 
 ExtensionSystem::IPlugin::ShutdownFlag KivPlugin::aboutToShutdown()
@@ -33,8 +33,8 @@ ExtensionSystem::IPlugin::ShutdownFlag KivPlugin::aboutToShutdown()
     m_sdk->shutDown();
     if (m_sdk->isShutDown())
         return SynchronousShutdown;
-    connect(m_sdk.get(), &Ravik::HostSdk::shutDownFinished,
-            this, &IPlugin::asynchronousShutdownFinished);
+    connect(m_sdk.get(), &Ravik::HostSdk::shutDownFinished, this,
+            &IPlugin::asynchronousShutdownFinished);
     return AsynchronousShutdown;
 }
 

@@ -4,7 +4,9 @@
 
 #include <memory>
 
-namespace Ravik { class HostSdk; }
+namespace Ravik {
+class HostSdk;
+}
 
 namespace Kiv::Internal {
 

@@ -5,7 +5,9 @@
 
 namespace Ravik {
 
-namespace Internal { class LocalEmulator; }
+namespace Internal {
+class LocalEmulator;
+}
 
 /// The SDK as its owner sees it: keeps the emulators and the device models of a settings file.
 ///

@@ -232,9 +232,9 @@ void LocalMachine::handleFinished()
                  .arg(m_settings.name, QDir::toNativeSeparators(dataFile(u"emulator.log"_s))));
         break;
     case Connected:
-        m_errorString = tr("%1 ended by itself; see %2.")
-                            .arg(m_settings.name,
-                                 QDir::toNativeSeparators(dataFile(u"emulator.log"_s)));
+        m_errorString
+            = tr("%1 ended by itself; see %2.")
+                  .arg(m_settings.name, QDir::toNativeSeparators(dataFile(u"emulator.log"_s)));
         setState(Disconnected);
         break;
     case Disconnecting:
@@ -282,11 +282,11 @@ QList<PortForwarding> LocalMachine::forwardings() const
 
 QStringList LocalMachine::arguments() const
 {
-    QStringList arguments{u"--data"_s, m_host.dataFolder(m_settings),
-                          u"--name"_s, m_settings.name,
-                          u"--device-model"_s, m_settings.deviceModel,
-                          u"--address"_s, u"127.0.0.2"_s,
-                          u"--ssh-port"_s, QString::number(sshPort),
+    QStringList arguments{u"--data"_s,           m_host.dataFolder(m_settings),
+                          u"--name"_s,           m_settings.name,
+                          u"--device-model"_s,   m_settings.deviceModel,
+                          u"--address"_s,        u"127.0.0.2"_s,
+                          u"--ssh-port"_s,       QString::number(sshPort),
                           u"--authorized-key"_s, m_key.publicKeyFile()};
     const QList<PortForwarding> rules = forwardings();
     for (const PortForwarding &forwarding : rules)

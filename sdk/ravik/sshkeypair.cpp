@@ -44,8 +44,8 @@ void SshKeyPair::ensure()
     // The generator asks before it replaces a file, and half a pair is of no use.
     QFile::remove(privateKeyFile());
     QDir().mkpath(QFileInfo(privateKeyFile()).path());
-    m_generator.start(u"ssh-keygen"_s, {u"-q"_s, u"-t"_s, u"ed25519"_s, u"-N"_s, QString(),
-                                        u"-C"_s, u"emulator"_s, u"-f"_s, privateKeyFile()});
+    m_generator.start(u"ssh-keygen"_s, {u"-q"_s, u"-t"_s, u"ed25519"_s, u"-N"_s, QString(), u"-C"_s,
+                                        u"emulator"_s, u"-f"_s, privateKeyFile()});
 }
 
 void SshKeyPair::cancel()

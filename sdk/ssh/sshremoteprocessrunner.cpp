@@ -22,14 +22,10 @@ static QStringList clientArguments(const QString &command,
                                    const SshConnectionParameters &parameters)
 {
     QStringList options{
-        u"BatchMode=yes"_s,
-        u"ConnectTimeout=%1"_s.arg(parameters.timeout.count()),
-        u"ForwardAgent=no"_s,
-        u"ForwardX11=no"_s,
-        u"IdentitiesOnly=yes"_s,
-        u"IdentityAgent=none"_s,
-        u"LogLevel=ERROR"_s,
-        u"StrictHostKeyChecking=accept-new"_s,
+        u"BatchMode=yes"_s,      u"ConnectTimeout=%1"_s.arg(parameters.timeout.count()),
+        u"ForwardAgent=no"_s,    u"ForwardX11=no"_s,
+        u"IdentitiesOnly=yes"_s, u"IdentityAgent=none"_s,
+        u"LogLevel=ERROR"_s,     u"StrictHostKeyChecking=accept-new"_s,
     };
     if (!parameters.privateKeyFile.isEmpty())
         options << fileNameOption(u"IdentityFile"_s, parameters.privateKeyFile);
@@ -64,25 +60,24 @@ SshRemoteProcessRunner::~SshRemoteProcessRunner()
     discardProcess();
 }
 
-void SshRemoteProcessRunner::run(const QString &command,
-                                 const SshConnectionParameters &parameters)
+void SshRemoteProcessRunner::run(const QString &command, const SshConnectionParameters &parameters)
 {
     discardProcess();
     m_command = command;
     auto *process = new QProcess(this);
     m_process = process;
 
-    connect(process, &QProcess::finished, this, [this, process] {
-        Q_EMIT processClosed(failureOf(*process));
-    });
+    connect(process, &QProcess::finished, this,
+            [this, process] { Q_EMIT processClosed(failureOf(*process)); });
     // Queued, because a start can fail before this function returns; the process may have been
     // replaced by then.
-    connect(process, &QProcess::errorOccurred, this,
-            [this, process](QProcess::ProcessError error) {
-                if (error == QProcess::FailedToStart && process == m_process)
-                    Q_EMIT processClosed(failureOf(*process));
-            },
-            Qt::QueuedConnection);
+    connect(
+        process, &QProcess::errorOccurred, this,
+        [this, process](QProcess::ProcessError error) {
+            if (error == QProcess::FailedToStart && process == m_process)
+                Q_EMIT processClosed(failureOf(*process));
+        },
+        Qt::QueuedConnection);
 
     process->setStandardInputFile(QProcess::nullDevice());
     process->start(u"ssh"_s, clientArguments(command, parameters));

@@ -25,6 +25,14 @@ QList<QJsonObject> Journal::entriesSince(qsizetype position)
     return m_entries.sliced(position);
 }
 
+qsizetype Journal::countSince(qsizetype position, const QString &event)
+{
+    const QList<QJsonObject> entries = entriesSince(position);
+    return std::ranges::count_if(entries, [&](const QJsonObject &entry) {
+        return entry.value(u"event").toString() == event;
+    });
+}
+
 QStringList Journal::callsSince(qsizetype position)
 {
     QStringList calls;
@@ -38,18 +46,19 @@ QStringList Journal::callsSince(qsizetype position)
 
 void Journal::waitForEvent(const QString &event, qsizetype since)
 {
-    waitFor(QStringLiteral("the emulator's event \"%1\"").arg(event), [&] {
-        const QList<QJsonObject> entries = entriesSince(since);
-        return std::ranges::any_of(entries, [&](const QJsonObject &entry) {
-            return entry.value(u"event").toString() == event;
-        });
-    });
+    waitFor(QStringLiteral("the emulator's event \"%1\"").arg(event),
+            [&] { return countSince(since, event) > 0; });
 }
 
 void Journal::waitForCall(const QString &call, qsizetype since)
 {
-    waitFor(QStringLiteral("the emulator to get \"%1\"").arg(call),
-            [&] { return callsSince(since).contains(call); });
+    try {
+        waitFor(QStringLiteral("the emulator to get \"%1\"").arg(call),
+                [&] { return callsSince(since).contains(call); });
+    } catch (const WaitingFailed &error) {
+        throw WaitingFailed(error.what() + std::string("; it got:\n")
+                            + callsSince(since).join(u'\n').toStdString());
+    }
 }
 
 void Journal::read()

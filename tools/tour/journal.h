@@ -19,6 +19,8 @@ public:
     /// The position behind the last entry.
     [[nodiscard]] qsizetype position();
     [[nodiscard]] QList<QJsonObject> entriesSince(qsizetype position);
+    /// The number of entries of this event, for example "ssh".
+    [[nodiscard]] qsizetype countSince(qsizetype position, const QString &event);
     /// The texts of the D-Bus calls "method arguments", without the address.
     [[nodiscard]] QStringList callsSince(qsizetype position);
 

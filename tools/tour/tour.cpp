@@ -62,8 +62,8 @@ void Tour::openWindow()
     auto *mainWindow = qobject_cast<QMainWindow *>(Core::ICore::mainWindow());
     waitFor(QStringLiteral("the IDE's window to be active"),
             [&] { return mainWindow->isActiveWindow(); });
-    QMenu *menu = MenuDriver::open(mainWindow, {QStringLiteral("Tools"),
-                                                QStringLiteral("Nimbra OS")});
+    QMenu *menu
+        = MenuDriver::open(mainWindow, {QStringLiteral("Tools"), QStringLiteral("Nimbra OS")});
     takePicture(QStringLiteral("menu"));
     MenuDriver::choose(menu, QStringLiteral("Emulation Management…"));
 }
@@ -71,8 +71,8 @@ void Tour::openWindow()
 void Tour::visitSensorsValues(const WindowDriver &driver)
 {
     say(QStringLiteral("Sensors Values: dragging and typing accelerations"));
-    QQuickItem *frame = driver.item(QStringLiteral("SensorControls"), "title",
-                                    QStringLiteral("Accelerometer"));
+    QQuickItem *frame
+        = driver.item(QStringLiteral("SensorControls"), "title", QStringLiteral("Accelerometer"));
     const QList<QQuickItem *> sliders = driver.items(QStringLiteral("QQuickSlider"), frame);
     const QList<QQuickItem *> fields = driver.items(QStringLiteral("QQuickTextField"), frame);
 
@@ -95,10 +95,9 @@ void Tour::visitSensorsValues(const WindowDriver &driver)
 
 void Tour::visitOtherPages(const WindowDriver &driver)
 {
-    for (const QString &page : {QStringLiteral("Sensors Management"),
-                                QStringLiteral("Orientation Management"),
-                                QStringLiteral("GPS Management"),
-                                QStringLiteral("Camera Management")}) {
+    for (const QString &page :
+         {QStringLiteral("Sensors Management"), QStringLiteral("Orientation Management"),
+          QStringLiteral("GPS Management"), QStringLiteral("Camera Management")}) {
         say(page);
         driver.clickButton(page);
         takePicture(page.toLower().replace(u' ', u'-'));

@@ -30,7 +30,9 @@ static void collect(QQuickItem *item, const QString &className, QList<QQuickItem
 
 static QPoint centreOf(const QQuickItem *item)
 {
-    return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
+    // by way of the screen: a dialog has a window of its own
+    const QPointF centre = item->mapToGlobal(QPointF(item->width() / 2, item->height() / 2));
+    return item->window()->mapFromGlobal(centre).toPoint();
 }
 
 WindowDriver::WindowDriver(QQuickWindow *window)
@@ -46,7 +48,7 @@ WindowDriver WindowDriver::waitForWindow(const QString &title)
             if (candidate->title() == title && candidate->isExposed())
                 window = qobject_cast<QQuickWindow *>(candidate);
         }
-        return window != nullptr;
+        return window && window->isSceneGraphInitialized();
     });
     return WindowDriver(window);
 }
@@ -85,6 +87,11 @@ void WindowDriver::clickButton(const QString &text) const
 
 void WindowDriver::click(const QQuickItem *item) const
 {
+    waitFor(QStringLiteral("the layout to be done"),
+            [&] { return QRect(QPoint(), m_window->size()).contains(centreOf(item)); });
+    // a click on a window activates it
+    m_window->requestActivate();
+    waitFor(QStringLiteral("the window to be active"), [&] { return m_window->isActive(); });
     QTest::mouseClick(m_window, Qt::LeftButton, {}, centreOf(item));
 }
 

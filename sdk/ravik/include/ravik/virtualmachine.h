@@ -55,12 +55,12 @@ public:
     /// while the machine runs, and when a rule with that name or host port exists.
     virtual void addPortForwarding(const QString &ruleName, const QString &protocol,
                                    unsigned short hostPort, unsigned short emulatorPort,
-                                   const QObject *context, Callback callback) = 0;
+                                   const QObject *context, Callback callback)
+        = 0;
 
     /// Starts the machine if it is off and waits until it is reachable: true; or until the start
     /// has failed: false.
-    virtual void connectTo(ConnectOptions options, const QObject *context,
-                           Callback callback) = 0;
+    virtual void connectTo(ConnectOptions options, const QObject *context, Callback callback) = 0;
 
     /// Asks the machine to end, and ends it by force when it does not within a few seconds.
     virtual void shutDown() = 0;

@@ -18,8 +18,8 @@ struct SshConnectionParameters
     /// Limit for the connection and the server's greeting.
     std::chrono::seconds timeout{10};
 
-    friend bool operator==(const SshConnectionParameters &,
-                           const SshConnectionParameters &) = default;
+    friend bool operator==(const SshConnectionParameters &, const SshConnectionParameters &)
+        = default;
 };
 
 } // namespace QSsh

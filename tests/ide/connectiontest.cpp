@@ -1,0 +1,213 @@
+#include "connectiontest.h"
+
+#include "messageboxanswers.h"
+#include "plugindriver.h"
+
+#include <waiting.h>
+
+#include <hostsdk.h>
+
+#include <ravik/emulator.h>
+#include <ravik/virtualmachine.h>
+
+#include <QPointer>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <algorithm>
+
+using namespace PluginDriver;
+
+static constexpr unsigned short tcpPort = 5454;
+static constexpr unsigned short udpPort = 34343;
+
+static Journal journal()
+{
+    return Journal(dataFolder(emulator()) + QStringLiteral("/journal.jsonl"));
+}
+
+static void removeEmulator()
+{
+    const QPointer<Ravik::Emulator> removed = emulator();
+    sdk()->removeEmulator(0);
+    waitFor("the emulator to go", [&] { return !removed; });
+}
+
+void ConnectionTest::cleanup()
+{
+    if (!sdk()->emulators().isEmpty())
+        stopMachine();
+}
+
+void ConnectionTest::testMachineOff()
+{
+    Journal emulatorJournal = journal();
+    QVERIFY(!machine()->hasPortForwarding(tcpPort, nullptr));
+    QSignalSpy viewShowed(contextObject("emulationManagementPlugin"),
+                          SIGNAL(emulationManagementViewShowed()));
+
+    chooseAction();
+    QString rule;
+    QVERIFY(machine()->hasPortForwarding(tcpPort, &rule));
+    QCOMPARE(rule, "emulationmanagementtcp");
+    QVERIFY(machine()->hasPortForwarding(udpPort, &rule));
+    QCOMPARE(rule, "emulationmanagementudp");
+    QCOMPARE(machine()->state(), Ravik::VirtualMachine::Starting);
+    QVERIFY(!view()->isVisible());
+
+    waitFor("the window", [] { return view()->isVisible(); });
+    emulatorJournal.waitForEvent("relay-connected", 0);
+    const QList<QJsonObject> entries = emulatorJournal.entriesSince(0);
+    const auto ssh = std::ranges::find_if(entries, [](const QJsonObject &entry) {
+        return entry.value(u"event").toString() == u"ssh";
+    });
+    QVERIFY(ssh != entries.end());
+    QCOMPARE(ssh->value(u"command").toString(), "rpm -qa");
+    QCOMPARE(viewShowed.size(), 0); // only for a machine that runs when the user asks
+}
+
+void ConnectionTest::testWindowOpensAgainWithoutCheck()
+{
+    Journal emulatorJournal = journal();
+    openWindow(emulatorJournal);
+    const qsizetype start = emulatorJournal.position();
+    QSignalSpy viewShowed(contextObject("emulationManagementPlugin"),
+                          SIGNAL(emulationManagementViewShowed()));
+    view()->close();
+    chooseAction();
+    QVERIFY(view()->isVisible());
+    QCOMPARE(viewShowed.size(), 1);
+    QCOMPARE(emulatorJournal.countSince(start, "ssh"), 0);
+}
+
+void ConnectionTest::testMachineStopped()
+{
+    Journal emulatorJournal = journal();
+    openWindow(emulatorJournal);
+    stopMachine();
+    QVERIFY(!view()->isVisible());
+
+    const qsizetype start = emulatorJournal.position();
+    openWindow(emulatorJournal);
+    emulatorJournal.waitForEvent("relay-connected", start);
+    QCOMPARE(emulatorJournal.countSince(start, "ssh"), 1);
+
+    control("kill");
+    waitFor("the window to hide", [] { return !view()->isVisible(); });
+}
+
+void ConnectionTest::testMissingPackages()
+{
+    Journal emulatorJournal = journal();
+    openWindow(emulatorJournal);
+    stopMachine();
+    const MessageBoxAnswers answers(QMessageBox::Close);
+    // started by the SDK, so that the packages can be taken away before the plugin looks
+    machine()->connectTo({}, this, [](bool) {});
+    waitFor("the machine", [] { return machine()->state() == Ravik::VirtualMachine::Connected; });
+    control("package without geoclue-emulator");
+    control("package without gstreamer-emulator");
+
+    chooseAction();
+    waitFor("the message", [&] { return !answers.boxes().isEmpty(); });
+    const MessageBoxAnswers::Box &box = answers.boxes().constFirst();
+    QCOMPARE(box.title, "Emulation management plugin");
+    QCOMPARE(box.icon, QMessageBox::Information);
+    QCOMPARE(box.buttons, QMessageBox::Close);
+    QCOMPARE(box.text, "Necessary packages not found on emulator!");
+    QStringList lines = box.informativeText.split('\n');
+    QCOMPARE(lines.takeFirst(), "Packages is not installed: ");
+    std::ranges::sort(lines);
+    QCOMPARE(lines, (QStringList{"", "geoclue-emulator", "gstreamer-emulator"}));
+    QVERIFY(!view()->isVisible());
+
+    control("package with geoclue-emulator");
+    control("package with gstreamer-emulator");
+    chooseAction();
+    waitFor("the window", [] { return view()->isVisible(); });
+    QCOMPARE(answers.boxes().size(), 1);
+}
+
+void ConnectionTest::testLinkLostWithTrack()
+{
+    Journal emulatorJournal = journal();
+    openWindow(emulatorJournal);
+    const QVariantList track = {QVariantMap{{"latitude", 60.0}, {"longitude", 30.0}}};
+    QVERIFY(QMetaObject::invokeMethod(gpsManager(), "loadTrack", Q_ARG(QVariantList, track)));
+    emulatorJournal.waitForCall("loadTrack array:array:double:60.0000000,30.0000000,0.00,0", 0);
+    const MessageBoxAnswers answers(QMessageBox::Ok);
+    QSignalSpy disconnected(invoker(), SIGNAL(webSocketDisconnected()));
+    QSignalSpy gpsReply(gpsManager(), SIGNAL(replyFromEmulatorReceived(QString)));
+
+    control("relay close");
+    // the attempts to reconnect that fail stay silent
+    waitFor("attempts to reconnect", [&] { return disconnected.size() > 5; });
+    QCOMPARE(answers.texts(),
+             QStringList{"Emulator connection is lost. Please, run Nimbra OS Emulator if it is "
+                         "needed and load the GPS-track again."});
+    QCOMPARE(answers.boxes().constFirst().buttons, QMessageBox::Ok);
+    QCOMPARE(gpsReply.count(QVariantList{QString()}), 1);
+    QVERIFY(!gpsManager()->property("trackLoaded").toBool());
+
+    const qsizetype start = emulatorJournal.position();
+    control("relay open");
+    emulatorJournal.waitForCall("setTapSensorValue int32:-1", start);
+    QCOMPARE(answers.boxes().size(), 1);
+}
+
+void ConnectionTest::testLinkLostWithoutTrack()
+{
+    Journal emulatorJournal = journal();
+    openWindow(emulatorJournal);
+    const MessageBoxAnswers answers(QMessageBox::Ok);
+    QSignalSpy disconnected(invoker(), SIGNAL(webSocketDisconnected()));
+    control("relay close");
+    waitFor("attempts to reconnect", [&] { return disconnected.size() > 5; });
+    const qsizetype start = emulatorJournal.position();
+    control("relay open");
+    emulatorJournal.waitForCall("setTapSensorValue int32:-1", start);
+    // a later connection tells the emulator which sensors there are
+    QVERIFY(emulatorJournal.callsSince(start).contains("enableSensor string:tap"));
+    QVERIFY(answers.boxes().isEmpty());
+    QVERIFY(view()->isVisible());
+}
+
+void ConnectionTest::testMachineOnWithoutForwardings()
+{
+    removeEmulator();
+    sdk()->addEmulator({.name = "Bare Emulator", .deviceModel = "Nimbra Phone"});
+    machine()->connectTo({}, this, [](bool) {});
+    waitFor("the machine", [] { return machine()->state() == Ravik::VirtualMachine::Connected; });
+
+    const MessageBoxAnswers answers(QMessageBox::Ok);
+    chooseAction();
+    QCOMPARE(answers.texts(),
+             QStringList{QStringLiteral("The emulation management plugin cannot be used. Please, "
+                                        "close Bare Emulator and try to use 'Emulation "
+                                        "management\u2026' again.")});
+    QVERIFY(!machine()->hasPortForwarding(tcpPort, nullptr));
+    QVERIFY(!machine()->isOff(nullptr, nullptr));
+    QVERIFY(!view()->isVisible());
+}
+
+void ConnectionTest::testDeviceModelChanged()
+{
+    QSignalSpy modelChanged(contextObject("smartphone3DModelConfig"),
+                            SIGNAL(smartphone3DModelConfigChanged()));
+    QSignalSpy availabilityChanged(sensorsManager(), SIGNAL(sensorsAvailabilityChanged()));
+    sdk()->setDeviceModel(0, "Nimbra Tablet");
+    QVERIFY(!modelChanged.isEmpty());
+    QVERIFY(!availabilityChanged.isEmpty());
+}
+
+void ConnectionTest::testNoEmulator()
+{
+    removeEmulator();
+    const MessageBoxAnswers answers(QMessageBox::Ok);
+    chooseAction();
+    QCOMPARE(answers.texts(),
+             QStringList{"The emulation management plugin cannot be used. Please, close the "
+                         "emulator if it is running and add Nimbra OS Emulator to the list of "
+                         "available devices in Qt Creator settings."});
+    QVERIFY(!view()->isVisible());
+}

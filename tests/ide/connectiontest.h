@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QObject>
+
+/// The way from the menu to the window, with every obstacle that can stand in it.
+class ConnectionTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void testMachineOff();
+    void testWindowOpensAgainWithoutCheck();
+    void testMachineStopped();
+    void testMissingPackages();
+    void testLinkLostWithTrack();
+    void testLinkLostWithoutTrack();
+    void testMachineOnWithoutForwardings();
+    void testDeviceModelChanged();
+    void testNoEmulator();
+};

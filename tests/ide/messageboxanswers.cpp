@@ -1,0 +1,37 @@
+#include "messageboxanswers.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QPushButton>
+
+#include <chrono>
+
+MessageBoxAnswers::MessageBoxAnswers(QMessageBox::StandardButton answer, bool tick)
+    : m_answer(answer)
+    , m_tick(tick)
+{
+    connect(&m_timer, &QTimer::timeout, this, &MessageBoxAnswers::answer);
+    m_timer.start(std::chrono::milliseconds(10));
+}
+
+QStringList MessageBoxAnswers::texts() const
+{
+    QStringList texts;
+    for (const Box &box : m_boxes)
+        texts << box.text;
+    return texts;
+}
+
+void MessageBoxAnswers::answer()
+{
+    auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+    if (!box || box == m_last)
+        return;
+    m_last = box;
+    m_boxes << Box{box->windowTitle(),     box->text(),
+                   box->informativeText(), box->icon(),
+                   box->standardButtons(), box->checkBox() && box->checkBox()->isVisible()};
+    if (box->checkBox())
+        box->checkBox()->setChecked(m_tick);
+    box->button(m_answer)->click();
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QList>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTimer>
+
+/// Answers the modal message boxes that open during its life, and keeps what they said.
+class MessageBoxAnswers : public QObject
+{
+public:
+    struct Box
+    {
+        QString title;
+        QString text;
+        QString informativeText;
+        QMessageBox::Icon icon;
+        QMessageBox::StandardButtons buttons;
+        bool hasVisibleCheckBox;
+    };
+
+    /// With \a tick the boxes' check box is ticked first, visible or not.
+    explicit MessageBoxAnswers(QMessageBox::StandardButton answer, bool tick = false);
+
+    [[nodiscard]] const QList<Box> &boxes() const { return m_boxes; }
+    /// The texts of the boxes, for comparisons.
+    [[nodiscard]] QStringList texts() const;
+
+private:
+    void answer();
+
+    QMessageBox::StandardButton m_answer;
+    bool m_tick;
+    QTimer m_timer;
+    QPointer<QMessageBox> m_last;
+    QList<Box> m_boxes;
+};

@@ -1,0 +1,58 @@
+#include "persistencetest.h"
+
+#include "plugindriver.h"
+
+#include <waiting.h>
+#include <windowdriver.h>
+
+#include <coreplugin/icore.h>
+
+#include <ravik/emulator.h>
+
+#include <utils/qtcsettings.h>
+
+#include <QQuickItem>
+#include <QTest>
+
+using namespace PluginDriver;
+
+static Journal journal()
+{
+    return Journal(dataFolder(emulator()) + "/journal.jsonl");
+}
+
+static QList<QQuickItem *> accelerometerFields(const WindowDriver &driver)
+{
+    return driver.items("QQuickTextField", driver.item("SensorControls", "title", "Accelerometer"));
+}
+
+void PersistenceTest::testSet()
+{
+    Journal emulatorJournal = journal();
+    openWindow(emulatorJournal);
+    const WindowDriver driver = WindowDriver::waitForWindow("Emulation Management");
+    const QList<QQuickItem *> fields = accelerometerFields(driver);
+    driver.type(fields.at(0), "0.123");
+    driver.type(fields.at(1), "-2.5");
+    driver.type(fields.at(2), "1.001");
+    emulatorJournal.waitForCall("setAccelerometerZ int32:1001", 0);
+}
+
+void PersistenceTest::testRestored()
+{
+    const Utils::QtcSettings *settings = Core::ICore::settings();
+    QCOMPARE(settings->value("emulationmanagement/accelerometer_x").toInt(), 123);
+    QCOMPARE(settings->value("emulationmanagement/accelerometer_y").toInt(), -2500);
+    QCOMPARE(settings->value("emulationmanagement/accelerometer_z").toInt(), 1001);
+
+    Journal emulatorJournal = journal();
+    const qsizetype start = emulatorJournal.position();
+    openWindow(emulatorJournal);
+    QVERIFY(emulatorJournal.callsSince(start).contains(
+        "setAccelerometerValues int32:123 int32:-2500 int32:1001"));
+    const WindowDriver driver = WindowDriver::waitForWindow("Emulation Management");
+    QStringList shown;
+    for (const QQuickItem *field : accelerometerFields(driver))
+        shown << field->property("text").toString();
+    QCOMPARE(shown, (QStringList{"0.123", "-2.500", "1.001"}));
+}

@@ -1,0 +1,124 @@
+#include "plugindriver.h"
+
+#include <waiting.h>
+
+#include <coreplugin/actionmanager/actionmanager.h>
+#include <coreplugin/actionmanager/command.h>
+#include <coreplugin/icore.h>
+
+#include <hostsdk.h>
+
+#include <ravik/emulator.h>
+#include <ravik/virtualmachine.h>
+
+#include <utils/filepath.h>
+
+#include <QAction>
+#include <QGuiApplication>
+#include <QLocalSocket>
+#include <QQmlContext>
+#include <QSignalSpy>
+
+namespace PluginDriver {
+
+QQuickView *view()
+{
+    const QWindowList windows = QGuiApplication::allWindows();
+    for (QWindow *window : windows) {
+        auto *candidate = qobject_cast<QQuickView *>(window);
+        if (candidate && candidate->source().path().endsWith(u"EmulationManagementView.qml"))
+            return candidate;
+    }
+    qFatal("The plugin has no window");
+}
+
+QObject *contextObject(const char *name)
+{
+    return view()->rootContext()->contextProperty(QLatin1StringView(name)).value<QObject *>();
+}
+
+QObject *gpsManager()
+{
+    return contextObject("gpsEmulationManager");
+}
+
+QObject *sensorsManager()
+{
+    return contextObject("sensorsEmulationManager");
+}
+
+QObject *invoker()
+{
+    return contextObject("remoteDBusInvokerService");
+}
+
+void chooseAction()
+{
+    Core::ActionManager::command("EmulationManagement.ShowEmulationManagementView.Action")
+        ->action()
+        ->trigger();
+}
+
+Ravik::HostSdk *sdk()
+{
+    return qobject_cast<Ravik::HostSdk *>(Ravik::Sdk::instance());
+}
+
+Ravik::Emulator *emulator()
+{
+    waitFor(QStringLiteral("an emulator"), [] { return !sdk()->emulators().isEmpty(); });
+    return sdk()->emulators().constFirst();
+}
+
+Ravik::VirtualMachine *machine()
+{
+    return emulator()->virtualMachine();
+}
+
+void openWindow(Journal &journal)
+{
+    // A link that is up by itself already is opened once more when the window is shown.
+    QSignalSpy connected(invoker(), SIGNAL(webSocketConnected()));
+    qsizetype connectedBefore = -1;
+    qsizetype start = 0;
+    QObject context;
+    QObject::connect(view(), &QWindow::visibleChanged, &context, [&] {
+        connectedBefore = connected.size();
+        start = journal.position();
+    });
+    chooseAction();
+    waitFor(QStringLiteral("the window and the link"),
+            [&] { return connectedBefore >= 0 && connected.size() > connectedBefore; });
+    // The GPS manager sets the emulator up twice, before and after the sensors.
+    waitFor(QStringLiteral("the emulator to be set up"), [&] {
+        return journal.callsSince(start).filter(QStringLiteral("setPosition ")).size() == 2;
+    });
+}
+
+void stopMachine()
+{
+    machine()->shutDown();
+    waitFor(QStringLiteral("the machine to end"),
+            [] { return machine()->isOff(nullptr, nullptr); });
+}
+
+QString dataFolder(const Ravik::Emulator *emulator)
+{
+    const QString slug = emulator->name().toLower().replace(u' ', u'-');
+    return Core::ICore::userResourcePath("emulators").pathAppended(slug).toFSPathString();
+}
+
+void control(const QString &command)
+{
+    QLocalSocket socket;
+    socket.connectToServer(dataFolder(emulator()) + QStringLiteral("/control"));
+    socket.write(command.toUtf8() + '\n');
+    waitFor(QStringLiteral("the answer to \"%1\"").arg(command), [&] {
+        return socket.canReadLine() || socket.state() == QLocalSocket::UnconnectedState;
+    });
+    const QByteArray answer = socket.readLine().trimmed();
+    if (answer != "ok" && command != u"kill")
+        throw WaitingFailed(command.toStdString() + ": " + answer.toStdString());
+}
+
+} // namespace PluginDriver

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <journal.h>
+
+#include <QObject>
+#include <QQuickView>
+
+namespace Ravik {
+class Emulator;
+class HostSdk;
+class VirtualMachine;
+} // namespace Ravik
+
+/// Reaches the plugin as the IDE, the SDK and the emulator see it.
+namespace PluginDriver {
+
+/// The tool window, shown or hidden.
+QQuickView *view();
+/// An object that the plugin has put into the QML context.
+QObject *contextObject(const char *name);
+QObject *gpsManager();
+QObject *sensorsManager();
+QObject *invoker();
+
+/// Does what choosing "Emulation Management…" in the menu does.
+void chooseAction();
+
+Ravik::HostSdk *sdk();
+/// The emulator that the plugin serves; waits until the SDK has listed it.
+Ravik::Emulator *emulator();
+Ravik::VirtualMachine *machine();
+/// Opens the window with the emulator and waits until the two are connected.
+void openWindow(Journal &journal);
+void stopMachine();
+QString dataFolder(const Ravik::Emulator *emulator);
+/// Asks a fault of the running emulator.
+void control(const QString &command);
+
+} // namespace PluginDriver

@@ -1,0 +1,76 @@
+#include "repliestest.h"
+
+#include "plugindriver.h"
+
+#include <waiting.h>
+#include <windowdriver.h>
+
+#include <ravik/emulator.h>
+
+#include <QGuiApplication>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace PluginDriver;
+
+/// The window of the dialog that is open; null when none is.
+static QQuickWindow *dialogWindow()
+{
+    const QWindowList windows = QGuiApplication::allWindows();
+    for (QWindow *window : windows) {
+        if (window->isVisible() && window->inherits("QQuickPopupWindow"))
+            return qobject_cast<QQuickWindow *>(window);
+    }
+    return nullptr;
+}
+
+void RepliesTest::initTestCase()
+{
+    QSignalSpy replies(sensorsManager(), SIGNAL(replyFromEmulatorReceived(QString)));
+    Journal journal(dataFolder(emulator()) + "/journal.jsonl");
+    openWindow(journal);
+    waitFor("all replies", [&] { return replies.size() == journal.callsSince(0).size(); });
+}
+
+void RepliesTest::testErrorDialog_data()
+{
+    QTest::addColumn<QString>("fault");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("error reply") << "fail setAccelerometerY org.vexa.Error.Broken It is broken"
+                                 << "org.vexa.Error.Broken It is broken";
+    QTest::newRow("no error any more") << "fail setAccelerometerY" << QString();
+    QTest::newRow("four fields") << "relay answer a:b:c:d" << "a:b:c:d";
+    QTest::newRow("six fields") << "relay answer a:b:c::e:f" << "a:b:c::e:f";
+    QTest::newRow("plain text") << "relay answer connection refused" << "connection refused";
+    QTest::newRow("five fields that mean nothing") << "relay answer a:b:c::e" << QString();
+}
+
+void RepliesTest::testErrorDialog()
+{
+    QFETCH(QString, fault);
+    QFETCH(QString, text);
+    control(fault);
+
+    QSignalSpy replies(sensorsManager(), SIGNAL(replyFromEmulatorReceived(QString)));
+    QVERIFY(QMetaObject::invokeMethod(sensorsManager(), "setAccelerometerY", Q_ARG(int, 1250)));
+    QVERIFY(QMetaObject::invokeMethod(sensorsManager(), "setAccelerometerZ", Q_ARG(int, 1)));
+    waitFor("both replies", [&] { return replies.size() == 2; });
+
+    auto *dialog = view()->rootObject()->property("errorDialog").value<QObject *>();
+    if (text.isEmpty()) {
+        QVERIFY(!dialog->property("visible").toBool());
+        return;
+    }
+    waitFor("the dialog", [&] { return dialog->property("visible").toBool(); });
+    QCOMPARE(dialog->property("title").toString(), "Error");
+    QCOMPARE(dialog->property("text").toString(), text);
+    WindowDriver(dialogWindow()).clickButton("OK");
+    waitFor("the dialog to close", [] { return !dialogWindow(); });
+}
+
+void RepliesTest::cleanupTestCase()
+{
+    stopMachine();
+}

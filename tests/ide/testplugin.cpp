@@ -1,0 +1,19 @@
+#include "testplugin.h"
+
+#include "connectiontest.h"
+#include "dialogstest.h"
+#include "persistencetest.h"
+#include "repliestest.h"
+#include "startuptest.h"
+
+bool TestPlugin::initialize(const QStringList &arguments, QString *errorString)
+{
+    Q_UNUSED(arguments)
+    Q_UNUSED(errorString)
+    addTest<StartUpTest>();
+    addTest<DialogsTest>();
+    addTest<ConnectionTest>();
+    addTest<RepliesTest>();
+    addTest<PersistenceTest>();
+    return true;
+}

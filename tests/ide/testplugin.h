@@ -1,0 +1,13 @@
+#pragma once
+
+#include <extensionsystem/iplugin.h>
+
+/// Hands the tests to the IDE, which runs those that its option -test names.
+class TestPlugin final : public ExtensionSystem::IPlugin
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "org.qt-project.Qt.QtCreatorPlugin" FILE "EmulationManagementTests.json")
+
+public:
+    bool initialize(const QStringList &arguments, QString *errorString) override;
+};

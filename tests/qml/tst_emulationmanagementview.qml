@@ -1,0 +1,151 @@
+import QtQuick
+import QtQuick.Controls
+import QtTest
+
+import "qrc:/emulationmanagement/qml"
+
+import "find.js" as Find
+
+Item {
+    id: root
+
+    width: 1100
+    height: 600
+
+    Component {
+        id: component
+
+        EmulationManagementView {}
+    }
+
+    TestCase {
+        id: test
+
+        readonly property var titles: [
+            "Sensors Management", "Sensors Values", "Orientation Management", "GPS Management",
+            "Camera Management",
+        ]
+        readonly property string warning: "The sensors values will be reset using the smartphone "
+            + "3D-model position. Do you want to continue?"
+        readonly property int ok: 0x400 // QMessageBox::Ok
+        readonly property int cancel: 0x400000 // QMessageBox::Cancel
+        property EmulationManagementView view
+
+        name: "EmulationManagementView"
+        when: windowShown
+
+        function init() {
+            failOnWarning(/.*/);
+            host.reset();
+            view = createTemporaryObject(component, root);
+            verify(view);
+        }
+
+        function button(title: string): PageButton {
+            return Find.find(view, item => item instanceof PageButton && item.text === title);
+        }
+
+        // The only page that is shown and marked.
+        function shownPage(): string {
+            const shown = titles.filter((title, index) => view.pagesIds[index].active);
+            const visible = titles.filter((title, index) => view.pagesIds[index].visible);
+            const marked = titles.filter(title => button(title).active);
+            compare(shown.length, 1);
+            compare(visible, shown);
+            compare(marked, shown);
+            return shown[0];
+        }
+
+        function saved(): bool {
+            const settings = Qt.createQmlObject("import org.plova 1.0; SettingsManager {}", test);
+            const value = settings.readDoNotShowAgainResetSensorsDialog();
+            settings.destroy();
+            return value;
+        }
+
+        function test_pages() {
+            compare(shownPage(), "Sensors Values");
+            for (const title of [...titles, ...[...titles].reverse()]) {
+                mouseClick(button(title));
+                compare(shownPage(), title);
+                mouseClick(button(title));
+                compare(shownPage(), title);
+            }
+            compare(host.questions, []);
+        }
+
+        function test_warning_data(): var {
+            const target = "Orientation Management";
+            return [
+                {tag: "asked without a change", target, asked: false, left: true},
+                {tag: "asked before another page", changed: true, target: "GPS Management",
+                 asked: false, left: true},
+                {tag: "asked on another page", changed: true, by: "Camera Management", target,
+                 asked: false, left: true},
+                {tag: "asked against the user's wish", changed: true, silenced: true, target,
+                 asked: false, left: true, saved: true},
+                {tag: "left before the answer", changed: true, target, asked: true, left: false},
+                {tag: "left after a refusal", changed: true, target, answer: cancel, ticked: true,
+                 asked: true, left: false},
+                {tag: "stayed after consent", changed: true, target, answer: ok, asked: true,
+                 left: true},
+                {tag: "forgot the tick", changed: true, target, answer: ok, ticked: true,
+                 asked: true, left: true, saved: true},
+            ];
+        }
+
+        function test_warning(row: var) {
+            if (row.silenced) {
+                Qt.createQmlObject("import org.plova 1.0; SettingsManager {}", view)
+                    .saveDoNotShowAgainResetSensorsDialog(true);
+            }
+            host.answer = row.answer ?? 0;
+            host.doNotShowAgain = row.ticked ?? false;
+            if (row.changed)
+                sensorsEmulationManager.setGyroscopeX(1);
+            if (row.by)
+                mouseClick(button(row.by));
+            mouseClick(button(row.target));
+            compare(shownPage(), row.left ? row.target : "Sensors Values");
+            compare(host.questions, row.asked ? [warning] : []);
+            compare(saved(), row.saved ?? false);
+        }
+
+        function test_reply_data(): var {
+            return [
+                {tag: "success shown", reply: "setGyroscopeX:1:::"},
+                {tag: "empty line shown", reply: ""},
+                {tag: "error hidden", reply: "enableSensor:als::org.vexa.Error:no such sensor",
+                 shown: "org.vexa.Error no such sensor"},
+                {tag: "strange line hidden", reply: "relay: bad request", shown:
+                 "relay: bad request"},
+            ];
+        }
+
+        function test_reply(row: var) {
+            host.receive(row.reply);
+            compare(view.errorDialog.visible, row.shown !== undefined);
+            if (row.shown)
+                compare(view.errorDialog.text, row.shown);
+            view.errorDialog.close();
+        }
+
+        // An error takes back the last switch of a sensor, and that once.
+        function test_refusedSwitch() {
+            const error = "enableSensor:als::org.vexa.Error:no";
+            sensorsEmulationManager.setSensorEnabled("als", false);
+            view.lastChangedSensorName = "als";
+            view.lastChangedSensorEnabled = true;
+            host.receive("enableSensor:als:::");
+            compare(sensorsEmulationManager.sensorsEnabledStates.als, false);
+            host.receive(error);
+            compare(sensorsEmulationManager.sensorsEnabledStates.als, true);
+            compare(view.lastChangedSensorName, "");
+
+            const states = sensorsEmulationManager.sensorsEnabledStates;
+            host.receive(error);
+            compare(sensorsEmulationManager.sensorsEnabledStates, states);
+            view.errorDialog.close();
+        }
+    }
+}

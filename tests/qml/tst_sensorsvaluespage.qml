@@ -1,0 +1,164 @@
+import QtQuick
+import QtQuick.Controls
+import QtTest
+
+import "qrc:/emulationmanagement/qml"
+
+import "find.js" as Find
+
+Item {
+    id: root
+
+    width: 1000
+    height: 600
+
+    Component {
+        id: component
+
+        SensorsValuesPage {
+            function sensor(name: string): SensorControls {
+                return Find.find(this, item => item instanceof SensorControls
+                                               && item.sensorName === name);
+            }
+
+            anchors.fill: parent
+            active: true
+        }
+    }
+
+    TestCase {
+        id: test
+
+        property SensorsValuesPage page
+
+        name: "SensorsValuesPage"
+        when: windowShown
+
+        function init() {
+            failOnWarning(/.*/);
+            host.reset();
+            page = createTemporaryObject(component, root);
+            verify(page);
+        }
+
+        function axis(name: string, index: int): SliderWithTextField {
+            const axes = [];
+            Find.find(page.sensor(name), item => {
+                if (item instanceof SliderWithTextField)
+                    axes.push(item);
+                return false;
+            });
+            return axes[index];
+        }
+
+        function type(control: SliderWithTextField, text: string): TextField {
+            const field = Find.find(control, item => item instanceof TextField);
+            mouseClick(field);
+            for (const character of text)
+                keyClick(character);
+            return field;
+        }
+
+        function test_accelerometer_data(): var {
+            return [
+                {tag: "x goes elsewhere", axis: "x", text: "1.5", value: 1500, shown: "1.500"},
+                {tag: "y goes elsewhere", axis: "y", text: "-0.7", value: -700, shown: "-0.700"},
+                {tag: "z goes elsewhere", axis: "z", text: "3", value: 3000, shown: "3.000"},
+                {tag: "one thousandth is cut off", axis: "x", text: "1.001", value: 1001,
+                 shown: "1.001"},
+                {tag: "more than 3 g is sent", axis: "x", text: "3.5", value: 3000,
+                 shown: "3.000"},
+            ];
+        }
+
+        function test_accelerometer(row: var) {
+            const control = axis("accelerometer", ["x", "y", "z"].indexOf(row.axis));
+            const field = type(control, row.text);
+            keyClick(Qt.Key_Return);
+            const model = sensorsEmulationManager.accelerometer;
+            const expected = Object.assign({x: 0, y: 0, z: 1000}, {[row.axis]: row.value});
+            compare({x: model.x, y: model.y, z: model.z}, expected);
+            compare(field.text, row.shown);
+            const acceleration = (row.value * 9.80665 / 1000).toFixed(3) + " m/s²";
+            verify(Find.find(control, item => item.text === acceleration && item.visible));
+        }
+
+        function shown(): var {
+            return [0, 1, 2].map(index => Find.find(axis("accelerometer", index),
+                                                    item => item instanceof TextField).text);
+        }
+
+        function test_resetValues() {
+            const field = type(axis("accelerometer", 0), "2");
+            keyClick(Qt.Key_Return);
+            sensorsEmulationManager.setAccelerometerValues(1500, -2000, 250);
+            compare(shown(), ["1.500", "-2.000", "0.250"]);
+            type(axis("accelerometer", 0), "-");
+            mouseClick(Find.find(page, item => item instanceof Button
+                                               && item.text === "Reset values"));
+            const model = sensorsEmulationManager.accelerometer;
+            compare([model.x, model.y, model.z], [0, 0, 1000]);
+            compare(shown(), ["0.000", "0.000", "1.000"]);
+
+            type(axis("accelerometer", 0), "2");
+            page.resetValues(); // by a button that takes no focus
+            compare(shown(), ["0.000", "0.000", "1.000"]);
+            verify(!field.activeFocus);
+        }
+
+        function test_availability() {
+            verify(page.sensor("accelerometer").visible);
+            host.setSensorAvailable("accelerometer", false);
+            verify(!page.sensor("accelerometer").visible);
+            host.setSensorAvailable("accelerometer", true);
+            verify(page.sensor("accelerometer").visible);
+        }
+
+        function test_enabledStates() {
+            const control = page.sensor("accelerometer");
+            sensorsEmulationManager.setSensorEnabled("accelerometer", false);
+            sensorsEmulationManager.setSensorEnabled("als", true);
+            verify(!control.enabled && control.visible);
+            sensorsEmulationManager.setSensorEnabled("accelerometer", true);
+            verify(control.enabled);
+        }
+
+        function test_modelSensorChanged_data(): var {
+            const rows = [
+                {tag: "azimuth missed", method: "setCompassAzimuth", changed: true},
+                {tag: "light taken for the model's", method: "setAlsLuxValue", changed: false},
+                {tag: "tap taken for the model's", method: "setTapSensorValue", changed: false},
+                {tag: "level taken for the model's", method: "setMagnetometerCalibrationLevel",
+                 changed: false},
+            ];
+            for (const sensor of ["Accelerometer", "Magnetometer", "MagneticField", "Gyroscope"]) {
+                for (const axis of ["X", "Y", "Z"]) {
+                    rows.push({tag: `${sensor} ${axis} missed`, method: `set${sensor}${axis}`,
+                               changed: true});
+                }
+            }
+            return rows;
+        }
+
+        function test_modelSensorChanged(row: var) {
+            sensorsEmulationManager[row.method](1);
+            compare(page.modelSensorChanged, row.changed);
+        }
+
+        function test_modelSensorForgotten_data(): var {
+            return [
+                {tag: "kept when shown again", forget: () => page.active = true, changed: false},
+                {tag: "kept after initialisation",
+                 forget: () => sensorsEmulationManager.sensorsInitialized(), changed: false},
+                {tag: "lost when left", forget: () => {}, changed: true},
+            ];
+        }
+
+        function test_modelSensorForgotten(row: var) {
+            sensorsEmulationManager.setGyroscopeX(1);
+            page.active = false;
+            row.forget();
+            compare(page.modelSensorChanged, row.changed);
+        }
+    }
+}

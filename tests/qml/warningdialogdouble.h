@@ -1,0 +1,18 @@
+#pragma once
+
+#include <plugin/warningdialog.h>
+
+namespace EmulationManagement::Internal {
+
+/// Takes the answer from the host: the real dialog needs the IDE's main window.
+class WarningDialogDouble : public WarningDialog
+{
+    Q_OBJECT
+
+public:
+    using WarningDialog::WarningDialog;
+
+    Q_INVOKABLE void show();
+};
+
+} // namespace EmulationManagement::Internal
