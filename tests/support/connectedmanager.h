@@ -1,0 +1,59 @@
+#pragma once
+
+#include "idesettings.h"
+#include "recordingrelay.h"
+
+#include <link/remotedbusinvokerservice.h>
+
+#include <QJSEngine>
+#include <QSignalSpy>
+
+namespace TestSupport {
+
+/// A manager of the D-Bus service \a service that is connected to a recording relay and was not
+/// told so: it has sent nothing yet.
+template<typename Manager>
+struct ConnectedManager
+{
+    explicit ConnectedManager(const QString &service)
+        : address(QStringLiteral("system %1 /%2 %1 ")
+                      .arg(service, QString(service).replace(u'.', u'/')))
+    {
+        if (!relay.connectLink(link))
+            qFatal("The relay cannot be reached");
+        manager.setRdbusinvoker(&link);
+        QJSEngine::setObjectOwnership(&manager, QJSEngine::CppOwnership);
+        engine.globalObject().setProperty(QStringLiteral("manager"), engine.newQObject(&manager));
+    }
+
+    /// Runs a script that knows the manager by this name, as a page would.
+    QString evaluate(const QString &script) { return engine.evaluate(script).toString(); }
+
+    [[nodiscard]] bool reconnect()
+    {
+        QSignalSpy connected(&manager, &Manager::emulatorConnected);
+        relay.dropClients();
+        return connected.wait();
+    }
+
+    /// Takes the requests as "method arguments" with ";" in between. One with another address than
+    /// the manager's keeps it.
+    [[nodiscard]] QString takeRequests()
+    {
+        QStringList requests = relay.takeRequests(link);
+        for (QString &request : requests) {
+            if (request.startsWith(address))
+                request.remove(0, address.size());
+        }
+        return requests.join(u';');
+    }
+
+    QString address;
+    IdeSettings settings;
+    RecordingRelay relay;
+    EmulationManagement::Internal::RemoteDBusInvokerService link;
+    Manager manager;
+    QJSEngine engine;
+};
+
+} // namespace TestSupport

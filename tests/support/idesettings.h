@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+#include <QTemporaryDir>
+
+#include <memory>
+
+namespace ExtensionSystem {
+class PluginManager;
+}
+
+namespace TestSupport {
+
+/// Gives a program that is not the IDE the IDE's settings, in a file of its own.
+class IdeSettings
+{
+public:
+    IdeSettings();
+    ~IdeSettings();
+
+    [[nodiscard]] QString fileName() const;
+    /// Writes the settings to their file and reads them back, as a restart of the IDE does.
+    void reopen();
+
+private:
+    QTemporaryDir m_folder;
+    std::unique_ptr<ExtensionSystem::PluginManager> m_pluginManager;
+};
+
+} // namespace TestSupport

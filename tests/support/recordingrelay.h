@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QWebSocketServer>
+
+namespace EmulationManagement::Internal {
+class RemoteDBusInvokerService;
+}
+
+namespace TestSupport {
+
+/// Stands in for the relay inside the emulator: records request lines and answers only when told.
+class RecordingRelay : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit RecordingRelay(QObject *parent = nullptr);
+    ~RecordingRelay() override;
+
+    [[nodiscard]] bool listen();
+    /// Listens and lets \a link connect; false when it does not within a few seconds.
+    [[nodiscard]] bool connectLink(EmulationManagement::Internal::RemoteDBusInvokerService &link);
+    /// Drops all clients and refuses new ones.
+    void stop();
+    void dropClients();
+
+    /// Sends \a line to every client.
+    void reply(const QString &line);
+
+    /*!
+     * Returns the lines that came over \a link since the last call.
+     *
+     * Sends a mark behind them: when it has come, nothing that was sent before is still on its way.
+     */
+    [[nodiscard]] QStringList takeRequests(
+        EmulationManagement::Internal::RemoteDBusInvokerService &link);
+
+private:
+    void acceptClients();
+
+    QWebSocketServer m_server;
+    QList<QWebSocket *> m_clients; // children of the server
+    QStringList m_requests;
+};
+
+} // namespace TestSupport

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <hostsdk.h>
+
+#include <QByteArray>
+#include <QString>
+#include <QTemporaryDir>
+
+#include <memory>
+
+namespace Ravik {
+class VirtualMachine;
+}
+
+namespace TestSupport {
+
+/// An SDK in a folder of its own whose first emulator is the project's, without a window.
+class TemporarySdk
+{
+public:
+    /// \a settings are lines of the SDK's settings file that follow its section "General".
+    explicit TemporarySdk(const QByteArray &settings = {});
+
+    /// Reads the settings file afresh, as a restart of the IDE does; ends what runs.
+    void reopen();
+
+    [[nodiscard]] Ravik::HostSdk &sdk() { return *m_sdk; }
+    [[nodiscard]] Ravik::VirtualMachine &machine();
+
+    /// Starts the emulator and waits until it can be reached.
+    [[nodiscard]] bool start();
+    [[nodiscard]] bool addPortForwarding(const QString &rule, const QString &protocol,
+                                         unsigned short hostPort, unsigned short emulatorPort);
+    /// Asks the running emulator for a fault and returns its answer, "ok" or "error: …".
+    [[nodiscard]] QString requestFault(const QByteArray &command);
+
+private:
+    QTemporaryDir m_folder;
+    std::unique_ptr<Ravik::HostSdk> m_sdk;
+};
+
+} // namespace TestSupport

@@ -1,0 +1,195 @@
+#include <link/remotedbusinvokerservice.h>
+#include <location/gpsemulationmanager.h>
+#include <sensors/sensorsemulationmanager.h>
+#include <support/idesettings.h>
+#include <support/temporarysdk.h>
+
+#include <ravik/virtualmachine.h>
+
+#include <QSignalSpy>
+#include <QTest>
+#include <QWebSocket>
+
+using namespace EmulationManagement::Internal;
+using namespace Qt::StringLiterals;
+
+// Each, in this order: a request > its reply as far as the error's name. S and L are the addresses
+// of the services of sensors and location, ERROR their errors, DBUS those of D-Bus and INVALID the
+// relay's own.
+static constexpr const char *requests[] = {
+    "S disableSensor string:als > disableSensor:als::",
+    "S enabled string:als > enabled:als:0:",
+    "S enableSensor string:als > enableSensor:als::",
+    "S enabled string:als > enabled:als:1:",
+    "S enabled string:sonar > enabled:sonar::ERROR.UnknownSensor",
+    "S setAccelerometerValues int32:10 int32:-3 int32:981 > setAccelerometerValues:10|-3|981::",
+    "S setGyroscopeX double:1.50e-07 > setGyroscopeX:1.50e-07::", // as it was written
+    "S explode  > explode:::DBUS.UnknownMethod",
+    "S setTapSensorValue double:-1 > setTapSensorValue:-1::DBUS.UnknownMethod",
+    "S setAlsValue int32:1 int32:2 > setAlsValue:1|2::DBUS.UnknownMethod",
+    "L pauseTrack > pauseTrack:::", // may do without the last space
+    "L goToPositionOnTrack int32:0 > goToPositionOnTrack:0::ERROR.IndexOutOfRange",
+    "L loadTrack array:array:double:60.0,30,12.50,0;1,2,3,4 > loadTrack:60.0,30,12.50,0;1,2,3,4::",
+    "L loadTrack array:array:double:1,2,3;1,2,3,4 > loadTrack:1,2,3;1,2,3,4::ERROR.InvalidTrack",
+    "system org.nobody / org.nobody x  > x:::DBUS.ServiceUnknown",
+    " > INVALID",
+    "system a.b / a.b > INVALID",
+    "session a.b / a.b x  > INVALID",
+    "system a.b x a.b x  > INVALID", // what D-Bus would not carry ends the relay's connection to it
+    "S set-x  > INVALID",
+    "S enabled  string:als > INVALID",
+    "S enabled float:1 > INVALID",
+    "S setAlsValue int32:2147483648 > INVALID",
+    "L setAltitude double:nan > INVALID",
+    "L setTrackLooped boolean:2 > INVALID",
+    "L loadTrack array:array:double:1,2,3,4; > INVALID",
+};
+
+static QString expanded(const char *row)
+{
+    const QString service = row[0] == 'S' ? u"org.vexa.SensorfwEmulationManagement"_s
+                                          : u"org.vexa.GeoclueEmulationManagement"_s;
+    QString text = QString::fromLatin1(row);
+    if (text.startsWith(u"S ") || text.startsWith(u"L ")) {
+        const QString path = QString(service).replace(u'.', u'/');
+        text.replace(0, 1, u"system %1 /%2 %1"_s.arg(service, path));
+    }
+    return text.replace(u"ERROR"_s, QString(service + u".Error"_s))
+        .replace(u"DBUS"_s, u"org.freedesktop.DBus.Error"_s)
+        .replace(u"INVALID"_s, u":::org.vexa.RemoteDBusInvoker.Error.InvalidRequest"_s);
+}
+
+class EmulatorTest : public QObject
+{
+    Q_OBJECT
+
+    bool connectClient()
+    {
+        m_replies.clear();
+        m_client.open(QUrl(u"ws://127.0.0.1:5454"_s));
+        const auto isDecided = [this] {
+            return m_client.state() == QAbstractSocket::ConnectedState
+                   || m_client.state() == QAbstractSocket::UnconnectedState;
+        };
+        return QTest::qWaitFor(isDecided) && m_client.isValid();
+    }
+
+    QString ask(const QString &request)
+    {
+        m_replies.clear();
+        m_client.sendTextMessage(request);
+        return QTest::qWaitFor([this] { return !m_replies.isEmpty(); }) ? m_replies.constFirst()
+                                                                        : u"no reply"_s;
+    }
+
+    TestSupport::TemporarySdk m_sdk;
+    QWebSocket m_client;
+    QStringList m_replies;
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(m_sdk.addPortForwarding(u"relay"_s, u"tcp"_s, 5454, 1234));
+        QVERIFY2(m_sdk.start(), qPrintable(m_sdk.machine().errorString()));
+        connect(&m_client, &QWebSocket::textMessageReceived, this,
+                [this](const QString &line) { m_replies.append(line); });
+    }
+
+    void init() { QVERIFY(connectClient()); }
+    void cleanup() { m_client.abort(); }
+
+    void reply_data()
+    {
+        QTest::addColumn<QStringList>("row");
+        for (const char *row : requests)
+            QTest::newRow(row) << expanded(row).split(u" > "_s);
+    }
+
+    void reply()
+    {
+        QFETCH(const QStringList, row);
+        const QStringList fields = ask(row.at(0)).split(u':');
+        QCOMPARE(fields.first(4).join(u':'), row.at(1));
+        QCOMPARE(fields.at(3).isEmpty(), fields.mid(4).join(u':').isEmpty()); // an error has a text
+    }
+
+    // What the relay refuses by itself must not overtake what the bus has to answer.
+    void repliesComeInOrder()
+    {
+        QStringList expected;
+        for (int i = 0; i < 100; ++i) {
+            m_client.sendTextMessage(expanded("S setAlsValue int32:") + QString::number(i));
+            m_client.sendTextMessage(expanded("S enabled string:als") + QChar::Null);
+            m_client.sendTextMessage(expanded("S ") + QString(256, u'x')); // D-Bus has shorter ones
+            m_client.sendBinaryMessage("system");
+            expected << u"setAlsValue:%1::"_s.arg(i);
+            expected.insert(expected.size(), 3, expanded("INVALID"));
+        }
+        QTRY_COMPARE(m_replies.size(), expected.size());
+        for (QString &reply : m_replies)
+            reply = reply.section(u':', 0, 3);
+        QCOMPARE(m_replies, expected);
+    }
+
+    void faults()
+    {
+        const QString request = expanded("S setAlsValue int32:1");
+        QCOMPARE(m_sdk.requestFault("fail setAlsValue org.x.Busy try it later"), u"ok"_s);
+        QCOMPARE(ask(request), u"setAlsValue:1::org.x.Busy:try it later"_s);
+        QCOMPARE(m_sdk.requestFault("fail setAlsValue"), u"ok"_s);
+        QCOMPARE(m_sdk.requestFault("relay answer what: ever"), u"ok"_s);
+        QCOMPARE(ask(request), u"what: ever"_s);
+        QCOMPARE(ask(request), u"setAlsValue:1:::"_s); // that was once
+        QVERIFY(m_sdk.requestFault("relay delay x").startsWith(u"error: "));
+        QVERIFY(m_sdk.requestFault("explode").startsWith(u"error: "));
+
+        QCOMPARE(m_sdk.requestFault("relay close"), u"ok"_s);
+        QTRY_COMPARE(m_client.state(), QAbstractSocket::UnconnectedState);
+        QVERIFY(!connectClient());
+        QCOMPARE(m_sdk.requestFault("relay open"), u"ok"_s);
+        QVERIFY(connectClient());
+    }
+
+    // The services must take every call as the plugin writes it.
+    void everyCallOfThePluginSucceeds()
+    {
+        const TestSupport::IdeSettings settings;
+        RemoteDBusInvokerService link;
+        SensorsEmulationManager sensors;
+        GPSEmulationManager location;
+        sensors.setRdbusinvoker(&link);
+        location.setRdbusinvoker(&link);
+        QSignalSpy replies(&sensors, &EmulationManager::replyFromEmulatorReceived);
+        QSignalSpy initialized(&sensors, &SensorsEmulationManager::sensorsInitialized);
+        link.connectToEmulator();
+        QVERIFY(initialized.wait());
+        for (const int value : {-1, 0}) {
+            sensors.setAccelerometerX(value);
+            sensors.setAccelerometerY(value);
+            sensors.setAccelerometerZ(value);
+            sensors.setGyroscopeX(value / 3.0);
+            sensors.setGyroscopeY(value / 3.0);
+            sensors.setGyroscopeZ(value / 3.0);
+            sensors.setMagnetometerX(value * 1e-7);
+            sensors.setMagnetometerY(value * 1e-7);
+            sensors.setMagnetometerZ(value * 1e-7);
+            location.setLatitude(value);
+            location.setLongitude(value);
+            location.setAltitude(value);
+        }
+        sensors.disableSensor(u"als"_s);
+        sensors.enableSensor(u"als"_s);
+        location.loadTrack(QVariantList(20'000, QVariantMap{{u"interval"_s, 1000}}));
+        location.goToPositionOnTrack(19'999);
+        location.startTrack();
+        location.pauseTrack();
+        QTRY_COMPARE(replies.size(), 8 + 7 + 5 + 2 * 12 + 6); // the two set-ups first
+        for (const QVariantList &reply : replies)
+            QCOMPARE(reply.constFirst(), u"OK"_s);
+        QVERIFY(!sensors.sensorsEnabledStates().values().contains(false));
+    }
+};
+
+QTEST_GUILESS_MAIN(EmulatorTest)
+
+#include "tst_emulator.moc"

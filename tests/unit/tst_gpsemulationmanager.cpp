@@ -1,0 +1,145 @@
+#include <location/gpsemulationmanager.h>
+#include <support/connectedmanager.h>
+
+#include <QLocale>
+#include <QTest>
+
+using namespace EmulationManagement::Internal;
+using namespace Qt::StringLiterals;
+
+// Each: a call as a page makes it > the request > the state after it > the signal that it emits.
+static constexpr const char *calls[] = {
+    "setPosition(-60.5, 30.123456789, 12.345)"
+    " > setPosition double:-60.5000000 double:30.1234568 double:12.35"
+    " > -60.5 30.123456789 12.345 false false 1 7 false > ",
+    "setLocalPosition(-1, 1e-9, 3) >  > -1 1e-9 3 false false 1 7 false > ",
+    "setLatitude(1e-9) > setLatitude double:0.0000000 > 1e-9 2.5 3.5 false false 1 7 false > ",
+    "setLongitude(-179.5) > setLongitude double:-179.5000000"
+    " > 1.5 -179.5 3.5 false false 1 7 false > ",
+    "setAltitude(1234567.891) > setAltitude double:1234567.89"
+    " > 1.5 2.5 1234567.891 false false 1 7 false > ",
+    "startTrack() > startTrack  > 1.5 2.5 3.5 false false 1 7 false > ",
+    "pauseTrack() > pauseTrack  > 1.5 2.5 3.5 false false 1 7 false > ",
+    "stopTrack() > stopTrack  > 1.5 2.5 3.5 false false 1 0 false > index",
+    "setTrackLooped(true) > setTrackLooped boolean:1 > 1.5 2.5 3.5 true false 1 7 false > looped",
+    // unchanged, and still told
+    "setTrackLooped(false) > setTrackLooped boolean:0 > 1.5 2.5 3.5 false false 1 7 false > looped",
+    "setTrackIntervalMode(true) > setTrackIntervalMode boolean:1"
+    " > 1.5 2.5 3.5 false true 1 7 false > interval",
+    "setTrackSpeed(5) > setTrackSpeed int32:5 > 1.5 2.5 3.5 false false 5 7 false > speed",
+    "goToPositionOnTrack(41) > goToPositionOnTrack int32:41"
+    " > 1.5 2.5 3.5 false false 1 41 false > index",
+    // the first point, silently
+    "loadTrack([]) > loadTrack array:array:double: > 1.5 2.5 3.5 false false 1 0 true > ",
+};
+
+struct Fixture : TestSupport::ConnectedManager<GPSEmulationManager>
+{
+    Fixture()
+        : ConnectedManager(u"org.vexa.GeoclueEmulationManagement"_s)
+    {}
+
+    QString state()
+    {
+        return evaluate(u"p = manager.currentPosition; [p.latitude, p.longitude, p.altitude, "
+                        "manager.trackLooped, manager.useDefaultInterval, manager.trackSpeed, "
+                        "manager.currentPositionIndex, manager.trackLoaded].join(' ')"_s);
+    }
+};
+
+class GpsEmulationManagerTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); // writes 1,5
+    }
+
+    void call_data()
+    {
+        QTest::addColumn<QStringList>("row");
+        for (const char *call : calls) {
+            const QStringList row = QString::fromLatin1(call).split(u" > "_s);
+            QTest::newRow(qPrintable(row.constFirst())) << row;
+        }
+    }
+
+    void call()
+    {
+        using Manager = GPSEmulationManager;
+        QFETCH(const QStringList, row);
+        Fixture fixture;
+        Manager &manager = fixture.manager;
+        manager.setLocalPosition(1.5, 2.5, 3.5);
+        manager.setCurrentPositionIndex(7);
+        QString told;
+        connect(&manager, &Manager::trackLoopedChanged, this, [&] { told += u"looped"_s; });
+        connect(&manager, &Manager::defaultIntervalUsingChanged, this,
+                [&] { told += u"interval"_s; });
+        connect(&manager, &Manager::trackSpeedChanged, this, [&] { told += u"speed"_s; });
+        connect(&manager, &Manager::currentPositionIndexChanged, this, [&] { told += u"index"_s; });
+
+        QCOMPARE(fixture.evaluate(u"manager."_s + row.at(0)), u"undefined"_s);
+        QCOMPARE(fixture.takeRequests(), row.at(1));
+        QCOMPARE(fixture.state(), row.at(2));
+        QCOMPARE(told, row.at(3));
+        // what is shown is also kept
+        QCOMPARE(SettingsManager().readGpsLatitude(), manager.currentPosition()->latitude());
+        QCOMPARE(SettingsManager().readGpsLongitude(), manager.currentPosition()->longitude());
+        QCOMPARE(SettingsManager().readGpsAltitude(), manager.currentPosition()->altitude());
+    }
+
+    void loadTrack_data()
+    {
+        QTest::addColumn<QString>("points");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("no separator at the end")
+            << u"{latitude: 60, longitude: 30, altitude: 12.5, interval: 0},"
+               "{latitude: 60.001, longitude: 30.002, altitude: 13, interval: 1000}"_s
+            << u"60.0000000,30.0000000,12.50,0;60.0010000,30.0020000,13.00,1000"_s;
+        QTest::newRow("texts")
+            << u"{latitude: '-1.5', longitude: '2e1', altitude: '3', interval: '2000'}"_s
+            << u"-1.5000000,20.0000000,3.00,2000"_s;
+        QTest::newRow("texts that are no C numbers")
+            << u"{latitude: '1,000.00', longitude: '1,5', altitude: 'abc', interval: ''}"_s
+            << u"0.0000000,0.0000000,0.00,0"_s;
+        QTest::newRow("missing keys") << u"{longitude: 1}"_s << u"0.0000000,1.0000000,0.00,0"_s;
+        QTest::newRow("the longest plain interval, and a longer one")
+            << u"{interval: 999999}, {interval: 3600000}"_s
+            << u"0.0000000,0.0000000,0.00,999999;0.0000000,0.0000000,0.00,3.6e+06"_s;
+    }
+
+    void loadTrack()
+    {
+        QFETCH(const QString, points);
+        QFETCH(const QString, text);
+        Fixture fixture;
+        QCOMPARE(fixture.evaluate(u"manager.loadTrack([%1])"_s.arg(points)), u"undefined"_s);
+        QCOMPARE(fixture.takeRequests(), u"loadTrack array:array:double:"_s + text);
+    }
+
+    void connectionSetsUpTheEmulator()
+    {
+        Fixture fixture;
+        fixture.manager.setPosition(60.5, -30.25, 15);
+        fixture.manager.setTrackLooped(true);
+        fixture.manager.setTrackSpeed(3);
+        fixture.manager.loadTrack({});
+        fixture.manager.goToPositionOnTrack(9);
+        fixture.manager.currentPosition()->setLatitude(1); // only what was saved counts
+        QVERIFY(!fixture.takeRequests().isEmpty());
+
+        QVERIFY(fixture.reconnect());
+        QCOMPARE(fixture.takeRequests(),
+                 u"stopTrack ;setTrackLooped boolean:1;setTrackIntervalMode boolean:0;"
+                 "setTrackSpeed int32:3;"
+                 "setPosition double:60.5000000 double:-30.2500000 double:15.00"_s);
+        QCOMPARE(fixture.state(), u"60.5 -30.25 15 true false 3 0 false"_s);
+    }
+};
+
+QTEST_GUILESS_MAIN(GpsEmulationManagerTest)
+
+#include "tst_gpsemulationmanager.moc"

@@ -1,0 +1,148 @@
+#include <link/emulationmanager.h>
+#include <link/remotedbusinvokerservice.h>
+#include <support/recordingrelay.h>
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace EmulationManagement::Internal;
+using namespace Qt::StringLiterals;
+using Link = RemoteDBusInvokerService;
+
+/// A manager of an imaginary service, with a different text in every field of a request.
+class LampManager : public EmulationManager
+{
+public:
+    QString bus() const override { return u"session"_s; }
+    QString dbusService() const override { return u"org.lamp.Service"_s; }
+    QString dbusObject() const override { return u"/org/lamp/Object"_s; }
+    QString dbusInterface() const override { return u"org.lamp.Interface"_s; }
+    void processDBusMethodsReturnValues(const QStringList &values) override
+    {
+        seen.append(values.join(u','));
+    }
+    using EmulationManager::callDBusMethod;
+
+    QStringList seen;
+};
+
+class LinkTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void requestIsOneFrame_data()
+    {
+        QTest::addColumn<QString>("arguments");
+        QTest::newRow("tokens") << u"int32:10 int32:-3 int32:981"_s;
+        QTest::newRow("the space before no arguments is kept") << QString();
+        QTest::newRow("placeholders in a value are not filled") << u"string:%1%2%6%L1"_s;
+        QTest::newRow("text beyond Latin 1") << u"string:Приёмник"_s;
+        QTest::newRow("longer than a frame of the socket") << QString(2'000'000, u'7');
+    }
+
+    void requestIsOneFrame()
+    {
+        QFETCH(const QString, arguments);
+        TestSupport::RecordingRelay relay;
+        Link link;
+        LampManager manager;
+        QVERIFY(relay.connectLink(link));
+        manager.setRdbusinvoker(&link);
+        manager.callDBusMethod(u"dim"_s, arguments);
+        const QString request
+            = u"session org.lamp.Service /org/lamp/Object org.lamp.Interface dim "_s + arguments;
+        QCOMPARE(relay.takeRequests(link), QStringList{request});
+    }
+
+    void retriesUntilSomethingListens()
+    {
+        TestSupport::RecordingRelay relay;
+        Link link;
+        QSignalSpy connected(&link, &Link::webSocketConnected);
+        QSignalSpy disconnected(&link, &Link::webSocketDisconnected);
+        link.callDBusMethod(u"lost"_s, {}, {}, {}, {}, {});
+        link.connectToEmulator();
+        QTRY_VERIFY(disconnected.size() > 100);
+        link.callDBusMethod(u"lost"_s, {}, {}, {}, {}, {});
+        QVERIFY(connected.isEmpty());
+        QVERIFY(relay.listen());
+        QVERIFY(connected.wait());
+        QCOMPARE(relay.takeRequests(link), QStringList());
+    }
+
+    void reconnectsWhenTheRelayRestarts()
+    {
+        TestSupport::RecordingRelay relay;
+        Link link;
+        QVERIFY(relay.connectLink(link));
+        QSignalSpy connected(&link, &Link::webSocketConnected);
+        QSignalSpy disconnected(&link, &Link::webSocketDisconnected);
+        relay.stop();
+        QVERIFY(disconnected.wait());
+        QVERIFY(relay.listen());
+        QTRY_COMPARE(connected.size(), 1);
+        QCOMPARE(relay.takeRequests(link), QStringList());
+    }
+
+    void reply_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QString>("text"); // for the pages
+        QTest::addColumn<QString>("seen"); // by the subclass
+        const QString ok = u"OK"_s;
+        QTest::newRow("success") << u"enabled:als:1::"_s << ok << u"enabled,als,1,,"_s;
+        QTest::newRow("empty fields are kept") << u"::::"_s << ok << u",,,,"_s;
+        QTest::newRow("an error text alone is no error") << u"m:::: "_s << ok << u"m,,,, "_s;
+        QTest::newRow("error") << u"x:y:z:org.x.Bad:No such"_s << u"org.x.Bad No such"_s
+                               << QString();
+        QTest::newRow("error without a text")
+            << u"x:::org.x.Bad:"_s << u"org.x.Bad "_s << QString();
+        QTest::newRow("placeholders in an error") << u"x:::%2:%1"_s << u"%2 %1"_s << QString();
+        QTest::newRow("four fields") << u"a:b:c:"_s << u"a:b:c:"_s << QString();
+        QTest::newRow("six fields") << u"a:b:c::d:"_s << u"a:b:c::d:"_s << QString();
+        QTest::newRow("plain text")
+            << u"connection refused"_s << u"connection refused"_s << QString();
+        QTest::newRow("empty line") << QString() << QString() << QString();
+    }
+
+    void reply()
+    {
+        QFETCH(const QString, line);
+        TestSupport::RecordingRelay relay;
+        Link link;
+        LampManager manager;
+        manager.setRdbusinvoker(&link);
+        QVERIFY(relay.connectLink(link));
+        QStringList seenBeforeReply;
+        connect(&manager, &EmulationManager::replyFromEmulatorReceived, this,
+                [&] { seenBeforeReply = manager.seen; });
+        QSignalSpy replies(&manager, &EmulationManager::replyFromEmulatorReceived);
+        relay.reply(line);
+        QVERIFY(replies.wait());
+        QTEST(replies.constFirst().constFirst().toString(), "text");
+        QTEST(seenBeforeReply.join(u';'), "seen");
+    }
+
+    void invokerSetTwiceDoublesEverythingButCalls()
+    {
+        TestSupport::RecordingRelay relay;
+        Link link;
+        LampManager manager;
+        QSignalSpy changed(&manager, &EmulationManager::rdbusinvokerChanged);
+        QSignalSpy connected(&manager, &EmulationManager::emulatorConnected);
+        manager.setRdbusinvoker(&link);
+        manager.setRdbusinvoker(&link);
+        QCOMPARE(changed.size(), 2);
+        QVERIFY(relay.connectLink(link));
+        QCOMPARE(connected.size(), 2);
+        relay.reply(u"m::::"_s);
+        QTRY_COMPARE(manager.seen.size(), 2);
+        manager.callDBusMethod(u"dim"_s, {});
+        QCOMPARE(relay.takeRequests(link).size(), 1);
+    }
+};
+
+QTEST_GUILESS_MAIN(LinkTest)
+
+#include "tst_link.moc"

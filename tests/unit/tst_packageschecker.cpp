@@ -1,0 +1,80 @@
+#include <plugin/emulationmanagementpackageschecker.h>
+#include <support/temporarysdk.h>
+
+#include <ravik/virtualmachine.h>
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class PackagesCheckerTest : public QObject
+{
+    Q_OBJECT
+
+    /// Starts two checks and returns, sorted, the packages that the only answer names.
+    QString missingPackages(const QSsh::SshConnectionParameters &first,
+                            const QSsh::SshConnectionParameters &second)
+    {
+        EmulationManagementPackagesChecker checker;
+        QSignalSpy finished(&checker, &EmulationManagementPackagesChecker::checkFinished);
+        checker.checkPackages(first);
+        checker.checkPackages(second);
+        if (!finished.wait() || finished.size() != 1)
+            return u"%1 answers"_s.arg(finished.size());
+        const QString head = u"Necessary packages not found on emulator!\n"
+                             "Packages is not installed: \n"_s;
+        const QString text = finished.constFirst().at(0).toString() + u'\n'
+                             + finished.constFirst().at(1).toString();
+        if (!text.startsWith(head))
+            return text.trimmed();
+        QStringList packages = text.sliced(head.size()).split(u'\n', Qt::SkipEmptyParts);
+        packages.sort();
+        return packages.join(u' ');
+    }
+
+    TestSupport::TemporarySdk m_sdk;
+
+private Q_SLOTS:
+    void initTestCase() { QVERIFY2(m_sdk.start(), qPrintable(m_sdk.machine().errorString())); }
+
+    void check_data()
+    {
+        QTest::addColumn<QByteArrayList>("faults"); // which stay for the rows that follow
+        QTest::addColumn<QString>("missing");
+        QTest::newRow("all are there") << QByteArrayList() << QString();
+        QTest::newRow("one is missing")
+            << QByteArrayList{"without geoclue-emulator"} << u"geoclue-emulator"_s;
+        QTest::newRow("a longer name counts")
+            << QByteArrayList{"with my-geoclue-emulator-tools"} << QString();
+        QTest::newRow("one of them, and one whose name begins alike, are missing")
+            << QByteArrayList{"without sensorfw-qt5-emulator-plugins",
+                              "without remote-dbus-invoker"}
+            << u"remote-dbus-invoker sensorfw-qt5-emulator-plugins"_s;
+    }
+
+    void check()
+    {
+        QFETCH(const QByteArrayList, faults);
+        for (const QByteArray &fault : faults)
+            QCOMPARE(m_sdk.requestFault("package " + fault), u"ok"_s);
+        // the first is replaced and never answered
+        QTEST(missingPackages({.host = u"127.0.0.1"_s, .port = 1}, m_sdk.machine().sshParameters()),
+              "missing");
+    }
+
+    void whoCannotLogInFindsNothing()
+    {
+        const QSsh::SshConnectionParameters closed{.host = u"127.0.0.1"_s, .port = 1};
+        QSsh::SshConnectionParameters stranger = m_sdk.machine().sshParameters();
+        stranger.privateKeyFile += u".pub"_s;
+        const QString all = u"geoclue-emulator gstreamer-emulator remote-dbus-invoker "
+                            "sensorfw-qt5-emulator-plugins"_s;
+        QCOMPARE(missingPackages(closed, closed), all);
+        QCOMPARE(missingPackages(stranger, stranger), all);
+    }
+};
+
+QTEST_GUILESS_MAIN(PackagesCheckerTest)
+
+#include "tst_packageschecker.moc"

@@ -1,0 +1,185 @@
+#include <sensors/accelerometermodel.h>
+#include <sensors/alsmodel.h>
+#include <sensors/compassmodel.h>
+#include <sensors/gyroscopemodel.h>
+#include <sensors/magneticfieldmodel.h>
+#include <sensors/magnetometermodel.h>
+#include <sensors/orientationmodel.h>
+#include <sensors/proximitymodel.h>
+#include <sensors/tapmodel.h>
+
+#include <QMetaProperty>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <array>
+#include <cmath>
+#include <numbers>
+
+using namespace EmulationManagement::Internal;
+using namespace Qt::StringLiterals;
+
+using Vector = std::array<double, 3>;
+using Check = std::function<void()>;
+
+static double radians(double degrees)
+{
+    return degrees * std::numbers::pi / 180.0;
+}
+
+static QList<QMetaProperty> propertiesOf(const SensorModel &model)
+{
+    QList<QMetaProperty> properties;
+    const QMetaObject *metaObject = model.metaObject();
+    for (int i = SensorModel::staticMetaObject.propertyCount(); i < metaObject->propertyCount();
+         ++i)
+        properties.append(metaObject->property(i));
+    return properties;
+}
+
+static QString valuesOf(const SensorModel &model)
+{
+    QStringList values;
+    for (const QMetaProperty &property : propertiesOf(model))
+        values.append(QString::number(property.read(&model).toDouble(), 'g', 17));
+    return values.join(u' ');
+}
+
+/// The life of a model: as it starts, as its properties are set, as it is reset.
+template<typename Model>
+static void addModel(const char *name, const QString &initial, const QString &defaults)
+{
+    QTest::newRow(name) << Check([initial, defaults] {
+        Model model;
+        QCOMPARE(valuesOf(model), initial);
+        for (const QMetaProperty &property : propertiesOf(model)) {
+            QSignalSpy changed(&model, property.notifySignal());
+            QVERIFY(property.write(&model, 3));
+            QVERIFY(property.write(&model, 3)); // notifies though nothing changes
+            QCOMPARE(changed.size(), 2);
+            QCOMPARE(property.read(&model).toDouble(), 3);
+        }
+        model.setDefaultValues();
+        QCOMPARE(valuesOf(model), defaults);
+    });
+}
+
+class SensorModelsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void valuesAndDefaults_data()
+    {
+        QTest::addColumn<Check>("check");
+        const auto text = [](double x) { return QString::number(x, 'g', 17); };
+        const QString gyroscope = u"0 0 "_s + text(1.1459155902616465);
+        const QString magnetometer = text(4.3e-5) + u" 0 0 0"_s;
+        const QString field = u"0 "_s + text(5.95) + u' ' + text(-48.76);
+        addModel<AccelerometerModel>("accelerometer", u"0 0 1000"_s, u"0 0 1000"_s);
+        addModel<AlsModel>("als", u"100"_s, u"100"_s);
+        addModel<GyroscopeModel>("gyroscope", gyroscope, gyroscope);
+        addModel<MagneticFieldModel>("magnetic field", field, field);
+        addModel<MagnetometerModel>("magnetometer", magnetometer, magnetometer);
+        addModel<ProximityModel>("proximity", u"5"_s, u"5"_s);
+        addModel<TapModel>("tap", u"-1"_s, u"-1"_s);
+        // these two are computed, and not before the first reading
+        addModel<CompassModel>("compass", u"0 0"_s, u"270 0"_s);
+        addModel<OrientationModel>("orientation", u"0"_s, u"5"_s);
+    }
+
+    void valuesAndDefaults()
+    {
+        QFETCH(const Check, check);
+        check();
+    }
+
+    void azimuthIsRounded()
+    {
+        const auto azimuthOf = [](double heading) {
+            return CompassModel::calculateAzimuth(0, 0, 1000, -std::sin(radians(heading)),
+                                                  std::cos(radians(heading)), 0.0);
+        };
+        QCOMPARE(azimuthOf(44.6), 45);
+        QCOMPARE(azimuthOf(359.4), 359);
+        QCOMPARE(azimuthOf(359.6), 0);
+    }
+
+    // A device that points at a heading keeps its azimuth however it is tilted. Its magnetometer's
+    // z axis points into the screen, its accelerometer's out of it.
+    void azimuthDoesNotDependOnTilt()
+    {
+        constexpr double gravity = 1e6; // far more than real, so that integers are fine enough
+        const auto acceleration
+            = [](const Vector &axis) { return int(std::lround(axis[2] * gravity)); };
+        const auto flux = [](const Vector &axis) { return axis[1] * 1.6e-5 - axis[2] * 4.8e-5; };
+        for (int heading = 0; heading < 360; heading += 5) {
+            const double sinH = std::sin(radians(heading)), cosH = std::cos(radians(heading));
+            for (const double pitch : {-60.0, -20.0, 0.0, 35.0}) {
+                const double sinP = std::sin(radians(pitch)), cosP = std::cos(radians(pitch));
+                for (const double roll : {-50.0, 0.0, 10.0, 70.0}) {
+                    const double sinR = std::sin(radians(roll)), cosR = std::cos(radians(roll));
+                    // the device's axes as east, north and up
+                    const Vector y{sinH * cosP, cosH * cosP, sinP};
+                    const Vector flatX{cosH, -sinH, 0}, flatZ{-sinH * sinP, -cosH * sinP, cosP};
+                    Vector x, z;
+                    for (size_t i = 0; i < 3; ++i) {
+                        x[i] = flatX[i] * cosR + flatZ[i] * sinR;
+                        z[i] = flatZ[i] * cosR - flatX[i] * sinR;
+                    }
+                    QCOMPARE(CompassModel::calculateAzimuth(acceleration(x), acceleration(y),
+                                                            acceleration(z), flux(x), flux(y),
+                                                            -flux(z)),
+                             heading);
+                }
+            }
+        }
+    }
+
+    void orientation_data()
+    {
+        using enum QOrientationReading::Orientation;
+        using Orientation = QOrientationReading::Orientation;
+        QTest::addColumn<QList<Vector>>("readings");
+        QTest::addColumn<Orientation>("orientation"); // after the last
+        const auto add = [](const char *name, const QList<Vector> &readings, Orientation result) {
+            QTest::newRow(name) << readings << result;
+        };
+        const auto side = [](double degrees) -> Vector {
+            return {1000 * std::sin(radians(degrees)), 0, 1000 * std::cos(radians(degrees))};
+        };
+        const auto top = [](double degrees) -> Vector {
+            return {0, 1000 * std::sin(radians(degrees)), 1000 * std::cos(radians(degrees))};
+        };
+        const Vector back{0, 0, 1000}, face{0, 0, -1000}, none{0, 0, 0};
+
+        add("right side below its threshold", {side(25.4)}, FaceUp);
+        add("right side above its threshold", {side(25.6)}, RightUp);
+        add("left side above its threshold", {side(-25.6)}, LeftUp);
+        add("top below its threshold", {top(20.4)}, FaceUp);
+        add("top above its threshold", {top(20.6)}, TopUp);
+        add("bottom above its threshold", {top(-20.6)}, TopDown);
+        add("side goes before top", {{600, 700, 100}}, RightUp);
+        add("up from the face threshold on", {face, {0, 0, 300}}, FaceUp);
+        add("down from the face threshold on", {back, {0, 0, -300}}, FaceDown);
+        add("face stays below its threshold", {face, {0, 0, 299}}, FaceDown);
+        add("back stays above its threshold", {back, {0, 0, -299}}, FaceUp);
+        add("a tilted device is not on its face", {face, {1000, 0, -400}, none}, FaceUp);
+        add("a slow tilt keeps the face", {face, {1000, 0, -200}, none}, FaceDown);
+    }
+
+    void orientation()
+    {
+        QFETCH(const QList<Vector>, readings);
+        OrientationModel model;
+        QSignalSpy changed(&model, &OrientationModel::orientationChanged);
+        for (const Vector &reading : readings)
+            model.setOrientation(reading[0], reading[1], reading[2]);
+        QTEST(model.orientation(), "orientation");
+        QCOMPARE(changed.size(), readings.size());
+    }
+};
+
+QTEST_GUILESS_MAIN(SensorModelsTest)
+
+#include "tst_sensormodels.moc"

@@ -1,0 +1,247 @@
+#include <sensors/sensorsemulationmanager.h>
+#include <support/connectedmanager.h>
+
+#include <QLocale>
+#include <QMetaProperty>
+#include <QTest>
+
+using namespace EmulationManagement::Internal;
+using namespace Qt::StringLiterals;
+
+// Each: a call as a page makes it > the requests > what changes in the models, from the defaults.
+static constexpr const char *calls[] = {
+    "setSensorEnabled('als', true) >  > ",
+    "setAccelerometerValues(10, -3, 981) > setAccelerometerValues int32:10 int32:-3 int32:981"
+    " > accelerometer.x=10 accelerometer.y=-3 accelerometer.z=981",
+    "setAccelerometerX(-1000) > setAccelerometerX int32:-1000"
+    " > accelerometer.x=-1000 orientation.orientation=3",
+    "setAccelerometerY(1000) > setAccelerometerY int32:1000"
+    " > accelerometer.y=1000 orientation.orientation=1",
+    "setAccelerometerZ(-1000) > setAccelerometerZ int32:-1000"
+    " > accelerometer.z=-1000 compass.azimuth=90 orientation.orientation=6",
+    "setAlsLuxValue(20000) > setAlsValue int32:20000 > als.lux=20000",
+    "setAlsLightLevel(2500) > setAlsValue int32:2500 > als.lux=2500",
+    // six digits are sent, all are kept
+    "setGyroscopeValues(1.23456789, -2.5, 1e-7)"
+    " > setGyroscopeValues double:1.23457 double:-2.5 double:1e-07"
+    " > gyroscope.x=1.23456789 gyroscope.y=-2.5 gyroscope.z=1e-07",
+    "setGyroscopeX(9) > setGyroscopeX double:9 > gyroscope.x=9",
+    "setGyroscopeY(9) > setGyroscopeY double:9 > gyroscope.y=9",
+    "setGyroscopeZ(9) > setGyroscopeZ double:9 > gyroscope.z=9",
+    "setMagnetometerValues(-2e-5, 2e-5, -1)"
+    " > setMagnetometerValues double:-2e-05 double:2e-05 double:-1"
+    " > compass.azimuth=45 magnetometer.x=-2e-05 magnetometer.y=2e-05 magnetometer.z=-1",
+    "setMagnetometerX(-1) > setMagnetometerX double:-1 > compass.azimuth=90 magnetometer.x=-1",
+    "setMagnetometerY(1) > setMagnetometerY double:1 > compass.azimuth=0 magnetometer.y=1",
+    "setMagnetometerZ(1) > setMagnetometerZ double:1 > magnetometer.z=1",
+    "setMagnetometerCalibrationLevel(3) > setMagnetometerCalibrationLevel int32:3"
+    " > compass.calibrationLevel=3 magnetometer.calibrationLevel=3",
+    "setCompassCalibrationLevel(3) > setMagnetometerCalibrationLevel int32:3"
+    " > compass.calibrationLevel=3 magnetometer.calibrationLevel=3",
+    // the magnetic field stays on the host
+    "setMagneticFieldValues(1, 2, 3) >  > magneticField.x=1 magneticField.y=2 magneticField.z=3",
+    "setMagneticFieldZ(3) >  > magneticField.z=3",
+    "setProximitySensorNearValue(true) > setProximitySensorValue int32:0 > proximity.reflectance=0",
+    "setProximitySensorNearValue(false) > setProximitySensorValue int32:10"
+    " > proximity.reflectance=10",
+    "setTapSensorValue(6) > setTapSensorValue int32:6 > tap.tapDirection=6",
+    "setTapSensorValue(-1) > setTapSensorValue int32:-1 > ",
+    "setOrientation(0) >  > ",
+    "setOrientation(7) >  > ",
+    "setDefaultValues() > setAccelerometerValues int32:0 int32:0 int32:1000;setAlsValue int32:100;"
+    "setGyroscopeValues double:0 double:0 double:1.14592;"
+    "setMagnetometerValues double:4.3e-05 double:0 double:0;setMagnetometerCalibrationLevel "
+    "int32:0;"
+    "setProximitySensorValue int32:5;setTapSensorValue int32:-1 > ",
+};
+
+static const QStringList sensors
+    = u"accelerometer als compass gyroscope magnetometer orientation proximity tap"_s.split(u' ');
+
+static QString callForEach(const QString &method)
+{
+    const QString start = method + u" string:"_s;
+    return start + sensors.join(QString(u';' + start));
+}
+
+/// What the pages see of all models, each value as "model.property=value".
+static QStringList valuesOf(const SensorsEmulationManager &manager)
+{
+    QStringList values;
+    const QStringList models = sensors + QStringList{u"magneticField"_s};
+    for (const QString &name : models) {
+        const auto *model = manager.property(name.toLatin1()).value<QObject *>();
+        const QMetaObject *metaObject = model->metaObject();
+        for (int i = QObject::staticMetaObject.propertyCount(); i < metaObject->propertyCount();
+             ++i) {
+            const QMetaProperty property = metaObject->property(i);
+            const double value = property.read(model).toDouble();
+            values << u"%1.%2=%3"_s.arg(name, QString::fromLatin1(property.name()))
+                          .arg(value, 0, 'g', QLocale::FloatingPointShortest);
+        }
+    }
+    return values;
+}
+
+struct Fixture : TestSupport::ConnectedManager<SensorsEmulationManager>
+{
+    Fixture()
+        : ConnectedManager(u"org.vexa.SensorfwEmulationManagement"_s)
+    {}
+};
+
+class SensorsEmulationManagerTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); // writes 1,5
+    }
+
+    void call_data()
+    {
+        QTest::addColumn<QStringList>("row");
+        for (const char *call : calls) {
+            const QStringList row = QString::fromLatin1(call).split(u" > "_s);
+            QTest::newRow(qPrintable(row.constFirst())) << row;
+        }
+    }
+
+    void call()
+    {
+        QFETCH(const QStringList, row);
+        Fixture fixture;
+        fixture.manager.setDefaultValues();
+        QVERIFY(!fixture.takeRequests().isEmpty());
+        const QStringList before = valuesOf(fixture.manager);
+        QCOMPARE(fixture.evaluate(u"manager."_s + row.at(0)), u"undefined"_s);
+        QCOMPARE(fixture.takeRequests(), row.at(1));
+        QStringList changes = valuesOf(fixture.manager);
+        changes.removeIf([&](const QString &value) { return before.contains(value); });
+        QCOMPARE(changes.join(u' '), row.at(2));
+    }
+
+    // What stands for an orientation or an azimuth must come out of it again.
+    void derivedValuesComeBack()
+    {
+        Fixture fixture;
+        const QStringList accelerations{u"0 100 0"_s, u"0 -100 0"_s, u"-100 0 0"_s,
+                                        u"100 0 0"_s, u"0 0 300"_s,  u"0 0 -300"_s};
+        for (int i = 0; i < accelerations.size(); ++i) {
+            fixture.manager.setOrientation(i + 1);
+            QString request = u"setAccelerometerValues "_s + accelerations.at(i);
+            QCOMPARE(fixture.takeRequests(), request.replace(u" "_s, u" int32:"_s));
+            QCOMPARE(int(fixture.manager.orientation()->orientation()), i + 1);
+        }
+        fixture.manager.setCompassAzimuth(150);
+        QCOMPARE(fixture.takeRequests(),
+                 u"setAccelerometerValues int32:0 int32:0 int32:1000;"
+                 "setMagnetometerValues double:-2.17945e-05 double:-3.77492e-05 double:0"_s);
+        for (int azimuth = 0; azimuth < 360; ++azimuth) {
+            fixture.manager.setCompassAzimuth(azimuth);
+            QCOMPARE(fixture.manager.compass()->azimuth(), azimuth);
+        }
+    }
+
+    void connection()
+    {
+        Fixture fixture;
+        SettingsManager().saveAccelerometerValues(1, 2, 3);
+        SettingsManager().saveMagneticFieldValues(4.5, 5.5, -6.5);
+        const QString restored
+            = u";setAccelerometerValues int32:1 int32:2 int32:3;"
+              "setMagnetometerValues double:4.3e-05 double:0 double:0;"
+              "setMagnetometerCalibrationLevel int32:0;"
+              "setGyroscopeValues double:0 double:0 double:1.14592;setAlsValue int32:100;"
+              "setProximitySensorValue int32:5;setTapSensorValue int32:-1"_s;
+        QSignalSpy initialized(&fixture.manager, &SensorsEmulationManager::sensorsInitialized);
+
+        // the first connection asks for the states
+        QVERIFY(fixture.reconnect());
+        QCOMPARE(fixture.takeRequests(), callForEach(u"enabled"_s) + restored);
+        QCOMPARE(fixture.manager.magneticField()->z(), -6.5);
+
+        // later ones push the host's availability
+        fixture.manager.setSensorAvailable(u"compass"_s, false);
+        QCOMPARE(fixture.takeRequests(), u"disableSensor string:compass"_s);
+        QVERIFY(fixture.reconnect());
+        const QString pushed
+            = callForEach(u"enableSensor"_s)
+                  .replace(u"enableSensor string:compass"_s, u"disableSensor string:compass"_s);
+        QCOMPARE(fixture.takeRequests(), pushed + restored);
+        QCOMPARE(initialized.size(), 2);
+    }
+
+    void reply_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QString>("enabled"); // sensors; at first it is als, and tap is not there
+        QTest::addColumn<QString>("request"); // that follows
+        const auto add = [](const char *name, const QString &line, const QString &enabled,
+                            const QString &request = {}) {
+            QTest::newRow(name) << line << enabled << request;
+        };
+        add("enabled", u"enabled:compass:1::"_s, u"als compass"_s);
+        add("disabled: 0", u"enabled:als:0::"_s, QString());
+        add("disabled: a word in any case", u"enabled:als:False::"_s, QString());
+        add("disabled: nothing", u"enabled:als:::"_s, QString());
+        add("any other text is true", u"enabled:compass:off::"_s, u"als compass"_s);
+        add("empty pieces are skipped", u"enabled:||als|tap:0::"_s, QString());
+        add("one that is not there", u"enabled:tap:1::"_s, u"als"_s, u"disableSensor string:tap"_s);
+        add("one without a name", u"enabled::1::"_s, u"als"_s, u"disableSensor string:"_s);
+        add("another method", u"enableSensor:compass:1::"_s, u"als"_s);
+        add("an error", u"enabled:als:0:org.x.Busy:"_s, u"als"_s);
+    }
+
+    void reply()
+    {
+        QFETCH(const QString, line);
+        Fixture fixture;
+        fixture.manager.setSensorAvailable(u"tap"_s, false);
+        fixture.manager.setSensorEnabled(u"als"_s, true);
+        QVERIFY(!fixture.takeRequests().isEmpty());
+        QSignalSpy replies(&fixture.manager, &EmulationManager::replyFromEmulatorReceived);
+        fixture.relay.reply(line);
+        QVERIFY(replies.wait());
+        QTEST(fixture.manager.sensorsEnabledStates().keys(true).join(u' '), "enabled");
+        QTEST(fixture.takeRequests(), "request");
+    }
+
+    void everythingAvailable()
+    {
+        Fixture fixture;
+        fixture.manager.setSensorAvailable(u"sonar"_s, true);
+        fixture.manager.setSensorAvailable(u"als"_s, false);
+        QCOMPARE(fixture.manager.sensorsAvailability().keys(false), QStringList{u"als"_s});
+        QCOMPARE(fixture.takeRequests(), u"enableSensor string:sonar;disableSensor string:als"_s);
+        fixture.manager.makeAllSensorsAvailable();
+        QCOMPARE(fixture.manager.sensorsAvailability().keys(true), sensors); // without the sonar
+        QCOMPARE(fixture.manager.sensorsEnabledStates().value(u"als"_s), true);
+        QCOMPARE(fixture.takeRequests(), callForEach(u"enableSensor"_s));
+    }
+
+    void valuesOutliveTheManager()
+    {
+        Fixture fixture;
+        auto earlier = std::make_unique<SensorsEmulationManager>();
+        earlier->setRdbusinvoker(&fixture.link);
+        earlier->setAccelerometerValues(-700, 20, 600);
+        earlier->setMagnetometerValues(1.0 / 3, -1e-300, 5e-5);
+        earlier->setMagneticFieldValues(-0.1, 48.76, -48.76);
+        earlier->setMagnetometerCalibrationLevel(2);
+        earlier->setGyroscopeValues(-1e6, 0.1, 2.0 / 3);
+        earlier->setAlsLuxValue(12345);
+        earlier->setProximitySensorReflectanceValue(9);
+        earlier->setTapSensorValue(TapModel::Y_Neg);
+        const QStringList values = valuesOf(*earlier);
+        earlier.reset();
+        QVERIFY(fixture.reconnect());
+        QCOMPARE(valuesOf(fixture.manager), values);
+    }
+};
+
+QTEST_GUILESS_MAIN(SensorsEmulationManagerTest)
+
+#include "tst_sensorsemulationmanager.moc"
