@@ -1,16 +1,16 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Layouts
 
-// Controls for the x, y and z of a model, one below the other.
+// Sliders for the x, y and z of a model, one below the other.
 ColumnLayout {
     id: root
 
     required property var model
-    property double minValue
-    property double maxValue
+    required property double minValue
+    required property double maxValue
+    property real labelWidth: 0
     property double resultValueMultiplier: 1.0
     property string valueUnits: ""
     property bool showCalculatedValue: false
@@ -23,80 +23,59 @@ ColumnLayout {
 
     function clearFocus() {
         for (const axis of [xAxis, yAxis, zAxis])
-            axis.clearFocus();
+            axis.textFieldFocus = false;
     }
 
-    component Axis: RowLayout {
+    component Axis: SliderWithTextField {
         id: axis
 
-        required property string name
         required property double modelValue
 
-        signal submited(value: double)
-
-        function clearFocus() {
-            control.textFieldFocus = false;
-        }
-
         Layout.fillWidth: true
-        spacing: 6
+        calculatedValue: value * root.calculatedValueFactor
+        calculatedValueUnits: root.calculatedValueUnits
+        equalityLabelShow: root.showCalculatedValue
+        labelWidth: Math.max(root.labelWidth, metrics.maximumCharacterWidth)
+        maxValue: root.maxValue
+        minValue: root.minValue
+        numberRoundingSize: 3
+        resultValueMultiplier: root.resultValueMultiplier
+        showCalculatedValue: root.showCalculatedValue
+        stepSize: 0.001
+        valueUnits: root.valueUnits
 
-        Label {
-            Layout.preferredWidth: metrics.maximumCharacterWidth
-            text: axis.name
-
-            FontMetrics {
-                id: metrics
-            }
-        }
-
-        SliderWithTextField {
-            id: control
-
-            Layout.fillWidth: true
-            Accessible.name: axis.name
-            calculatedValue: value * root.calculatedValueFactor
-            calculatedValueUnits: root.calculatedValueUnits
-            equalityLabelShow: root.showCalculatedValue
-            maxValue: root.maxValue
-            minValue: root.minValue
-            numberRoundingSize: 3
-            resultValueMultiplier: root.resultValueMultiplier
-            showCalculatedValue: root.showCalculatedValue
-            stepSize: 0.001
-            valueUnits: root.valueUnits
-
-            onSliderSubmited: value => axis.submited(value)
-
-            Binding on value {
-                value: axis.modelValue
-            }
+        Binding on value {
+            value: axis.modelValue
         }
     }
 
     spacing: 0
 
+    FontMetrics {
+        id: metrics
+    }
+
     Axis {
         id: xAxis
 
-        name: qsTr("X")
+        label: qsTr("X")
         modelValue: root.model.x
-        onSubmited: value => root.xSubmited(value)
+        onSliderSubmited: value => root.xSubmited(value)
     }
 
     Axis {
         id: yAxis
 
-        name: qsTr("Y")
+        label: qsTr("Y")
         modelValue: root.model.y
-        onSubmited: value => root.ySubmited(value)
+        onSliderSubmited: value => root.ySubmited(value)
     }
 
     Axis {
         id: zAxis
 
-        name: qsTr("Z")
+        label: qsTr("Z")
         modelValue: root.model.z
-        onSubmited: value => root.zSubmited(value)
+        onSliderSubmited: value => root.zSubmited(value)
     }
 }

@@ -149,6 +149,11 @@ Rectangle {
             id: sensorsManagementPage
 
             anchors.fill: parent
+
+            onSensorSwitched: (sensorName, wasEnabled) => {
+                root.lastChangedSensorName = sensorName;
+                root.lastChangedSensorEnabled = wasEnabled;
+            }
         }
 
         SensorsValuesPage {

@@ -11,6 +11,14 @@ EmulationPage {
     // A sensor that the device model page drives too was changed since this page was shown.
     property bool modelSensorChanged: false
 
+    function isAvailable(sensorName: string): bool {
+        return sensorsManager.sensorsAvailability[sensorName] ?? false;
+    }
+
+    function isEnabled(sensorName: string): bool {
+        return sensorsManager.sensorsEnabledStates[sensorName] ?? false;
+    }
+
     function resetValues() {
         for (const control of sensorsGrid.children)
             control.clearFocus?.();
@@ -79,10 +87,77 @@ EmulationPage {
                 uniformCellWidths: true
 
                 AccelerometerControls {
+                    Layout.alignment: Qt.AlignTop
                     Layout.fillWidth: true
-                    controlsEnabled: root.sensorsManager.sensorsEnabledStates[sensorName] ?? false
+                    controlsEnabled: root.isEnabled(sensorName)
                     sensorsManager: root.sensorsManager
-                    visible: root.sensorsManager.sensorsAvailability[sensorName] ?? false
+                    visible: root.isAvailable(sensorName)
+                }
+
+                MagnetometerControls {
+                    Layout.alignment: Qt.AlignTop
+                    Layout.fillWidth: true
+                    controlsEnabled: root.isEnabled(sensorName)
+                    sensorsManager: root.sensorsManager
+                    visible: root.isAvailable(sensorName)
+                }
+
+                CompassControls {
+                    Layout.alignment: Qt.AlignTop
+                    Layout.fillWidth: true
+                    controlsEnabled: root.isEnabled(sensorName)
+                    sensorsManager: root.sensorsManager
+                    visible: root.isAvailable(sensorName)
+                }
+
+                MagneticFieldControls {
+                    Layout.alignment: Qt.AlignTop
+                    Layout.fillWidth: true
+                    controlsEnabled: root.isEnabled(sensorName)
+                    sensorsManager: root.sensorsManager
+                    visible: root.isAvailable(sensorName)
+                }
+
+                OrientationControls {
+                    Layout.alignment: Qt.AlignTop
+                    Layout.fillWidth: true
+                    controlsEnabled: root.isEnabled(sensorName)
+                    sensorsManager: root.sensorsManager
+                    visible: root.isAvailable(sensorName)
+                }
+
+                GyroscopeControls {
+                    Layout.alignment: Qt.AlignTop
+                    Layout.fillWidth: true
+                    controlsEnabled: root.isEnabled(sensorName)
+                    sensorsManager: root.sensorsManager
+                    visible: root.isAvailable(sensorName)
+                }
+
+                LightControls {
+                    Layout.alignment: Qt.AlignTop
+                    Layout.fillWidth: true
+                    controlsEnabled: root.isEnabled(sensorName)
+                    sensorsManager: root.sensorsManager
+                    visible: root.isAvailable(sensorName)
+                }
+
+                ProximityControls {
+                    Layout.alignment: Qt.AlignTop
+                    Layout.fillWidth: true
+                    controlsEnabled: root.isEnabled(sensorName)
+                    sensorsManager: root.sensorsManager
+                    visible: root.isAvailable(sensorName)
+                }
+
+                Item {} // an empty cell
+
+                TapControls {
+                    Layout.alignment: Qt.AlignTop
+                    Layout.fillWidth: true
+                    controlsEnabled: root.isEnabled(sensorName)
+                    sensorsManager: root.sensorsManager
+                    visible: root.isAvailable(sensorName)
                 }
             }
         }

@@ -9,6 +9,9 @@ import org.plova 1.0
 RowLayout {
     id: root
 
+    // What stands before the slider, and how wide it is at least, for sliders below each other.
+    property string label: ""
+    property real labelWidth: 0
     property bool integer: false
     property double minValue: 0.0
     property double maxValue: 1.0
@@ -46,11 +49,19 @@ RowLayout {
         textField.text = valueText;
     }
 
+    Accessible.name: label
     spacing: 6
+
+    Label {
+        Layout.minimumWidth: Math.max(implicitWidth, root.labelWidth)
+        text: root.label
+        visible: text !== ""
+    }
 
     Slider {
         id: slider
 
+        Accessible.name: root.label
         Layout.fillWidth: true
         Layout.minimumWidth: 60
         from: root.minValue
@@ -64,6 +75,7 @@ RowLayout {
     TextField {
         id: textField
 
+        Accessible.name: root.label
         Layout.preferredWidth: 8 * metrics.averageCharacterWidth + leftPadding + rightPadding
         horizontalAlignment: TextInput.AlignRight
         selectByMouse: true

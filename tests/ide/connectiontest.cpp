@@ -1,8 +1,8 @@
 #include "connectiontest.h"
 
-#include "messageboxanswers.h"
 #include "plugindriver.h"
 
+#include <messageboxanswers.h>
 #include <waiting.h>
 
 #include <hostsdk.h>

@@ -1,7 +1,8 @@
 #include "dialogstest.h"
 
-#include "messageboxanswers.h"
 #include "plugindriver.h"
+
+#include <messageboxanswers.h>
 
 #include <QQmlComponent>
 #include <QQmlEngine>

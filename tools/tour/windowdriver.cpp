@@ -82,7 +82,7 @@ QQuickItem *WindowDriver::item(const QString &className, const char *property,
 
 void WindowDriver::clickButton(const QString &text) const
 {
-    click(item(QStringLiteral("QQuickButton"), "text", text));
+    click(item(QStringLiteral("QQuickAbstractButton"), "text", text));
 }
 
 void WindowDriver::click(const QQuickItem *item) const
@@ -93,6 +93,12 @@ void WindowDriver::click(const QQuickItem *item) const
     m_window->requestActivate();
     waitFor(QStringLiteral("the window to be active"), [&] { return m_window->isActive(); });
     QTest::mouseClick(m_window, Qt::LeftButton, {}, centreOf(item));
+}
+
+void WindowDriver::choose(const QQuickItem *comboBox, const QString &text) const
+{
+    click(comboBox);
+    click(item(QStringLiteral("QQuickAbstractButton"), "text", text));
 }
 
 void WindowDriver::drag(const QQuickItem *slider, double fraction) const

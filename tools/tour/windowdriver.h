@@ -27,9 +27,11 @@ public:
     [[nodiscard]] QQuickItem *item(const QString &className, const char *property,
                                    const QString &value) const;
 
-    /// Clicks the button with this text.
+    /// Clicks the button or check box with this text.
     void clickButton(const QString &text) const;
     void click(const QQuickItem *item) const;
+    /// Opens a combo box and clicks the entry with this text.
+    void choose(const QQuickItem *comboBox, const QString &text) const;
     /// Drags a slider's handle to a fraction of its way.
     void drag(const QQuickItem *slider, double fraction) const;
     /// Replaces a text field's text and presses Enter.

@@ -1,0 +1,71 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+
+import org.plova 1.0
+
+import "../js/light-levels.js" as LightLevels
+
+SensorControls {
+    id: root
+
+    required property var sensorsManager
+
+    readonly property var levels: [
+        { name: "Undefined", lux: AlsModel.Undefined },
+        { name: "Dark", lux: AlsModel.Dark },
+        { name: "Twilight", lux: AlsModel.Twilight },
+        { name: "Light", lux: AlsModel.Light },
+        { name: "Bright", lux: AlsModel.Bright },
+        { name: "Sunny", lux: AlsModel.Sunny },
+    ]
+
+    sensorName: "als"
+    title: qsTr("Light Sensor")
+
+    controls: Component {
+        ColumnLayout {
+            function clearFocus() {
+                lux.textFieldFocus = false;
+            }
+
+            spacing: 0
+
+            SliderWithTextField {
+                id: lux
+
+                Layout.fillWidth: true
+                integer: true
+                maxValue: 3000
+                minValue: -1
+                stepSize: 1
+                valueUnits: qsTr("lx")
+
+                onSliderSubmited: value => root.sensorsManager.setAlsLuxValue(Math.round(value))
+
+                Binding on value {
+                    value: root.sensorsManager.als.lux
+                }
+            }
+
+            LabeledComboBox {
+                id: level
+
+                Layout.fillWidth: true
+                label: qsTr("Light level")
+                model: root.levels
+                textRole: "name"
+
+                onChosen: index => root.sensorsManager.setAlsLightLevel(root.levels[index].lux)
+
+                Binding on index {
+                    // below the first level the choice stays as it is
+                    value: LightLevels.indexOf(root.levels, root.sensorsManager.als.lux)
+                    when: root.sensorsManager.als.lux >= root.levels[0].lux
+                    restoreMode: Binding.RestoreNone
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,23 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+SensorControls {
+    id: root
+
+    required property var sensorsManager
+
+    sensorName: "orientation"
+    title: qsTr("Orientation Sensor")
+
+    controls: Component {
+        LabeledComboBox {
+            // the value before TopUp means that the orientation is not known
+            index: root.sensorsManager.orientation.orientation - 1
+            label: qsTr("Orientation")
+            model: ["TopUp", "TopDown", "LeftUp", "RightUp", "FaceUp", "FaceDown"]
+
+            onChosen: index => root.sensorsManager.setOrientation(index + 1)
+        }
+    }
+}
