@@ -34,9 +34,6 @@ constexpr char qmlModule[] = "org.plova";
 constexpr int qmlMajorVersion = 1;
 constexpr int qmlMinorVersion = 0;
 
-constexpr char remoteDBusInvokerServiceProperty[] = "remoteDBusInvokerService";
-constexpr char gpsEmulationManagerProperty[] = "gpsEmulationManager";
-
 } // namespace
 
 bool EmulationManagementPlugin::initialize(const QStringList &arguments, QString *errorString)
@@ -119,8 +116,8 @@ void EmulationManagementPlugin::setupContextProperties()
         = [context = m_emulationManagementView.rootContext()](const char *name, const auto &value) {
               context->setContextProperty(QLatin1StringView(name), value);
           };
-    setProperty(remoteDBusInvokerServiceProperty, &m_remoteDBusInvokerService);
-    setProperty(gpsEmulationManagerProperty, &m_gpsEmulationManager);
+    setProperty("remoteDBusInvokerService", &m_remoteDBusInvokerService);
+    setProperty("gpsEmulationManager", &m_gpsEmulationManager);
     setProperty("sensorsEmulationManager", &m_sensorsEmulationManager);
     setProperty("smartphone3DModelConfig", &m_smartphone3DModelConfig);
     setProperty("emulationManagementPlugin", this);

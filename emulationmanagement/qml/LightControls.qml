@@ -52,6 +52,13 @@ SensorControls {
             LabeledComboBox {
                 id: level
 
+                // below the first level the choice stays as it is
+                function followLux() {
+                    const last = LightLevels.indexOf(root.levels, root.sensorsManager.als.lux);
+                    if (last >= 0)
+                        index = last;
+                }
+
                 Layout.fillWidth: true
                 label: qsTr("Light level")
                 model: root.levels
@@ -59,11 +66,14 @@ SensorControls {
 
                 onChosen: index => root.sensorsManager.setAlsLightLevel(root.levels[index].lux)
 
-                Binding on index {
-                    // below the first level the choice stays as it is
-                    value: LightLevels.indexOf(root.levels, root.sensorsManager.als.lux)
-                    when: root.sensorsManager.als.lux >= root.levels[0].lux
-                    restoreMode: Binding.RestoreNone
+                Component.onCompleted: followLux()
+
+                Connections {
+                    target: root.sensorsManager.als
+
+                    function onLuxChanged() {
+                        level.followLux();
+                    }
                 }
             }
         }

@@ -106,6 +106,41 @@ Item {
             verify(!field.activeFocus);
         }
 
+        function test_lightLevel_data(): var {
+            return [
+                {tag: "level above taken", lux: 79, level: "Twilight"},
+                {tag: "level missed at its lux", lux: 80, level: "Light"},
+                {tag: "nothing above the last level", lux: 3000, level: "Sunny"},
+                {tag: "first level missed", lux: -1, level: "Undefined"},
+                {tag: "choice lost below the first level", lux: -2, level: "Dark"},
+            ];
+        }
+
+        function test_lightLevel(row: var) {
+            sensorsEmulationManager.setAlsLuxValue(0);
+            sensorsEmulationManager.setAlsLuxValue(row.lux);
+            compare(Find.find(page.sensor("als"), item => item instanceof ComboBox).displayText,
+                    row.level);
+        }
+
+        function test_combos_data(): var {
+            return [
+                {tag: "orientation is off by one", sensor: "orientation", keys: 1,
+                 result: () => sensorsEmulationManager.orientation.orientation, value: 6},
+                {tag: "tap direction is off by one", sensor: "tap", keys: 3,
+                 result: () => sensorsEmulationManager.tap.tapDirection, value: 2},
+                {tag: "level is not its lux", sensor: "als", keys: 2,
+                 result: () => sensorsEmulationManager.als.lux, value: 2500},
+            ];
+        }
+
+        function test_combos(row: var) {
+            Find.find(page.sensor(row.sensor), item => item instanceof ComboBox).forceActiveFocus();
+            for (let i = 0; i < row.keys; ++i)
+                keyClick(Qt.Key_Down);
+            compare(row.result(), row.value);
+        }
+
         function test_availability() {
             verify(page.sensor("accelerometer").visible);
             host.setSensorAvailable("accelerometer", false);

@@ -1,0 +1,135 @@
+import QtQuick
+import QtQuick.Controls
+import QtTest
+
+import "qrc:/emulationmanagement/qml"
+
+import "find.js" as Find
+
+Item {
+    id: root
+
+    width: 1100
+    height: 600
+
+    Component {
+        id: component
+
+        EmulationManagementView {}
+    }
+
+    TestCase {
+        id: test
+
+        readonly property int apply: 0x2000000 // QMessageBox::Apply
+        readonly property int discard: 0x800000 // QMessageBox::Discard
+        property EmulationManagementView view
+
+        name: "SensorsManagementPage"
+        when: windowShown
+
+        function init() {
+            failOnWarning(/.*/);
+            host.reset();
+            view = createTemporaryObject(component, root);
+            click("Sensors Management");
+        }
+
+        function page(): Item {
+            return view.pagesIds[0];
+        }
+
+        // A box or button of the page, else of the view.
+        function find(title: string): Item {
+            const accept = item => item.text === title && item.clicked !== undefined;
+            return Find.find(page(), accept) ?? Find.find(view, accept);
+        }
+
+        function click(title: string) {
+            mouseClick(find(title));
+        }
+
+        // The first letters of the sensors whose boxes are checked.
+        function checked(): string {
+            return ["Accelerometer", "Compass", "Orientation Sensor", "Magnetometer", "Gyroscope",
+                    "Light Sensor", "Proximity Sensor", "Tap Sensor"]
+                .filter(title => find(title).checked).map(title => title[0]).join("");
+        }
+
+        function enabled(): string {
+            const states = sensorsEmulationManager.sensorsEnabledStates;
+            return Object.keys(states).filter(name => states[name]).join(" ");
+        }
+
+        function test_dependencies_data(): var {
+            return [
+                {tag: "compass without its sources", off: [], on: "Compass", checked: "ACM"},
+                {tag: "orientation without its source", off: [], on: "Orientation Sensor",
+                 checked: "AO"},
+                {tag: "sources bring too much", off: [], on: "Accelerometer", checked: "A"},
+                {tag: "compass outlives the magnetometer", on: "Compass", off: ["Magnetometer"],
+                 checked: "A"},
+                {tag: "compass outlives the accelerometer", on: "Compass", off: ["Accelerometer"],
+                 checked: "M"},
+                {tag: "source goes with the compass", on: "Compass", off: ["Compass"],
+                 checked: "AM"},
+            ];
+        }
+
+        function test_dependencies(row: var) {
+            for (const name of Object.keys(sensorsEmulationManager.sensorsEnabledStates))
+                sensorsEmulationManager.setSensorEnabled(name, false);
+            compare(checked(), "");
+            click(row.on);
+            row.off.forEach(click);
+            compare(checked(), row.checked);
+            compare(enabled(), "");
+        }
+
+        function test_applyAndReset() {
+            const before = enabled();
+            click("Tap Sensor");
+            click("Reset");
+            compare(checked(), "ACOMGLPT");
+            click("Tap Sensor");
+            compare(enabled(), before);
+            click("Apply");
+            compare(enabled(), before.replace(" tap", ""));
+
+            host.receive("disableSensor:tap::org.vexa.Busy:It is busy");
+            compare(enabled(), before);
+            compare(checked(), "ACOMGLPT");
+            view.errorDialog.close();
+        }
+
+        function test_leaving_data(): var {
+            return [
+                {tag: "changes are lost", answer: apply, enabled: false, left: true},
+                {tag: "discarded changes are applied", answer: discard, enabled: true, left: true},
+                {tag: "page is left without an answer", answer: 0, enabled: true, left: false},
+            ];
+        }
+
+        function test_leaving(row: var) {
+            host.answer = row.answer;
+            click("Gyroscope");
+            click("GPS Management");
+            compare(host.questions,
+                    ["The sensor configuration has been changed. Apply or discard changes?"]);
+            compare(sensorsEmulationManager.sensorsEnabledStates.gyroscope, row.enabled);
+            compare(page().active, !row.left);
+        }
+
+        function test_leavingWithoutChanges() {
+            click("GPS Management");
+            compare(host.questions, []);
+            verify(!page().active);
+        }
+
+        function test_availability() {
+            host.setSensorAvailable("proximity", false);
+            verify(!find("Proximity Sensor").visible);
+            compare(checked(), "ACOMGLT");
+        }
+    }
+}
