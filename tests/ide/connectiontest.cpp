@@ -1,6 +1,6 @@
 #include "connectiontest.h"
 
-#include "plugindriver.h"
+#include <plugindriver.h>
 
 #include <messageboxanswers.h>
 #include <waiting.h>

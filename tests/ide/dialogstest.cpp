@@ -1,6 +1,6 @@
 #include "dialogstest.h"
 
-#include "plugindriver.h"
+#include <plugindriver.h>
 
 #include <messageboxanswers.h>
 

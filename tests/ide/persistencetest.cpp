@@ -1,6 +1,6 @@
 #include "persistencetest.h"
 
-#include "plugindriver.h"
+#include <plugindriver.h>
 
 #include <waiting.h>
 #include <windowdriver.h>

@@ -1,6 +1,6 @@
 #include "startuptest.h"
 
-#include "plugindriver.h"
+#include <plugindriver.h>
 
 #include <coreplugin/actionmanager/actioncontainer.h>
 #include <coreplugin/actionmanager/actionmanager.h>

@@ -1,6 +1,6 @@
 #include "plugindriver.h"
 
-#include <waiting.h>
+#include "waiting.h"
 
 #include <coreplugin/actionmanager/actionmanager.h>
 #include <coreplugin/actionmanager/command.h>
