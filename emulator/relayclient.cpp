@@ -75,17 +75,16 @@ RelayClient::~RelayClient()
 void RelayClient::handleRequest(const QString &line)
 {
     const Request request = parseRequest(line);
-    m_journal.write("call"_L1, toJson(line, request));
     const PendingReply pending = expectReply();
-    if (!request.error.isEmpty()) {
-        answer(pending, invalidRequestLine(request.error));
-        return;
-    }
     const auto failure = m_faults.failures.constFind(request.method);
-    if (failure != m_faults.failures.constEnd())
+    const bool failing = failure != m_faults.failures.constEnd();
+    if (request.error.isEmpty() && !failing)
+        call(request, pending); // before the journal is written: the service answers meanwhile
+    m_journal.write("call"_L1, toJson(line, request));
+    if (!request.error.isEmpty())
+        answer(pending, invalidRequestLine(request.error));
+    else if (failing)
         answer(pending, replyLine(request, {}, failure->errorName, failure->errorText));
-    else
-        call(request, pending);
 }
 
 void RelayClient::handleBinaryMessage()
@@ -131,8 +130,9 @@ void RelayClient::sendReadyReplies()
             return;
         const QString reply = std::exchange(m_faults.answer, std::nullopt).value_or(*first);
         m_pending.pop_front();
-        m_journal.write("reply"_L1, {{u"text"_s, reply}});
         m_socket->sendTextMessage(reply);
+        m_socket->flush(); // before the journal is written
+        m_journal.write("reply"_L1, {{u"text"_s, reply}});
     }
 }
 

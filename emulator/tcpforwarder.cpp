@@ -9,8 +9,10 @@ static constexpr qint64 bufferSize = 256 << 10;
 
 static void pump(QTcpSocket *from, QTcpSocket *to)
 {
-    if (to->state() == QAbstractSocket::ConnectedState && to->bytesToWrite() < bufferSize)
+    if (to->state() == QAbstractSocket::ConnectedState && to->bytesToWrite() < bufferSize) {
         to->write(from->read(bufferSize));
+        to->flush(); // at once, not when the event loop comes round
+    }
 }
 
 // Passes on what `from` sends, and its end once all of it is passed on.

@@ -38,6 +38,8 @@ void RemoteDBusInvokerService::callDBusMethod(const QString &bus, const QString 
                                     .arg(interface)
                                     .arg(method)
                                     .arg(arguments));
+    // The call is under way while the pages follow the models.
+    m_webSocket.flush();
 }
 
 } // namespace EmulationManagement::Internal
