@@ -1,0 +1,13 @@
+#include "benchmarkplugin.h"
+
+#include "callbenchmark.h"
+#include "sliderbenchmark.h"
+
+bool BenchmarkPlugin::initialize(const QStringList &arguments, QString *errorString)
+{
+    Q_UNUSED(arguments)
+    Q_UNUSED(errorString)
+    addTest<CallBenchmark>();
+    addTest<SliderBenchmark>();
+    return true;
+}
