@@ -101,7 +101,7 @@ EmulationPage {
         anchors.margins: 12
         spacing: 12
 
-        ScrollView {
+        PageScrollView {
             Layout.fillWidth: true
             Layout.fillHeight: true
 

@@ -71,7 +71,7 @@ EmulationPage {
         anchors.margins: 12
         spacing: 12
 
-        ScrollView {
+        PageScrollView {
             id: scrollView
 
             Layout.fillWidth: true

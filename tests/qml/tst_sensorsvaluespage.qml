@@ -141,6 +141,39 @@ Item {
             compare(row.result(), row.value);
         }
 
+        // Also when the page is too small for that: what has the focus is scrolled into view.
+        function test_tabOrder_data(): var {
+            return [
+                { tag: "all in view", width: 1000, height: 600 },
+                { tag: "scrolling", width: 300, height: 200 },
+            ];
+        }
+
+        function test_tabOrder(row: var) {
+            page.anchors.fill = null;
+            page.width = row.width;
+            page.height = row.height;
+            const first = Find.find(page.sensor("accelerometer"), item => item instanceof Slider);
+            first.forceActiveFocus(Qt.TabFocusReason);
+            const titles = [];
+            for (let focused = first; focused.text !== qsTr("Reset values");
+                 focused = Window.activeFocusItem) {
+                waitForRendering(page);
+                const centre = focused.mapToItem(page, focused.width / 2, focused.height / 2);
+                verify(centre.x > 0 && centre.x < row.width, `${titles} ${centre}`);
+                verify(centre.y > 0 && centre.y < row.height, `${titles} ${centre}`);
+                let frame = focused;
+                while (!(frame instanceof SensorControls))
+                    frame = frame.parent;
+                titles.push(frame.title);
+                keyClick(Qt.Key_Tab);
+            }
+            compare(titles.map(title => title.replace(" Sensor", "")).join(" "),
+                    "Accelerometer ".repeat(6) + "Magnetometer ".repeat(8) + "Compass ".repeat(4)
+                    + "Magnetic Field ".repeat(6) + "Orientation " + "Gyroscope ".repeat(6)
+                    + "Light ".repeat(3) + "Proximity ".repeat(4) + "Tap");
+        }
+
         function test_availability() {
             verify(page.sensor("accelerometer").visible);
             host.setSensorAvailable("accelerometer", false);
