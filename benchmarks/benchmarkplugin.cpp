@@ -1,6 +1,7 @@
 #include "benchmarkplugin.h"
 
 #include "callbenchmark.h"
+#include "restartbenchmark.h"
 #include "sliderbenchmark.h"
 
 bool BenchmarkPlugin::initialize(const QStringList &arguments, QString *errorString)
@@ -8,6 +9,7 @@ bool BenchmarkPlugin::initialize(const QStringList &arguments, QString *errorStr
     Q_UNUSED(arguments)
     Q_UNUSED(errorString)
     addTest<CallBenchmark>();
+    addTest<RestartBenchmark>();
     addTest<SliderBenchmark>();
     return true;
 }

@@ -13,6 +13,12 @@ Journal::Journal(const QString &path)
     : m_file(path)
 {}
 
+void Journal::clear()
+{
+    read();
+    m_entries.clear();
+}
+
 qsizetype Journal::position()
 {
     read();

@@ -16,6 +16,8 @@ class Journal
 public:
     explicit Journal(const QString &path);
 
+    /// Forgets all entries so far: positions count from here on.
+    void clear();
     /// The position behind the last entry.
     [[nodiscard]] qsizetype position();
     [[nodiscard]] QList<QJsonObject> entriesSince(qsizetype position);
