@@ -22,11 +22,8 @@ public:
 private:
     void visitAll();
     void openWindow();
-    void visitSensorsManagement(const WindowDriver &driver);
-    void visitSensorsValues(const WindowDriver &driver);
-    void dragAcceleration(const WindowDriver &driver);
-    void typeValues(const WindowDriver &driver);
-    void chooseValues(const WindowDriver &driver);
+    void chooseDeviceModel(const QString &name);
+    void visitSensors(const WindowDriver &driver);
     void visitOtherPages(const WindowDriver &driver);
     void takePicture(const QString &name);
     void printCalls();

@@ -1,0 +1,270 @@
+#include "sensorstour.h"
+
+#include "waiting.h"
+
+#include <QQuickItem>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numbers>
+
+/// A slider with its text field.
+struct SensorsTour::Field
+{
+    const char *frame;
+    int index; ///< within the frame
+    double fraction; ///< of the slider's way
+    const char *text;
+    const char *method;
+    const char *type;
+    double multiplier; ///< from what is shown to what is sent
+};
+
+/// The entries of a combo box with the calls that choosing each makes.
+struct SensorsTour::Choice
+{
+    const char *frame;
+    QList<std::pair<const char *, const char *>> entries;
+};
+
+// What every device has here, in the order of the boxes.
+static constexpr std::array sensors = {"accelerometer", "compass", "orientation", "magnetometer",
+                                       "gyroscope",     "als",     "proximity",   "tap"};
+
+static QString number(double shown, const char *type, double multiplier)
+{
+    const double sent = shown * multiplier;
+    return qstrcmp(type, "int32") == 0 ? QString::number(qRound(sent)) : QString::number(sent);
+}
+
+/// The readings that make the device point at \a azimuth degrees.
+static QString compassCall(int azimuth)
+{
+    static constexpr double fluxDensity = 4.358898943540674e-05; // tesla
+    const double angle = -azimuth * std::numbers::pi / 180;
+    return QStringLiteral("setMagnetometerValues double:%1 double:%2 double:0")
+        .arg(std::sin(angle) * fluxDensity)
+        .arg(std::cos(angle) * fluxDensity);
+}
+
+static QString callFor(const char *method, const char *type, double multiplier, double shown)
+{
+    if (qstrcmp(method, "setCompassAzimuth") == 0)
+        return compassCall(qRound(shown));
+    return QStringLiteral("%1 %2:%3")
+        .arg(QLatin1String(method), QLatin1String(type), number(shown, type, multiplier));
+}
+
+SensorsTour::SensorsTour(const WindowDriver &driver, Journal &journal,
+                         std::function<void(const QString &)> takePicture)
+    : m_driver(driver)
+    , m_journal(journal)
+    , m_takePicture(std::move(takePicture))
+{}
+
+static QQuickItem *frameOf(const WindowDriver &driver, const char *title)
+{
+    return driver.item(QStringLiteral("SensorControls"), "title", QLatin1String(title));
+}
+
+static QQuickItem *partOf(const WindowDriver &driver, const char *frame, const char *className,
+                          int index)
+{
+    return driver.items(QLatin1String(className), frameOf(driver, frame)).at(index);
+}
+
+void SensorsTour::visitManagement()
+{
+    for (const char *sensor : sensors)
+        m_journal.waitForCall(QStringLiteral("enabled string:%1").arg(QLatin1String(sensor)), 0);
+
+    m_driver.clickButton(QStringLiteral("Sensors Management"));
+    m_takePicture(QStringLiteral("sensors-management"));
+    // the accelerometer takes the compass and the orientation with it
+    for (const char *box : {"Accelerometer", "Magnetometer", "Gyroscope", "Light Sensor",
+                            "Proximity Sensor", "Tap Sensor"})
+        m_driver.clickButton(QLatin1String(box));
+    m_takePicture(QStringLiteral("sensors-management-changed"));
+    m_driver.clickButton(QStringLiteral("Reset"));
+    m_driver.clickButton(QStringLiteral("Accelerometer"));
+    m_driver.clickButton(QStringLiteral("Magnetometer"));
+    for (const char *box : {"Gyroscope", "Light Sensor", "Proximity Sensor", "Tap Sensor"})
+        m_driver.clickButton(QLatin1String(box));
+    applyAll(false);
+    m_driver.clickButton(QStringLiteral("Sensors Values"));
+    m_takePicture(QStringLiteral("sensors-values-off"));
+
+    m_driver.clickButton(QStringLiteral("Sensors Management"));
+    // the compass brings the accelerometer and the magnetometer back
+    for (const char *box : {"Compass", "Orientation Sensor", "Gyroscope", "Light Sensor",
+                            "Proximity Sensor", "Tap Sensor"})
+        m_driver.clickButton(QLatin1String(box));
+    applyAll(true);
+}
+
+void SensorsTour::applyAll(bool enabled)
+{
+    const qsizetype start = m_journal.position();
+    m_driver.clickButton(QStringLiteral("Apply"));
+    for (const char *sensor : sensors) {
+        m_journal.waitForCall(
+            QStringLiteral("%1 string:%2")
+                .arg(enabled ? QStringLiteral("enableSensor") : QStringLiteral("disableSensor"),
+                     QLatin1String(sensor)),
+            start);
+    }
+}
+
+void SensorsTour::visitValues()
+{
+    static constexpr Field fields[] = {
+        {"Accelerometer", 0, 0.75, "-2.125", "setAccelerometerX", "int32", 1000},
+        {"Accelerometer", 1, 0.25, "1.5", "setAccelerometerY", "int32", 1000},
+        {"Accelerometer", 2, 0.6, "-0.25", "setAccelerometerZ", "int32", 1000},
+        {"Magnetometer", 0, 0.1, "25", "setMagnetometerX", "double", 1e-6},
+        {"Magnetometer", 1, 0.8, "-1.5", "setMagnetometerY", "double", 1e-6},
+        {"Magnetometer", 2, 0.3, "65", "setMagnetometerZ", "double", 1e-6},
+        {"Magnetometer", 3, 0.4, "2", "setMagnetometerCalibrationLevel", "int32", 1},
+        {"Compass", 0, 0.5, "30", "setCompassAzimuth", "", 1},
+        {"Compass", 1, 0.1, "3", "setMagnetometerCalibrationLevel", "int32", 1},
+        {"Gyroscope", 0, 0.9, "2.5", "setGyroscopeX", "double", 1},
+        {"Gyroscope", 1, 0.2, "25", "setGyroscopeY", "double", 1},
+        {"Gyroscope", 2, 0.7, "-3.125", "setGyroscopeZ", "double", 1},
+        {"Light Sensor", 0, 0.45, "90", "setAlsValue", "int32", 1},
+        {"Proximity Sensor", 0, 0.9, "7", "setProximitySensorValue", "int32", 1},
+    };
+    static const Choice choices[] = {
+        {"Orientation Sensor",
+         {{"TopUp", "setAccelerometerValues int32:0 int32:100 int32:0"},
+          {"TopDown", "setAccelerometerValues int32:0 int32:-100 int32:0"},
+          {"LeftUp", "setAccelerometerValues int32:-100 int32:0 int32:0"},
+          {"RightUp", "setAccelerometerValues int32:100 int32:0 int32:0"},
+          {"FaceUp", "setAccelerometerValues int32:0 int32:0 int32:300"},
+          {"FaceDown", "setAccelerometerValues int32:0 int32:0 int32:-300"}}},
+        {"Light Sensor",
+         {{"Undefined", "setAlsValue int32:-1"},
+          {"Dark", "setAlsValue int32:0"},
+          {"Twilight", "setAlsValue int32:10"},
+          {"Light", "setAlsValue int32:80"},
+          {"Bright", "setAlsValue int32:400"},
+          {"Sunny", "setAlsValue int32:2500"}}},
+        {"Tap Sensor",
+         {{"X_Both", "setTapSensorValue int32:0"},
+          {"Y_Both", "setTapSensorValue int32:1"},
+          {"Z_Both", "setTapSensorValue int32:2"},
+          {"X_Pos", "setTapSensorValue int32:3"},
+          {"X_Neg", "setTapSensorValue int32:4"},
+          {"Z_Neg", "setTapSensorValue int32:5"},
+          {"Z_Pos", "setTapSensorValue int32:6"},
+          {"Y_Pos", "setTapSensorValue int32:7"},
+          {"Y_Neg", "setTapSensorValue int32:8"},
+          {"Undefined", "setTapSensorValue int32:-1"}}},
+    };
+
+    m_driver.clickButton(QStringLiteral("Sensors Values"));
+    for (const Field &field : fields)
+        drag(field);
+    for (const Field &field : fields)
+        type(field);
+    changeMagneticField();
+    for (const Choice &choice : choices)
+        choose(choice);
+    m_takePicture(QStringLiteral("sensors-values"));
+    resetValues();
+    m_takePicture(QStringLiteral("sensors-values-reset"));
+}
+
+void SensorsTour::checkMissing(const QStringList &titles)
+{
+    const auto isShown = [this](const char *className, const char *property, const QString &title) {
+        return std::ranges::any_of(
+            m_driver.items(QLatin1String(className)),
+            [&](const QQuickItem *item) { return item->property(property).toString() == title; });
+    };
+    const auto checkPage = [&](const char *page, const char *className, const char *property) {
+        m_driver.clickButton(QLatin1String(page));
+        for (const char *title : {"Accelerometer", "Proximity Sensor", "Tap Sensor"}) {
+            waitFor(QStringLiteral("\"%1\" on the page %2")
+                        .arg(QLatin1String(title), QLatin1String(page)),
+                    [&] {
+                        return isShown(className, property, QLatin1String(title))
+                               != titles.contains(QLatin1String(title));
+                    });
+        }
+        if (!titles.isEmpty())
+            m_takePicture(QString(QLatin1String(page)).toLower().replace(u' ', u'-')
+                          + QStringLiteral("-fewer"));
+    };
+    checkPage("Sensors Management", "QQuickCheckBox", "text");
+    checkPage("Sensors Values", "SensorControls", "title");
+}
+
+void SensorsTour::drag(const Field &field)
+{
+    const QQuickItem *slider = partOf(m_driver, field.frame, "QQuickSlider", field.index);
+    const qsizetype start = m_journal.position();
+    m_driver.drag(slider, field.fraction);
+    m_journal.waitForCall(
+        callFor(field.method, field.type, field.multiplier, slider->property("value").toDouble()),
+        start);
+}
+
+void SensorsTour::type(const Field &field)
+{
+    const QQuickItem *text = partOf(m_driver, field.frame, "QQuickTextField", field.index);
+    const qsizetype start = m_journal.position();
+    m_driver.type(text, QLatin1String(field.text));
+    m_journal.waitForCall(
+        callFor(field.method, field.type, field.multiplier, QByteArray(field.text).toDouble()),
+        start);
+}
+
+void SensorsTour::choose(const Choice &choice)
+{
+    const QQuickItem *comboBox = partOf(m_driver, choice.frame, "QQuickComboBox", 0);
+    for (const auto &[entry, call] : choice.entries) {
+        const qsizetype start = m_journal.position();
+        m_driver.choose(comboBox, QLatin1String(entry));
+        m_journal.waitForCall(QLatin1String(call), start);
+    }
+}
+
+void SensorsTour::clickProximityButtons()
+{
+    const qsizetype start = m_journal.position();
+    m_driver.clickButton(QStringLiteral("Near"));
+    m_journal.waitForCall(QStringLiteral("setProximitySensorValue int32:0"), start);
+    m_driver.clickButton(QStringLiteral("Far"));
+    m_journal.waitForCall(QStringLiteral("setProximitySensorValue int32:10"), start);
+}
+
+// It stays on the host.
+void SensorsTour::changeMagneticField()
+{
+    const qsizetype start = m_journal.position();
+    for (int axis = 0; axis < 3; ++axis) {
+        m_driver.drag(partOf(m_driver, "Magnetic Field", "QQuickSlider", axis), 0.7);
+        m_driver.type(partOf(m_driver, "Magnetic Field", "QQuickTextField", axis),
+                      QStringLiteral("-99.999"));
+    }
+    clickProximityButtons();
+    const QStringList calls = m_journal.callsSince(start);
+    for (const QString &call : calls) {
+        if (!call.startsWith(u"setProximitySensorValue"))
+            throw WaitingFailed("the magnetic field was sent: " + call.toStdString());
+    }
+}
+
+void SensorsTour::resetValues()
+{
+    const qsizetype start = m_journal.position();
+    m_driver.clickButton(QStringLiteral("Reset values"));
+    for (const char *call :
+         {"setAccelerometerValues int32:0 int32:0 int32:1000", "setAlsValue int32:100",
+          "setGyroscopeValues double:0 double:0 double:1.14592",
+          "setMagnetometerValues double:4.3e-05 double:0 double:0",
+          "setMagnetometerCalibrationLevel int32:0", "setProximitySensorValue int32:5",
+          "setTapSensorValue int32:-1"})
+        m_journal.waitForCall(QLatin1String(call), start);
+}
