@@ -6,6 +6,8 @@ ScrollView {
     id: root
 
     readonly property Item focusedItem: Window.activeFocusItem
+    readonly property bool isTooWide: contentWidth > width
+    readonly property bool isTooHigh: contentHeight > height
 
     function isInside(item: Item): bool {
         for (let ancestor = item; ancestor; ancestor = ancestor.parent) {
@@ -22,6 +24,12 @@ ScrollView {
                                                   bar.position * contentLength));
         return position / contentLength;
     }
+
+    // The style shows bars only while they are used: nobody would know that there is more.
+    ScrollBar.horizontal.policy: isTooWide ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
+    ScrollBar.vertical.policy: isTooHigh ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
+    bottomPadding: isTooWide ? ScrollBar.horizontal.height : 0
+    rightPadding: isTooHigh ? ScrollBar.vertical.width : 0
 
     onFocusedItemChanged: {
         if (!focusedItem || !isInside(focusedItem))

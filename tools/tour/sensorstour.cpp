@@ -3,6 +3,7 @@
 #include "waiting.h"
 
 #include <QQuickItem>
+#include <QQuickWindow>
 
 #include <algorithm>
 #include <array>
@@ -172,7 +173,11 @@ void SensorsTour::visitValues()
         choose(choice);
     m_takePicture(QStringLiteral("sensors-values"));
     resetValues();
-    m_takePicture(QStringLiteral("sensors-values-reset"));
+
+    const QSize size = m_driver.window()->size();
+    m_driver.window()->resize(size * 2 / 3);
+    m_takePicture(QStringLiteral("sensors-values-small"));
+    m_driver.window()->resize(size);
 }
 
 void SensorsTour::checkMissing(const QStringList &titles)
