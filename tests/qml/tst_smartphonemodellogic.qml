@@ -1,0 +1,123 @@
+import QtQuick
+import QtTest
+
+import "qrc:/emulationmanagement/js/smartphone-model-page-logic.js" as Logic
+
+// Compares the formulas with quaternions [w, x, y, z] that are made of axes and angles.
+TestCase {
+    readonly property double gravity: 9.80665
+
+    name: "SmartphoneModelLogic"
+
+    function about(axis: int, degrees: double): var {
+        const half = degrees * Math.PI / 360;
+        const result = [Math.cos(half), 0, 0, 0];
+        result[axis + 1] = Math.sin(half);
+        return result;
+    }
+
+    function product(left: var, right: var): var {
+        const [a, b, c, d] = left;
+        const [e, f, g, h] = right;
+        return [a * e - b * f - c * g - d * h, a * f + b * e + c * h - d * g,
+                a * g - b * h + c * e + d * f, a * h + b * g - c * f + d * e];
+    }
+
+    function inverse(rotation: var): var {
+        return rotation.map((part, i) => i === 0 ? part : -part);
+    }
+
+    function attitude(rotation: var): var {
+        return product(product(about(0, rotation[0]), about(1, rotation[1])),
+                       about(2, rotation[2]));
+    }
+
+    // A vector of the world as the turned device sees it.
+    function seen(rotation: var, vector: var): var {
+        const turned = attitude(rotation);
+        return product(product(inverse(turned), [0, ...vector]), turned).slice(1);
+    }
+
+    function near(actual: var, expected: var, tolerance: double) {
+        expected.forEach((value, i) => fuzzyCompare(actual[i], value, tolerance));
+    }
+
+    // The same numbers in each run.
+    function forEachAttitude(check: var) {
+        let seed = 1;
+        const random = limit => {
+            seed = seed * 16807 % 2147483647;
+            return (2 * seed / 2147483647 - 1) * limit;
+        };
+        const triple = limit => [random(limit), random(limit), random(limit)];
+        for (let i = 0; i < 200; ++i)
+            check(triple(180), triple(60));
+    }
+
+    function test_readingsAtRest() {
+        forEachAttitude((rotation, field) => {
+            near(Logic.accelerometerReading(rotation, gravity, [0, 0, 0]),
+                 seen(rotation, [0, gravity, 0]), 1e-9);
+            near(Logic.magnetometerReading(rotation, field), seen(rotation, field), 1e-5);
+        });
+        compare(Logic.magnetometerReading([10, 20, 30], [0, 0, 0]), [0, 0, 0]);
+    }
+
+    function test_readingsInMotion() {
+        forEachAttitude((rotation, [ax, ay, az]) => {
+            const [, y, z] = seen(rotation, [ax, gravity + ay, az]);
+            // not as in nature: only gravity and ax have their sign
+            const [x] = seen(rotation, [ax, gravity - ay, -az]);
+            near(Logic.accelerometerReading(rotation, gravity, [ax, ay, az]), [x, y, z], 1e-9);
+        });
+    }
+
+    function test_gyroscope() {
+        forEachAttitude((rotation, turn) => {
+            const period = 1e-6;
+            const next = rotation.map((angle, i) => angle + turn[i] * period);
+            const change = product(inverse(attitude(rotation)), attitude(next));
+            const expected = change.slice(1).map(part => part * 360 / Math.PI / period);
+            near(Logic.gyroscopeReading(rotation, Logic.rotationFrequencies(
+                next, rotation, [false, false, false], period)), expected, 1e-2);
+        });
+        // not as in nature: a wrapped axis has turned forwards, whatever way it went
+        near(Logic.rotationFrequencies([15, -180, 180], [10, 175, -175], [false, true, true], 0.1),
+             [5 / 36, 5 / 36, 5 / 36], 1e-12);
+    }
+
+    function test_turnedAboutWorldAxes() {
+        forEachAttitude((rotation, turns) => {
+            const expected = [0, 1, 2].reduce(
+                (turned, axis) => product(about(axis, turns[axis]), turned), attitude(rotation));
+            const actual = attitude(Logic.turnedAboutWorldAxes(rotation, turns));
+            const sign = Math.sign(actual[0] * expected[0]); // both signs are the same attitude
+            near(actual, expected.map(part => sign * part), 1e-6);
+        });
+    }
+
+    function test_dragTurn_data(): var {
+        const half = 90 / 2; // from 45 degrees on one side to 45 on the other
+        return [
+            {tag: "turned on its side", base: [110, 100], pointer: [160, 120], turn: [10, 25, 0]},
+            {tag: "right to left above", base: [150, 50], pointer: [50, 49],
+             turn: [-0.5, -50, -half]},
+            {tag: "left to right below", base: [50, 150], pointer: [150, 151],
+             turn: [0.5, 50, -half]},
+            {tag: "not damped near the origin", base: [130, 130], pointer: [70, 129],
+             turn: [-0.5, -30, -half * Math.sin(29 * Math.PI / 180)]},
+            {tag: "no angle at the origin", base: [50, 100], pointer: [100, 100], turn: [0, 25, 0]},
+        ];
+    }
+
+    function test_dragTurn(row: var) {
+        const [base, pointer] = [row.base, row.pointer].map(([x, y]) => Qt.point(x, y));
+        near(Logic.dragTurn(Qt.point(100, 100), base, pointer), row.turn, 0.5);
+    }
+
+    function test_wireAcceleration() {
+        const steps = [Math.sin(Math.PI / 6), 0.9999, -0.9999].map(
+            g => Logic.wireAcceleration(g * gravity, 1000 / gravity));
+        compare(steps, [500, 999, -999]);
+    }
+}
