@@ -37,6 +37,7 @@ Item {
         function init() {
             failOnWarning(/.*/);
             host.reset();
+            sensorsEmulationManager.setSensorEnabled("magnetometer", false); // as at the start
             view = createTemporaryObject(component, root);
             verify(view);
         }

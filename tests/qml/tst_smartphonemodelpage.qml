@@ -1,0 +1,194 @@
+import QtQuick
+import QtQuick.Controls
+import QtTest
+
+import "qrc:/emulationmanagement/qml"
+
+import "find.js" as Find
+
+Item {
+    id: root
+
+    width: 919
+    height: 600
+
+    Component {
+        id: component
+
+        SmartphoneModelPage {
+            anchors.fill: parent
+        }
+    }
+
+    TestCase {
+        id: test
+
+        property SmartphoneModelPage page
+        property DeviceMotion motion
+        property SmartphoneModelArea area
+
+        name: "SmartphoneModelPage"
+        when: windowShown
+
+        function init() {
+            failOnWarning(/.*/);
+            host.reset();
+            sensorsEmulationManager.setMagneticFieldValues(10, 20, 30);
+            page = createTemporaryObject(component, root);
+            motion = Array.from(page.data).find(child => child instanceof DeviceMotion);
+            page.active = true;
+            area = Find.find(page, item => item instanceof SmartphoneModelArea);
+        }
+
+        // The magnetometer in tenths of a microtesla.
+        function sent(sensor: string): var {
+            const model = sensorsEmulationManager[sensor];
+            const unit = sensor === "magnetometer" ? 1e-7 : 1;
+            return [model.x, model.y, model.z].map(value => Math.round(value / unit));
+        }
+
+        // What the gyroscope reads of a change between two samples, without those of the timer.
+        function sampled(change: var): var {
+            page.active = false;
+            motion.sample();
+            change();
+            motion.sample();
+            return sent("gyroscope");
+        }
+
+        function startMoving(start: double) {
+            mouseClick(Find.find(page, item => item.text === "Move"));
+            motion.displacement = [start, start, start];
+        }
+
+        function test_activation() {
+            compare([sent("accelerometer"), sent("gyroscope"), sent("magnetometer")],
+                    [[0, 1000, 0], [0, 0, 0], [100, 200, 300]]);
+            verify(Find.find(page, item => item.visible && item.text
+                                           === "Accelerometer (m/s²): 0.000 9.807 0.000"));
+            sensorsEmulationManager.setGyroscopeX(1);
+            tryVerify(() => sent("gyroscope")[0] === 0); // by the timer
+            page.active = false;
+            verify(!Array.from(page.data).find(child => child instanceof Timer).running);
+            page.rotate([45, 0, 0]);
+            compare(sent("accelerometer"), [0, 1000, 0]); // is that of the other pages now
+        }
+
+        function test_presets() {
+            const buttons = [];
+            Find.find(page, item => item instanceof Button && buttons.push(item) && false);
+            page.rotate([45, 45, 45]);
+            const expected = [[0, 1000, 0], [-1000, 0, 0], [0, -1000, 0], [1000, 0, 0],
+                              [0, 0, 1000], [0, 0, -1000]];
+            compare(buttons.map(button => {
+                mouseClick(button);
+                return sent("accelerometer");
+            }), expected);
+            compare(sent("magnetometer"), [100, 300, -200]);
+        }
+
+        function test_keys_data(): var {
+            return [
+                {tag: "left", key: Qt.Key_Left, rotation: [0, 0, -1]},
+                {tag: "shift and right", key: Qt.Key_Right, modifier: Qt.ShiftModifier,
+                 rotation: [0, 1, 0]},
+                {tag: "down", key: Qt.Key_Down, rotation: [-1, 0, 0]},
+                {tag: "up in move mode", start: 0, key: Qt.Key_Up, position: [0, 0.01, 0]},
+                {tag: "beyond the limit", start: 2, key: Qt.Key_Right, position: [2, 2, 2]},
+                {tag: "no way back from a drag beyond it", start: 2.05, key: Qt.Key_Left,
+                 position: [2.04, 2.05, 2.05]},
+            ];
+        }
+
+        function test_keys(row: var) {
+            if (row.start !== undefined)
+                startMoving(row.start);
+            keyClick(row.key, row.modifier ?? Qt.NoModifier);
+            compare(motion.rotation, row.rotation ?? [0, 0, 0]);
+            compare(motion.displacement, row.position ?? [0, 0, 0]);
+            compare(sent("magnetometer").join() !== "100,200,300", row.rotation !== undefined);
+        }
+
+        function test_control() {
+            keyPress(Qt.Key_Up, Qt.ControlModifier);
+            verify(!page.rotationMode);
+            compare(motion.displacement, [0, 0.01, 0]);
+            keyRelease(Qt.Key_Up, Qt.ControlModifier);
+            verify(page.rotationMode);
+
+            mouseClick(Find.find(page, item => item instanceof TextField));
+            keyPress(Qt.Key_V, Qt.ControlModifier);
+            verify(page.rotationMode); // pasting is no change of the mode
+        }
+
+        function test_gyroscope() {
+            compare(sampled(() => page.rotate([0, 0, 5])), [0, 0, 50]);
+            compare(sampled(() => {}), [0, 0, 0]);
+            compare(sampled(() => page.rotate([0, 0, 180])), [0, 0, 1750]);
+            compare(sampled(() => {
+                page.active = true;
+                keyClick(Qt.Key_Right);
+                compare(motion.rotation[2], 181);
+                keyClick(Qt.Key_Up);
+            }), [10 * -1, 0, 0]); // from 180 to -180 is no way, and x turns the other way there
+            compare(sampled(() => page.rotate([500, 0, -180])), [-3000, 0, 0]);
+        }
+
+        function test_move() {
+            startMoving(0.1); // 0.006 m in 0.1 s
+            const readings = [0, 1, 2].map(() => {
+                motion.sample();
+                return sent("accelerometer");
+            });
+            compare(readings, [[122, 1122, 122], [-122, 877, -122], [0, 1000, 0]]);
+            page.rotate([0, 0, 90]);
+            compare([sent("accelerometer"), sent("magnetometer")],
+                    [[1000, 0, 0], [100, 200, 300]]);
+        }
+
+        function test_states_data(): var {
+            return ["accelerometer", "gyroscope", "magnetometer"].map(name => ({tag: name}));
+        }
+
+        function test_states(row: var) {
+            const title = new RegExp(`^${row.tag} \\(`, "i");
+            const label = Find.find(page, item => title.test(item.text));
+            sensorsEmulationManager.setSensorEnabled(row.tag, false);
+            verify(label.visible && !label.enabled);
+            host.setSensorAvailable(row.tag, false);
+            verify(!label.visible);
+            const before = sent(row.tag);
+            page.rotate([30, 30, 30]);
+            motion.sample();
+            compare(sent(row.tag), before);
+        }
+
+        function test_mouse() {
+            mouseDrag(area, 100, 100, 50, 50); // an empty model cannot be turned
+            compare([motion.rotation, motion.displacement], [[0, 0, 0], [0, 0, 0]]);
+            startMoving(0);
+            mousePress(area, 100, 100);
+            mouseMove(area, 100 + area.width / 6, 100 + area.height / 8);
+            mouseMove(area, 100 + area.width / 2, 100 + area.height / 8);
+            fuzzyCompare(motion.displacement[0], 1, 0.02); // 3 is too far
+            mouseMove(area, 100 + area.width / 3, 100 + area.height / 8);
+            mouseRelease(area, 100 + area.width / 3, 100 + area.height / 8);
+            [2, -0.5, 0].forEach((value, i) => fuzzyCompare(motion.displacement[i], value, 0.02));
+            for (const [angle, z] of [[60, 0], [60, 0.2], [-360, -0.4], [-1200, -2]]) {
+                mouseWheel(area, 10, 10, 0, angle);
+                fuzzyCompare(motion.displacement[2], z, 1e-9);
+            }
+        }
+
+        function test_mouseTurnsDrawnModel() {
+            area.model.cameraAngle = 10;
+            area.model.rotationState = [0, 0, 10];
+            mousePress(area, 300, 100);
+            mouseMove(area, 300, 140);
+            mouseMove(area, 300, 160);
+            mouseRelease(area, 300, 160);
+            [30, 0, 0].forEach((value, i) => fuzzyCompare(motion.rotation[i], value, 5.5));
+            verify(sent("accelerometer")[2] < -400);
+        }
+    }
+}
