@@ -10,9 +10,11 @@
 #include <ravik/emulator.h>
 #include <ravik/virtualmachine.h>
 
+#include <QFileInfo>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -201,6 +203,17 @@ void ConnectionTest::testDeviceModelChanged()
     QCOMPARE(missingSensors(), (QStringList{"proximity", "tap"}));
     sdk()->setDeviceModel(0, "Nimbra Tablet");
     QCOMPARE(missingSensors(), QStringList());
+
+    const auto fileOf = [](const char *property) {
+        const QString uri = contextObject("smartphone3DModelConfig")->property(property).toString();
+        return QFileInfo(QUrl(uri).toLocalFile());
+    };
+    const QFileInfo mesh = fileOf("smartphone3DModelMeshUri");
+    QCOMPARE(mesh.fileName(), "nimbra-tablet.json");
+    QVERIFY(mesh.exists());
+    QVERIFY(fileOf("smartphone3DModelTextureUri").exists());
+    sdk()->setDeviceModel(0, "Nimbra Phone"); // which has none
+    QCOMPARE(fileOf("smartphone3DModelMeshUri").fileName(), "default.json");
 }
 
 void ConnectionTest::testNoEmulator()

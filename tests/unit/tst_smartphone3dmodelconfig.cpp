@@ -45,6 +45,7 @@ private Q_SLOTS:
         QTest::newRow("another suffix is not read") << u"Backup"_s << anyMesh << anyTexture;
         QTest::newRow("missing keys") << u"Bare"_s << u"meshes"_s << u"textures"_s;
         QTest::newRow("a file without a name") << QString() << u"meshes/n.obj"_s << u"textures"_s;
+        QTest::newRow("broken lines") << u"Broken"_s << u"meshes/b.obj"_s << u"textures"_s;
         QTest::newRow("characters that a URL escapes")
             << u"Odd"_s << u"meshes/a b#1%20?.obj"_s << u"textures/\u00e4.png"_s;
     }
@@ -57,6 +58,9 @@ private Q_SLOTS:
         write("2.ini", "device-name=Bare\n");
         write("3.ini", "mesh=n.obj\n");
         write("4.ini", "device-name=Odd\nmesh=\"a b#1%20?.obj\"\ntexture=\"\\xe4.png\"\n");
+        write("6.ini", "\xff[[=\n\1\ndevice-name=Broken\nmesh=b.obj\n=\ntexture");
+        QVERIFY(m_folder.mkpath(u"folder.ini"_s));
+        QVERIFY(QFile::link(u"nowhere"_s, m_folder.filePath(u"link.ini"_s)));
         write("5.ini.bak", "device-name=Backup\nmesh=old.obj\n");
         Smartphone3DModelConfig config;
         QCOMPARE(fileOf(config.smartphone3DModelMeshUri()), u"meshes/any.obj"_s);
