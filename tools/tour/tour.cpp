@@ -1,5 +1,6 @@
 #include "tour.h"
 
+#include "devicemodeltour.h"
 #include "menudriver.h"
 #include "messageboxanswers.h"
 #include "sensorstour.h"
@@ -54,6 +55,7 @@ void Tour::visitAll()
     m_journal.waitForCall(QStringLiteral("setAccelerometerValues int32:0 int32:0 int32:1000"), 0);
     takePicture(QStringLiteral("window"));
     visitSensors(driver);
+    visitDeviceModel(driver);
     visitOtherPages(driver);
     printCalls();
 }
@@ -96,19 +98,30 @@ void Tour::visitSensors(const WindowDriver &driver)
     tour.visitValues();
 }
 
+void Tour::visitDeviceModel(const WindowDriver &driver)
+{
+    say(QStringLiteral("Orientation Management: turning and moving the device"));
+    const qsizetype start = m_journal.position();
+    {
+        // the device model is about to replace the values that were set by hand
+        const MessageBoxAnswers answers(QMessageBox::Ok);
+        driver.clickButton(QStringLiteral("Orientation Management"));
+        if (answers.boxes().size() != 1)
+            throw WaitingFailed("no warning came before the device model's page");
+    }
+    m_journal.waitForCall(QStringLiteral("setGyroscopeValues double:0 double:0 double:0"), start);
+    driver.window()->raise(); // the warning has raised the IDE
+    DeviceModelTour(driver, m_journal, [this](const QString &name) { takePicture(name); }).run();
+}
+
 void Tour::visitOtherPages(const WindowDriver &driver)
 {
-    // the device model is about to replace the values that were set by hand
-    const MessageBoxAnswers answers(QMessageBox::Ok);
     for (const QString &page :
-         {QStringLiteral("Orientation Management"), QStringLiteral("GPS Management"),
-          QStringLiteral("Camera Management")}) {
+         {QStringLiteral("GPS Management"), QStringLiteral("Camera Management")}) {
         say(page);
         driver.clickButton(page);
         takePicture(page.toLower().replace(u' ', u'-'));
     }
-    if (answers.boxes().size() != 1)
-        throw WaitingFailed("no warning came before the device model's page");
 }
 
 void Tour::takePicture(const QString &name)
