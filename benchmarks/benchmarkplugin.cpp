@@ -3,6 +3,7 @@
 #include "callbenchmark.h"
 #include "restartbenchmark.h"
 #include "sliderbenchmark.h"
+#include "viewbenchmark.h"
 
 bool BenchmarkPlugin::initialize(const QStringList &arguments, QString *errorString)
 {
@@ -11,5 +12,6 @@ bool BenchmarkPlugin::initialize(const QStringList &arguments, QString *errorStr
     addTest<CallBenchmark>();
     addTest<RestartBenchmark>();
     addTest<SliderBenchmark>();
+    addTest<ViewBenchmark>();
     return true;
 }
