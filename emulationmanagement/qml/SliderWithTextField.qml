@@ -76,7 +76,8 @@ RowLayout {
         id: textField
 
         Accessible.name: root.label
-        Layout.preferredWidth: 8 * metrics.averageCharacterWidth + leftPadding + rightPadding
+        // room for a sign, three digits, three decimals and the cursor
+        Layout.preferredWidth: metrics.advanceWidth("-000.000 ") + leftPadding + rightPadding
         horizontalAlignment: TextInput.AlignRight
         selectByMouse: true
         text: root.valueText
