@@ -22,7 +22,8 @@ ScrollView {
         const visible = bar.size * contentLength;
         const position = Math.min(start, Math.max(start + length - visible,
                                                   bar.position * contentLength));
-        return position / contentLength;
+        // what is stretched to the view's width reaches beyond contentLength
+        return Math.max(0, Math.min(position / contentLength, 1 - bar.size));
     }
 
     // The style shows bars only while they are used: nobody would know that there is more.
