@@ -1,0 +1,247 @@
+.pragma library
+
+// Reads the points of a track from the text of an NMEA 0183 log.
+//
+// Lines of unknown sentences are passed over; a known sentence that is not well formed spoils the
+// log. Only the talker "GP" is known, and checksums are not verified.
+
+// The decimals that are kept of degrees and of metres.
+const latLongRoundingSize = 7;
+const altRoundingSize = 2;
+
+const millisPerSecond = 1000;
+const millisPerMinute = 60 * millisPerSecond;
+const millisPerHour = 60 * millisPerMinute;
+const millisPerDay = 24 * millisPerHour;
+
+const nonEmptyLine = /[^\r\n]+/g;
+// A line whose tag, the text before the first comma, is that of a known sentence; and the tag.
+const knownLine = /(?:^|[\r\n])((\$GP(?:RMC|GGA|GLL|WPL))(?![^,\r\n])[^\r\n]*)/g;
+const timeOfDay = /^\d{6}(?:\.\d{2,3})?$/;
+const sixDigits = /^\d{6}$/;
+const decimal = /^\d+\.\d+$/;
+
+
+// How each sentence is read:
+//  - usual: a line with nothing out of place; its groups are the values that count;
+//  - fields: the fields that these groups are, the tag being field 0;
+//  - accepts: whether other lines are well formed. Where any text may stand, commas may too, and
+//    what follows stands farther to the right. Looking for the leftmost place of each finds a
+//    place for all if there is one, in a time that grows with the line, as it does for one pattern
+//    of many wildcards only until a line has many commas;
+//  - point, time: made of the groups. A sentence without time has points without time stamps.
+const sentences = {
+    $GPRMC: {
+        usual: /^\$GPRMC,(\d{6}(?:\.\d{2,3})?),[^,]*,(\d+\.\d+),([NS]),(\d+\.\d+),([EW]),[^,]*,[^,]*,(\d{6}),[^,]*,/,
+        fields: [1, 3, 4, 5, 6, 9],
+        accepts: fields => {
+            const position = indexOf(fields, 3, fields.length, isPosition);
+            return timeOfDay.test(fields[1]) && position >= 0
+                && indexOf(fields, position + 6, fields.length - 2, isSixDigits) >= 0;
+        },
+        point: groups => createTrackPoint("$GPRMC", groups[2], groups[3], groups[4], groups[5], 0),
+        time: (groups, prevDate) => parseDateFromNmea(groups[6], groups[1], prevDate),
+    },
+    $GPGGA: {
+        usual: /^\$GPGGA,(\d{6}(?:\.\d{2,3})?),(\d+\.\d+),([NS]),(\d+\.\d+),([EW]),[^,]*,[^,]*,[^,]*,(\d+\.\d+),[^,]*,[^,]*,[^,]*,[^,]*,/,
+        fields: [1, 2, 3, 4, 5, 9],
+        accepts: fields => timeOfDay.test(fields[1]) && isPosition(fields, 2)
+            && indexOf(fields, 9, fields.length - 5, isDecimal) >= 0,
+        point: groups => createTrackPoint("$GPGGA", groups[2], groups[3], groups[4], groups[5],
+                                          roundValue(Number(groups[6]), altRoundingSize)),
+        time: (groups, prevDate) => parseDateFromNmea("", groups[1], prevDate),
+    },
+    $GPGLL: {
+        usual: /^\$GPGLL,(\d+\.\d+),([NS]),(\d+\.\d+),([EW]),([^,]*)/,
+        fields: [1, 2, 3, 4, 5],
+        accepts: () => false,
+        point: groups => createTrackPoint("$GPGLL", groups[1], groups[2], groups[3], groups[4], 0),
+        time: (groups, prevDate) => parseDateFromNmea("", checkedTime(groups[5]), prevDate),
+    },
+    $GPWPL: {
+        usual: /^\$GPWPL,(\d+\.\d+),([NS]),(\d+\.\d+),([EW]),/,
+        fields: [1, 2, 3, 4],
+        accepts: () => false,
+        point: groups => createTrackPoint("$GPWPL", groups[1], groups[2], groups[3], groups[4], 0),
+        time: () => null,
+    },
+};
+
+function isSixDigits(fields, index) {
+    return sixDigits.test(fields[index]);
+}
+
+function isDecimal(fields, index) {
+    return decimal.test(fields[index]);
+}
+
+function isPosition(fields, index) {
+    return isDecimal(fields, index) && /^[NS]$/.test(fields[index + 1])
+        && isDecimal(fields, index + 2) && /^[EW]$/.test(fields[index + 3]);
+}
+
+// The first index from begin on and before end that the fields are accepted at, or -1.
+function indexOf(fields, begin, end, accept) {
+    for (let index = begin; index < end; ++index) {
+        if (accept(fields, index))
+            return index;
+    }
+    return -1;
+}
+
+// The groups of a line of this sentence, or null when it is not well formed.
+function groupsOf(sentence, line) {
+    const usual = sentence.usual.exec(line);
+    if (usual)
+        return usual;
+    const fields = line.split(",");
+    return sentence.accepts(fields) ? [line, ...sentence.fields.map(index => fields[index])] : null;
+}
+
+// What loadNmeaLog() throws. Lines count from 1 and empty ones not at all; 0 stands for no line.
+function syntaxError(message, incorrectLine) {
+    return Object.assign(new SyntaxError(message), {incorrectLine});
+}
+
+// Without its time, a sentence of positions says nothing of use for a track.
+function checkedTime(text) {
+    if (!/^\d{6}/.test(text))
+        throw new TypeError(`NMEA file has a position at "${text}", which is not a time`);
+    return text;
+}
+
+function countLines(text) {
+    let count = 0;
+    nonEmptyLine.lastIndex = 0;
+    while (nonEmptyLine.test(text))
+        ++count;
+    return count;
+}
+
+// Halves are rounded upwards.
+function roundValue(value, precision) {
+    const factor = Math.pow(10, precision);
+    return Math.round(value * factor) / factor;
+}
+
+// Degrees of a text of degrees, as many digits as given, and minutes, "4807.038"; south and west
+// are negative.
+function parseCoordinateFromNmea(coordinateString, coordinateHemisphere, degreesSize) {
+    const degrees = Number(coordinateString.substring(0, degreesSize));
+    const minutes = Number(coordinateString.substring(degreesSize));
+    const value = roundValue(degrees + minutes / 60, latLongRoundingSize);
+    return coordinateHemisphere === "S" || coordinateHemisphere === "W" ? 0 - value : value;
+}
+
+function parseLatitudeFromNmea(latitudeString, latitudeHemisphere) {
+    return parseCoordinateFromNmea(latitudeString, latitudeHemisphere, 2);
+}
+
+function parseLongitudeFromNmea(longitudeString, longitudeHemisphere) {
+    return parseCoordinateFromNmea(longitudeString, longitudeHemisphere, 3);
+}
+
+// The time stamp of a time "hhmmss.sss" and a date "ddmmyy", which may be empty: then the day is
+// that of the previous time stamp, or the one after it past midnight, or today.
+//
+// Only differences of time stamps are used. The month is taken as an index that counts from 0, so
+// that a date lies a month late, and the day stands for the year as well: the stamps of a log jump
+// by years at midnight and by other than a month's length at its end.
+function parseDateFromNmea(dateString, timeString, prevDate) {
+    const time = Number(timeString.substring(0, 2)) * millisPerHour
+        + Number(timeString.substring(2, 4)) * millisPerMinute
+        + Number(timeString.substring(4, 6)) * millisPerSecond
+        + Math.round(Number("0." + timeString.substring(7)) * millisPerSecond);
+    if (dateString) {
+        const day = Number(dateString.substring(0, 2));
+        const monthIndex = Number(dateString.substring(2, 4));
+        const century = 2000 + day > new Date().getUTCFullYear() ? 1900 : 2000;
+        return new Date(Date.UTC(century + day, monthIndex, day) + time);
+    }
+    const now = prevDate ? prevDate.getTime() : Date.now();
+    const date = Math.floor(now / millisPerDay) * millisPerDay + time;
+    return new Date(prevDate && date < now ? date + millisPerDay : date);
+}
+
+function millisBetween(firstDate, secondDate) {
+    return secondDate.getTime() - firstDate.getTime();
+}
+
+// "hh:mm:ss.t" of milliseconds; whole days are left out.
+function millisToPointTime(duration) {
+    // the time of the day at the duration's end, which is as long since the start of 1970
+    return duration < 0 ? "-" + millisToPointTime(-duration)
+                        : new Date(duration).toISOString().substring(11, 21);
+}
+
+// Makes a point the next one of the track. Both times are null for a track without time stamps.
+function setUpTrackPointTimeAndInterval(points, trackPoint, startTime, trackPointTime) {
+    const previous = points[points.length - 1];
+    trackPoint.index = points.length;
+    trackPoint.time = previous && trackPointTime ? millisBetween(startTime, trackPointTime) : 0;
+    trackPoint.interval = previous ? trackPoint.time - previous.time : 0;
+    trackPoint.timeString = millisToPointTime(trackPoint.time);
+}
+
+function createTrackPoint(pointFormat, latString, latHemisphere, lonString, lonHemisphere, alt) {
+    return {
+        format: pointFormat,
+        latitude: parseLatitudeFromNmea(latString, latHemisphere),
+        longitude: parseLongitudeFromNmea(lonString, lonHemisphere),
+        altitude: alt ?? 0,
+        index: 0,
+        time: 0,
+        interval: 0,
+        timeString: "",
+    };
+}
+
+// The points of a log, all of the sentence that comes first. Throws a SyntaxError with a number
+// incorrectLine when there are none to be had.
+function loadNmeaLog(text) {
+    if (text === "")
+        throw syntaxError("NMEA file is empty", 0);
+    const points = [];
+    let format = null;
+    let startTime = null;
+    let previousTime = null;
+    let match = null;
+    knownLine.lastIndex = 0;
+    while ((match = knownLine.exec(text))) {
+        const tag = match[2];
+        const sentence = sentences[tag];
+        const groups = groupsOf(sentence, match[1]);
+        if (groups && format && tag !== format)
+            continue;
+        const point = groups && sentence.point(groups);
+        const time = groups && sentence.time(groups, previousTime);
+        // in a line that is not usual, anything may stand in the place of a value
+        if (!groups || !isFinite(point.latitude + point.longitude + point.altitude)
+                || (time && isNaN(time.getTime()))) {
+            throw syntaxError("Incorrect NMEA file",
+                              countLines(text.substring(0, knownLine.lastIndex)));
+        }
+        format = tag;
+        previousTime = time;
+        startTime = startTime ?? time;
+        setUpTrackPointTimeAndInterval(points, point, startTime, time);
+        points.push(point);
+    }
+    if (points.length === 0) {
+        const lines = countLines(text);
+        if (lines === 0)
+            throw new TypeError("NMEA file has only empty lines");
+        throw syntaxError("NMEA file has incorrect points format.\n"
+                          + "Supported formats: GPRMC, GPGGA, GPGLL, GPWPL.", lines);
+    }
+    return points;
+}
+
+// Whether any but the first of the points, which always has none, lies at no time.
+function trackHasPointsWithoutDateTime(points) {
+    for (let i = 1; i < points.length; ++i) {
+        if (points[i].time === 0)
+            return true;
+    }
+    return false;
+}

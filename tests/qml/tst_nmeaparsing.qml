@@ -1,0 +1,128 @@
+import QtQuick
+import QtTest
+
+import "qrc:/emulationmanagement/js/nmea-parsing.js" as Nmea
+
+import "nmea-logs.js" as Logs
+import "nmea-reference.js" as Reference
+
+TestCase {
+    id: test
+
+    readonly property string gga: "$GPGGA,123519,4807.038,N,01131.000,E,1,08,0.9,545.4,M,46.9,M,,*47"
+    readonly property string unknown: "NMEA file has incorrect points format.\n"
+                                      + "Supported formats: GPRMC, GPGGA, GPGLL, GPWPL."
+
+    name: "NmeaParsing"
+
+    function rmc(time: string, date: string): string {
+        return `$GPRMC,${time},A,4916.45,S,12311.12,W,000.5,054.7,${date},020.3,E*68`;
+    }
+
+    function ggaAt(time: string): string {
+        return gga.replace("123519", time);
+    }
+
+    function test_points_data(): var {
+        return [
+            {tag: "field misread", text: gga, points: [
+                {format: "$GPGGA", latitude: 48.1173, longitude: 11.5166667, altitude: 545.4,
+                 index: 0, time: 0, interval: 0, timeString: "00:00:00.0"}]},
+            {tag: "fraction or south lost",
+             text: rmc("123519.50", "191194") + "\r\n" + rmc("123521.00", "191194"), points: [
+                {format: "$GPRMC", latitude: -49.2741667, longitude: -123.1853333, altitude: 0},
+                {index: 1, time: 1500, interval: 1500, timeString: "00:00:01.5"}]},
+            {tag: "midnight missed", text: ggaAt("235959") + "\n" + ggaAt("000001") + "\n"
+                + ggaAt("000000"),
+             points: [{}, {interval: 2000}, {interval: 86399000, time: 86401000,
+                                             timeString: "00:00:01.0"}]},
+            // the 31st of the second month is the 3rd of the third
+            {tag: "date read by the calendar", text: rmc("000000", "190194") + "\n"
+                + rmc("000000", "200194"), points: [{}, {interval: 366 * 86400000}]},
+            {tag: "day of a future year", text: rmc("000000", "310194") + "\n"
+                + rmc("000001", "310194"), points: [{}, {interval: 1000}]},
+            {tag: "other type mixed in", text: gga + "\n" + rmc("1", "1").replace("1,A", "123520,A")
+                .replace(",1,020", ",191194,020") + "\n$GNGGA,\n" + ggaAt("123520"),
+             points: [{}, {format: "$GPGGA", interval: 1000}]},
+            {tag: "comma in free text", text: "$GPRMC,123519,A,x,4807.038,N,01131.000,E,1.5,N,"
+                + "01131.000,E,1,2,191194,3,4", error: "Incorrect NMEA file", line: 1},
+            {tag: "waypoint without comma", text: "$GPWPL,4807.038,N,01131.000,E", line: 1,
+             error: "Incorrect NMEA file"},
+            {tag: "empty", text: "", error: "NMEA file is empty", line: 0},
+            {tag: "wrong line", text: gga + "\r\n\r\n\n$GPXXX\n" + gga.replace("N", "X"), line: 3,
+             error: "Incorrect NMEA file"},
+            {tag: "only the tag", text: gga + "\n$GPGGA", line: 2, error: "Incorrect NMEA file"},
+            {tag: "no fix", text: "$GPGGA,123519,,,,,0,00,,,M,,M,,*66", line: 1,
+             error: "Incorrect NMEA file"},
+            {tag: "nothing known", text: "$GNGGA\n\n$GPGGAX,1\n x\n", error: unknown, line: 3},
+        ];
+    }
+
+    function test_points(row: var) {
+        let points;
+        try {
+            points = Nmea.loadNmeaLog(row.text);
+        } catch (error) {
+            compare([error.message, error.incorrectLine], [row.error, row.line]);
+            return;
+        }
+        compare(points.length, row.points.length);
+        row.points.forEach((point, index) => {
+            for (const field in point)
+                compare(points[index][field], point[field], `${field} of point ${index}`);
+        });
+    }
+
+    // These have messages of their own and no line.
+    function test_scriptErrors() {
+        for (const text of ["\r\n\n", "$GPGLL,4916.45,N,12311.12,W,A", "$GPGLL,4916.45,N,12311.12,W,"]) {
+            try {
+                Nmea.loadNmeaLog(text);
+                fail("accepted " + text);
+            } catch (error) {
+                verify(error.message);
+                verify(!error.incorrectLine);
+            }
+        }
+    }
+
+    // Points without an interval must not pass for points without a time.
+    function test_pointsWithoutTime() {
+        const waypoint = "$GPWPL,4807.038,N,01131.000,E,W*5C\n";
+        for (const [text, answer] of [[waypoint, false], [waypoint + waypoint, true],
+                                      [gga + "\n" + ggaAt("123520") + "\n" + ggaAt("123520"), false]])
+            compare(Nmea.trackHasPointsWithoutDateTime(Nmea.loadNmeaLog(text)), answer);
+    }
+
+    function read(text: string): var {
+        try {
+            return Nmea.loadNmeaLog(text).map(
+                point => [point.latitude, point.longitude, point.altitude, point.time, point.interval]);
+        } catch (error) {
+            return error.incorrectLine;
+        }
+    }
+
+    function test_receiversLogs() {
+        for (let seed = 0; seed < 40; ++seed) {
+            const text = Logs.log(seed, 30);
+            compare(read(text), Reference.read(text), text);
+        }
+    }
+
+    // What is accepted must be what the patterns accept, and where they fail the line must be right.
+    function test_damagedLogs() {
+        for (let seed = 0; seed < 1000; ++seed) {
+            const text = Logs.damaged(Logs.log(seed, 3), seed);
+            const result = read(text);
+            const expected = Reference.read(text);
+            if (result !== undefined) // nothing known, or a position without time
+                compare(result, expected, text);
+        }
+    }
+
+    // A pattern with as many wildcards would take years.
+    function test_manyCommas() {
+        compare(read("$GPGGA,123519,4807.038,N,01131.000,E" + ",".repeat(100000)), 1);
+    }
+}
