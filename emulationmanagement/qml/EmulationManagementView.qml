@@ -173,6 +173,8 @@ Rectangle {
             id: gpsManagementPage
 
             anchors.fill: parent
+            errorDialog: root.errorDialog
+            messageDialog: root.messageDialog
         }
 
         CameraManagementPage {

@@ -1,0 +1,69 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+
+import org.plova 1.0
+
+// A field for one number of a position. What is no number gives way to the last one that was.
+RowLayout {
+    id: root
+
+    property string label: ""
+    property alias minValue: validator.bottom
+    property alias maxValue: validator.top
+    property alias decimals: validator.decimals
+    required property var locale
+
+    property string lastNumber: "0"
+
+    // Enter was pressed.
+    signal submitted(value: double)
+
+    function value(): double {
+        keepNumber();
+        return Number.fromLocaleString(locale, lastNumber);
+    }
+
+    function keepNumber() {
+        if (textField.acceptableInput)
+            lastNumber = textField.text;
+        else
+            textField.text = lastNumber;
+    }
+
+    spacing: 6
+
+    Label {
+        text: root.label
+    }
+
+    TextField {
+        id: textField
+
+        Accessible.name: root.label
+        Layout.fillWidth: true
+        Layout.maximumWidth: 20 * metrics.averageCharacterWidth + leftPadding + rightPadding
+        horizontalAlignment: TextInput.AlignRight
+        selectByMouse: true
+        text: "0"
+        validator: TextFieldDoubleValidator {
+            id: validator
+
+            notation: DoubleValidator.StandardNotation
+        }
+
+        onAccepted: root.submitted(root.value())
+        onActiveFocusChanged: {
+            if (activeFocus)
+                selectAll();
+            else
+                root.keepNumber();
+        }
+
+        FontMetrics {
+            id: metrics
+
+            font: textField.font
+        }
+    }
+}
