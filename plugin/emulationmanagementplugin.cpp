@@ -68,6 +68,8 @@ void EmulationManagementPlugin::extensionsInitialized()
 
 ExtensionSystem::IPlugin::ShutdownFlag EmulationManagementPlugin::aboutToShutdown()
 {
+    // The emulator may end with the IDE, which a message about the lost link would hold open.
+    disconnect(&m_remoteDBusInvokerService, nullptr, this, nullptr);
     m_emulationManagementView.close();
     return SynchronousShutdown;
 }
