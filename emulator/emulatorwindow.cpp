@@ -2,6 +2,7 @@
 
 #include "locationservice.h"
 #include "sensorservice.h"
+#include "trackplot.h"
 
 #include <QFormLayout>
 #include <QGridLayout>
@@ -158,6 +159,7 @@ QGroupBox *EmulatorWindow::createTrack()
              [this] { return yesNo(m_location.trackOptions().defaultInterval); });
     addValue(group, tr("Speed"),
              [this] { return tr("× %1").arg(m_location.trackOptions().speed); });
+    static_cast<QFormLayout *>(group->layout())->addRow(new TrackPlot(m_location));
     return group;
 }
 

@@ -48,6 +48,7 @@ void LocationService::loadTrack(const QList<QList<double>> &track)
     }
     m_trackIndex = 0;
     store(m_track, track);
+    Q_EMIT trackChanged();
 }
 
 void LocationService::startTrack()

@@ -39,6 +39,8 @@ public:
     explicit LocationService(QObject *parent = nullptr);
 
     [[nodiscard]] const Position &position() const { return m_position; }
+    /// Of each point: latitude, longitude, altitude and the interval before it in milliseconds.
+    [[nodiscard]] const QList<QList<double>> &track() const { return m_track; }
     [[nodiscard]] qsizetype trackSize() const { return m_track.size(); }
     [[nodiscard]] int trackIndex() const { return m_trackIndex; }
     [[nodiscard]] Playback playback() const { return m_playback; }
@@ -46,6 +48,7 @@ public:
 
 Q_SIGNALS:
     void changed();
+    void trackChanged();
 
 public Q_SLOTS:
     void setPosition(double latitude, double longitude, double altitude);
