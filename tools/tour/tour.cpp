@@ -1,6 +1,7 @@
 #include "tour.h"
 
 #include "devicemodeltour.h"
+#include "locationtour.h"
 #include "menudriver.h"
 #include "messageboxanswers.h"
 #include "sensorstour.h"
@@ -121,6 +122,11 @@ void Tour::visitOtherPages(const WindowDriver &driver)
         say(page);
         driver.clickButton(page);
         takePicture(page.toLower().replace(u' ', u'-'));
+        if (page == u"GPS Management") {
+            LocationTour(driver, m_journal, [this](const QString &name) {
+                takePicture(name);
+            }).visit(QStringLiteral(SAMPLE_TRACK));
+        }
     }
 }
 

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "windowdriver.h"
+
+/// Uses the controls of the page "GPS Management".
+class GpsPageDriver
+{
+public:
+    /// Shows the page.
+    explicit GpsPageDriver(const WindowDriver &driver);
+
+    /// Chooses a file in the page's dialog.
+    void openTrack(const QString &path) const;
+    /// Types into the field with this label and presses Enter.
+    void type(const QString &label, const QString &text) const;
+    /// Clicks "Play", "Pause" or "Stop" once that can be clicked.
+    void clickTrackButton(const QString &name) const;
+    void clickRow(int row) const;
+
+    [[nodiscard]] QQuickItem *progress() const;
+    [[nodiscard]] QQuickItem *table() const;
+    [[nodiscard]] QString shownFile() const;
+
+private:
+    WindowDriver m_driver;
+};
