@@ -2,6 +2,7 @@
 
 #include "connectiontest.h"
 #include "dialogstest.h"
+#include "locationtest.h"
 #include "persistencetest.h"
 #include "repliestest.h"
 #include "startuptest.h"
@@ -14,6 +15,7 @@ bool TestPlugin::initialize(const QStringList &arguments, QString *errorString)
     addTest<DialogsTest>();
     addTest<ConnectionTest>();
     addTest<RepliesTest>();
+    addTest<LocationTest>();
     addTest<PersistenceTest>();
     return true;
 }

@@ -2,6 +2,7 @@
 
 #include "waiting.h"
 
+#include <QFile>
 #include <QGuiApplication>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -23,7 +24,7 @@ GpsPageDriver::GpsPageDriver(const WindowDriver &driver)
     m_driver.clickButton(QStringLiteral("GPS Management"));
 }
 
-void GpsPageDriver::openTrack(const QString &path) const
+void GpsPageDriver::openTrack(const QString &path, bool vanishing) const
 {
     auto *page
         = m_driver.item(QStringLiteral("GpsManagementPage"), "visible", QStringLiteral("true"));
@@ -43,7 +44,12 @@ void GpsPageDriver::openTrack(const QString &path) const
         window = popupWindow();
         return window != nullptr;
     });
-    WindowDriver(window).clickButton(QStringLiteral("Open"));
+    const WindowDriver dialogDriver(window);
+    const QQuickItem *button
+        = dialogDriver.item(QStringLiteral("QQuickAbstractButton"), "text", QStringLiteral("Open"));
+    if (vanishing)
+        QFile::remove(path);
+    dialogDriver.click(button);
     waitFor(QStringLiteral("the file dialog to close"),
             [&] { return !dialog->property("visible").toBool(); });
 }

@@ -9,8 +9,8 @@ public:
     /// Shows the page.
     explicit GpsPageDriver(const WindowDriver &driver);
 
-    /// Chooses a file in the page's dialog.
-    void openTrack(const QString &path) const;
+    /// Chooses a file in the page's dialog. With \a vanishing it is gone when the page reads it.
+    void openTrack(const QString &path, bool vanishing = false) const;
     /// Types into the field with this label and presses Enter.
     void type(const QString &label, const QString &text) const;
     /// Clicks "Play", "Pause" or "Stop" once that can be clicked.

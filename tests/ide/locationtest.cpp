@@ -1,0 +1,278 @@
+#include "locationtest.h"
+
+#include <gpspagedriver.h>
+#include <messageboxanswers.h>
+#include <plugindriver.h>
+#include <waiting.h>
+
+#include <QFile>
+#include <QQuickItem>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace PluginDriver;
+
+static const QString ggaRecord = "loadTrack array:array:double:60.0500000,30.1800000,12.50,0;"
+                                 "60.0583350,30.1938197,14.90,400;60.0577800,30.2161803,8.70,400;"
+                                 "60.0422200,30.2161803,16.30,400;60.0416650,30.1938197,10.10,400";
+
+static QString goTo(int index)
+{
+    return QStringLiteral("goToPositionOnTrack int32:%1").arg(index);
+}
+
+static WindowDriver window()
+{
+    return WindowDriver::waitForWindow("Emulation Management");
+}
+
+LocationTest::LocationTest() = default;
+LocationTest::~LocationTest() = default;
+
+void LocationTest::initTestCase()
+{
+    m_journal = std::make_unique<Journal>(dataFolder(emulator()) + "/journal.jsonl");
+    openWindow(*m_journal);
+    m_page = std::make_unique<GpsPageDriver>(window());
+}
+
+void LocationTest::cleanupTestCase()
+{
+    // a track is loaded
+    const MessageBoxAnswers answers(QMessageBox::Ok);
+    stopMachine();
+    waitFor("the message", [&] { return !answers.boxes().isEmpty(); });
+}
+
+QStringList LocationTest::takeCalls()
+{
+    // a call that nothing else makes: all before it have come when it has
+    static int mark = 0;
+    const QString marker = QStringLiteral("setAltitude double:%1.00").arg(++mark);
+    QMetaObject::invokeMethod(gpsManager(), "setAltitude", Q_ARG(double, mark));
+    m_journal->waitForCall(marker, m_position);
+    QStringList calls = m_journal->callsSince(m_position);
+    m_position = m_journal->position();
+    calls.removeOne(marker);
+    calls.erase(std::unique(calls.begin(), calls.end()), calls.end());
+    return calls;
+}
+
+void LocationTest::waitForCall(const QString &call)
+{
+    m_journal->waitForCall(call, m_position);
+}
+
+void LocationTest::open(const QString &sample)
+{
+    m_page->openTrack(QStringLiteral(TEST_DATA "/") + sample);
+    waitFor("the track", [&] { return rowCount() == 5; });
+}
+
+bool LocationTest::isPlaying() const
+{
+    return !window().items("TrackButton").first()->isEnabled();
+}
+
+int LocationTest::rowCount() const
+{
+    return m_page->table()->property("rowCount").toInt();
+}
+
+void LocationTest::testTrackIsUploaded_data()
+{
+    QTest::addColumn<QString>("sample");
+    QTest::addColumn<QString>("altitude");
+    QTest::addColumn<QString>("interval");
+    QTest::newRow("GLL") << "gll.nmea" << "0.00" << "400";
+    QTest::newRow("RMC") << "rmc.nmea" << "0.00" << "400";
+    QTest::newRow("WPL") << "wpl.nmea" << "0.00" << "0";
+    QTest::newRow("GGA") << "gga.nmea" << "12.50" << "400";
+}
+
+void LocationTest::testTrackIsUploaded()
+{
+    QFETCH(QString, sample);
+    QFETCH(QString, altitude);
+    QFETCH(QString, interval);
+    takeCalls();
+    const bool first = !gpsManager()->property("trackLoaded").toBool();
+    open(sample);
+    QStringList calls = takeCalls();
+    const QString record = calls.constLast();
+    // the first row becomes current, which uploads the track if the emulator has none
+    QCOMPARE(calls, (first ? QStringList{record} : QStringList{})
+                        + (QStringList{goTo(0), "stopTrack ", record}));
+    QVERIFY2(
+        record.startsWith("loadTrack array:array:double:60.0500000,30.1800000," + altitude + ",0;"),
+        qPrintable(record));
+    QVERIFY2(record.endsWith(',' + interval), qPrintable(record));
+    if (sample == "gga.nmea")
+        QCOMPARE(record, ggaRecord);
+}
+
+void LocationTest::testPlayback()
+{
+    takeCalls();
+    m_page->clickTrackButton("Play");
+    waitForCall(goTo(2));
+    m_page->clickTrackButton("Pause");
+    const int index = gpsManager()->property("currentPositionIndex").toInt();
+    QStringList calls = takeCalls();
+    QCOMPARE(calls.first(4), (QStringList{"startTrack ", goTo(0), goTo(1), goTo(2)}));
+    QCOMPARE(calls.last(2), (QStringList{"pauseTrack ", goTo(index)}));
+    QVERIFY(!isPlaying());
+
+    m_page->clickTrackButton("Play");
+    m_page->clickTrackButton("Stop");
+    calls = takeCalls();
+    QCOMPARE(calls.constFirst(), "startTrack ");
+    // the first row becomes current while the timer runs, which starts the track for a moment
+    QCOMPARE(calls.last(3), (QStringList{"stopTrack ", goTo(0), "startTrack "}));
+    QVERIFY(!isPlaying());
+}
+
+void LocationTest::testEndAndLoop()
+{
+    m_page->clickTrackButton("Play");
+    waitFor("the end", [&] { return !isPlaying(); });
+    QStringList calls = takeCalls();
+    QCOMPARE(calls, (QStringList{"startTrack ", goTo(0), goTo(1), goTo(2), goTo(3), goTo(4)}));
+    QVERIFY(!window().items("TrackButton").last()->isEnabled());
+
+    window().clickButton("Loop track");
+    window().choose(window().items("QQuickComboBox").constFirst(), "4x");
+    m_page->clickTrackButton("Play");
+    waitForCall(goTo(4));
+    const qsizetype end = m_journal->position();
+    m_journal->waitForCall(goTo(0), end);
+    m_page->clickTrackButton("Stop");
+    calls = takeCalls();
+    QCOMPARE(calls.first(5), (QStringList{"setTrackLooped boolean:1", "setTrackSpeed int32:4",
+                                          "stopTrack ", goTo(0), "startTrack "}));
+    window().clickButton("Loop track");
+    window().choose(window().items("QQuickComboBox").constFirst(), "1x");
+    QCOMPARE(takeCalls(), (QStringList{"setTrackLooped boolean:0", "setTrackSpeed int32:1"}));
+}
+
+void LocationTest::testSteering()
+{
+    // default intervals: the emulator is told the first point ten times a second for two seconds
+    window().clickButton("Use own track speed");
+    m_page->clickTrackButton("Play");
+    waitForCall(goTo(1));
+    QVERIFY(m_journal->callsSince(m_position).count(goTo(0)) >= 10);
+    QCOMPARE(takeCalls(),
+             (QStringList{"setTrackIntervalMode boolean:1", "startTrack ", goTo(0), goTo(1)}));
+
+    m_page->clickRow(3);
+    waitForCall("startTrack ");
+    QStringList calls = takeCalls();
+    QCOMPARE(calls.mid(calls.indexOf(goTo(3)), 2), (QStringList{goTo(3), "startTrack "}));
+
+    window().drag(m_page->progress(), 0.5);
+    calls = takeCalls();
+    QVERIFY2(calls.indexOf(goTo(2)) >= 0 && calls.indexOf("startTrack ") > calls.indexOf(goTo(2)),
+             qPrintable(calls.join('\n')));
+    QVERIFY(isPlaying());
+
+    window().clickButton("Set");
+    calls = takeCalls();
+    QCOMPARE(calls.last(3),
+             (QStringList{"pauseTrack ", goTo(2),
+                          "setPosition double:0.0000000 double:0.0000000 double:0.00"}));
+    window().clickButton("Use own track speed");
+    QCOMPARE(takeCalls(), QStringList{"setTrackIntervalMode boolean:0"});
+}
+
+void LocationTest::testReconnection()
+{
+    QVERIFY(QMetaObject::invokeMethod(gpsManager(), "stopTrack"));
+    QVERIFY(QMetaObject::invokeMethod(invoker(), "webSocketConnected"));
+    takeCalls();
+    m_page->clickRow(2);
+    QCOMPARE(takeCalls(), (QStringList{ggaRecord, goTo(2)}));
+}
+
+void LocationTest::testErrorReply()
+{
+    m_page->clickTrackButton("Play");
+    control("fail pauseTrack org.vexa.Error.Busy not now");
+    m_page->clickTrackButton("Pause");
+    waitFor("the table to be empty", [&] { return rowCount() == 0; });
+    QVERIFY(m_page->shownFile().isEmpty());
+    control("fail pauseTrack");
+    auto *dialog = view()->rootObject()->property("errorDialog").value<QObject *>();
+    QCOMPARE(dialog->property("text").toString(), "org.vexa.Error.Busy not now");
+    QMetaObject::invokeMethod(dialog, "close");
+}
+
+void LocationTest::testLinkLost()
+{
+    open("gga.nmea");
+    m_page->clickTrackButton("Play");
+    const MessageBoxAnswers answers(QMessageBox::Ok);
+    QSignalSpy disconnected(invoker(), SIGNAL(webSocketDisconnected()));
+    control("relay close");
+    waitFor("attempts to reconnect", [&] { return disconnected.size() > 5; });
+    QCOMPARE(answers.boxes().size(), 1);
+    QCOMPARE(rowCount(), 0);
+    QVERIFY(m_page->shownFile().isEmpty());
+    QVERIFY(!gpsManager()->property("trackLoaded").toBool());
+
+    m_position = m_journal->position();
+    control("relay open");
+    waitForCall("setTapSensorValue int32:-1");
+    open("gga.nmea");
+    QVERIFY(!isPlaying());
+    m_page->clickTrackButton("Play");
+    waitForCall(goTo(1));
+    QCOMPARE(answers.boxes().size(), 1);
+    m_page->clickTrackButton("Stop");
+}
+
+void LocationTest::testBadFile_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("message");
+    const QByteArray point = "$GPGLL,4916.45,N,12311.12,W,225444,A*31\n";
+    const QString unknown = "NMEA file has incorrect points format.\n"
+                            "Supported formats: GPRMC, GPGGA, GPGLL, GPWPL.";
+    QTest::newRow("empty") << QByteArray("") << "NMEA file is empty";
+    QTest::newRow("line breaks") << QByteArray("\r\n\n") << "NMEA file has only empty lines";
+    QTest::newRow("unknown") << QByteArray("$GNGGA,1\n\nx\n") << unknown + ", line: 2";
+    QTest::newRow("malformed") << point + "\n\n$GPGLL,x\n" << "Incorrect NMEA file, line: 2";
+    QTest::newRow("binary") << QByteArray("\0\xff\xfe\n\x80$GP\0", 9) << unknown + ", line: 2";
+    QTest::newRow("vanished") << QByteArray() << "NMEA file cannot be read";
+    QTest::newRow("with a name, 100 % #1 \u00e9\u044f") << point << QString();
+}
+
+void LocationTest::testBadFile()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, message);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QString::fromUtf8(QTest::currentDataTag()) + ".nmea");
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+    file.close();
+    m_page->openTrack(path, content.isNull());
+    auto *dialog = view()->rootObject()->property("errorDialog").value<QObject *>();
+    if (message.isEmpty()) {
+        waitFor("the track", [&] { return rowCount() == 1; });
+        QCOMPARE(window()
+                     .items("QQuickLabel", m_page->progress()->parentItem())
+                     .constLast()
+                     ->property("text")
+                     .toString(),
+                 "100.00%");
+        return;
+    }
+    waitFor("the message", [&] { return dialog->property("visible").toBool(); });
+    QCOMPARE(dialog->property("text").toString(), message);
+    QMetaObject::invokeMethod(dialog, "close");
+    QCOMPARE(rowCount(), 0);
+    QVERIFY(!m_page->shownFile().isEmpty());
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <journal.h>
+
+#include <QObject>
+
+#include <memory>
+
+class GpsPageDriver;
+
+/// What the emulator hears of positions and tracks that are set and played on the GPS page.
+class LocationTest : public QObject
+{
+    Q_OBJECT
+
+public:
+    LocationTest();
+    ~LocationTest() override;
+
+private Q_SLOTS:
+    void initTestCase();
+    void testTrackIsUploaded_data();
+    void testTrackIsUploaded();
+    void testPlayback();
+    void testEndAndLoop();
+    void testSteering();
+    void testReconnection();
+    void testErrorReply();
+    void testLinkLost();
+    void testBadFile_data();
+    void testBadFile();
+    void cleanupTestCase();
+
+private:
+    /// The calls so far, each once where it comes several times in a row, and forgets them.
+    QStringList takeCalls();
+    void waitForCall(const QString &call);
+    void open(const QString &sample);
+    [[nodiscard]] bool isPlaying() const;
+    [[nodiscard]] int rowCount() const;
+
+    std::unique_ptr<Journal> m_journal;
+    std::unique_ptr<GpsPageDriver> m_page;
+    qsizetype m_position = 0;
+};
