@@ -98,6 +98,10 @@ function groupsOf(sentence, line) {
     return sentence.accepts(fields) ? [line, ...sentence.fields.map(index => fields[index])] : null;
 }
 
+function isWellFormed(sentence, line) {
+    return sentence.usual.test(line) || sentence.accepts(line.split(","));
+}
+
 // What loadNmeaLog() throws. Lines count from 1 and empty ones not at all; 0 stands for no line.
 function syntaxError(message, incorrectLine) {
     return Object.assign(new SyntaxError(message), {incorrectLine});
@@ -210,9 +214,10 @@ function loadNmeaLog(text) {
     while ((match = knownLine.exec(text))) {
         const tag = match[2];
         const sentence = sentences[tag];
-        const groups = groupsOf(sentence, match[1]);
-        if (groups && format && tag !== format)
+        // the first sentence decides what the track is made of
+        if (format && tag !== format && isWellFormed(sentence, match[1]))
             continue;
+        const groups = groupsOf(sentence, match[1]);
         const point = groups && sentence.point(groups);
         const time = groups && sentence.time(groups, previousTime);
         // in a line that is not usual, anything may stand in the place of a value

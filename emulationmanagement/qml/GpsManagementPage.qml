@@ -1,5 +1,3 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Dialogs
@@ -215,60 +213,17 @@ EmulationPage {
         onAccepted: root.openFile(selectedFile)
     }
 
-    component PositionValue: RowLayout {
-        property alias label: label.text
-        property alias value: value.text
-
-        spacing: 6
-
-        Label {
-            id: label
-        }
-
-        Label {
-            id: value
-
-            Accessible.name: label.text
-            Layout.fillWidth: true
-            elide: Text.ElideRight
-        }
-    }
-
     ColumnLayout {
         anchors.fill: parent
         anchors.margins: 12
         spacing: 8
 
-        GroupBox {
+        CurrentPosition {
             Layout.fillWidth: true
-            title: qsTr("Current Position")
-
-            RowLayout {
-                anchors.fill: parent
-                spacing: 12
-                uniformCellSizes: true
-
-                PositionValue {
-                    Layout.fillWidth: true
-                    label: qsTr("Latitude")
-                    value: root.gpsManager.currentPosition.latitude.toLocaleString(
-                        root.locale, "f", root.latLongRoundingSize)
-                }
-
-                PositionValue {
-                    Layout.fillWidth: true
-                    label: qsTr("Longitude")
-                    value: root.gpsManager.currentPosition.longitude.toLocaleString(
-                        root.locale, "f", root.latLongRoundingSize)
-                }
-
-                PositionValue {
-                    Layout.fillWidth: true
-                    label: qsTr("Altitude")
-                    value: root.gpsManager.currentPosition.altitude.toLocaleString(
-                        root.locale, "f", root.altRoundingSize)
-                }
-            }
+            altitudeDecimals: root.altRoundingSize
+            coordinateDecimals: root.latLongRoundingSize
+            numberLocale: root.locale
+            position: root.gpsManager.currentPosition
         }
 
         GroupBox {
@@ -382,91 +337,22 @@ EmulationPage {
                     }
                 }
 
-                Flow {
+                TrackControls {
                     Layout.fillWidth: true
                     enabled: trackTable.rowCount > 0
-                    spacing: 6
+                    gpsManager: root.gpsManager
+                    onlyDefaultInterval: root.onlyDefaultInterval
+                    playing: trackTimer.running
+                    stopped: root.trackStopped
 
-                    TrackButton {
-                        enabled: !trackTimer.running
-                        icon.source: "qrc:/emulationmanagement/play.png"
-                        name: qsTr("Play")
-
-                        onClicked: {
-                            root.trackStopped = false;
-                            root.startTrack();
-                        }
+                    onPauseClicked: root.pauseTrack()
+                    onPlayClicked: {
+                        root.trackStopped = false;
+                        root.startTrack();
                     }
-
-                    TrackButton {
-                        enabled: trackTimer.running
-                        icon.source: "qrc:/emulationmanagement/pause.png"
-                        name: qsTr("Pause")
-
-                        onClicked: root.pauseTrack()
-                    }
-
-                    TrackButton {
-                        enabled: !root.trackStopped
-                        icon.source: "qrc:/emulationmanagement/stop.png"
-                        name: qsTr("Stop")
-
-                        onClicked: {
-                            root.trackStopped = true;
-                            root.stopTrack();
-                        }
-                    }
-
-                    ComboBox {
-                        id: speedBox
-
-                        Accessible.name: qsTr("Speed")
-                        implicitWidth: 80
-                        textRole: "key"
-                        valueRole: "value"
-                        model: ListModel {
-                            ListElement {
-                                key: "1x"
-                                value: 1
-                            }
-                            ListElement {
-                                key: "2x"
-                                value: 2
-                            }
-                            ListElement {
-                                key: "3x"
-                                value: 3
-                            }
-                            ListElement {
-                                key: "4x"
-                                value: 4
-                            }
-                            ListElement {
-                                key: "5x"
-                                value: 5
-                            }
-                        }
-
-                        onActivated: root.gpsManager.setTrackSpeed(currentValue)
-
-                        Binding on currentIndex {
-                            value: root.gpsManager.trackSpeed - 1
-                        }
-                    }
-
-                    CheckBox {
-                        checked: !root.gpsManager.useDefaultInterval
-                        enabled: !root.onlyDefaultInterval
-                        text: qsTr("Use own track speed")
-
-                        onClicked: root.gpsManager.setTrackIntervalMode(!checked)
-                    }
-
-                    CheckBox {
-                        checked: root.gpsManager.trackLooped
-                        text: qsTr("Loop track")
-
-                        onClicked: root.gpsManager.setTrackLooped(checked)
+                    onStopClicked: {
+                        root.trackStopped = true;
+                        root.stopTrack();
                     }
                 }
 
