@@ -1,6 +1,7 @@
 #include "benchmarkplugin.h"
 
 #include "callbenchmark.h"
+#include "locationbenchmark.h"
 #include "restartbenchmark.h"
 #include "sliderbenchmark.h"
 #include "viewbenchmark.h"
@@ -10,6 +11,7 @@ bool BenchmarkPlugin::initialize(const QStringList &arguments, QString *errorStr
     Q_UNUSED(arguments)
     Q_UNUSED(errorString)
     addTest<CallBenchmark>();
+    addTest<LocationBenchmark>();
     addTest<RestartBenchmark>();
     addTest<SliderBenchmark>();
     addTest<ViewBenchmark>();

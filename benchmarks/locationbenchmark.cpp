@@ -1,0 +1,269 @@
+#include "locationbenchmark.h"
+
+#include "ratio.h"
+
+#include <plugindriver.h>
+#include <waiting.h>
+
+#include <QDeadlineTimer>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QTest>
+#include <QTime>
+#include <QTimer>
+#include <QUrl>
+
+#include <memory>
+
+using namespace PluginDriver;
+using namespace std::chrono_literals;
+
+static constexpr int sentenceCount = 100'000;
+static constexpr double frame = 16; // milliseconds
+
+static QByteArray sentence(const QString &body)
+{
+    char sum = 0;
+    const QByteArray text = body.toLatin1();
+    for (const char character : text)
+        sum = static_cast<char>(sum ^ character);
+    return '$' + text + '*' + QByteArray::number(sum, 16).toUpper().rightJustified(2, '0') + "\r\n";
+}
+
+/// Kilobytes: "VmHWM" is the most memory that the process had so far, "VmRSS" what it has.
+static double memory(const QByteArray &key)
+{
+    QFile file("/proc/self/status");
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    const QByteArrayList lines = file.readAll().split('\n');
+    for (const QByteArray &line : lines) {
+        if (line.startsWith(key))
+            return line.simplified().split(' ').at(1).toDouble();
+    }
+    return 0;
+}
+
+static QQuickItem *gpsPage()
+{
+    const QList<QQuickItem *> items = view()->rootObject()->findChildren<QQuickItem *>();
+    for (QQuickItem *item : items) {
+        if (QByteArrayView(item->metaObject()->className()).startsWith("GpsManagementPage"))
+            return item;
+    }
+    qFatal("There is no GPS page");
+}
+
+static int lastRow()
+{
+    return gpsPage()->property("lastRow").toInt();
+}
+
+/// Milliseconds from the file dialog's end to the table's first picture.
+static double showTrack(const QString &log)
+{
+    QElapsedTimer timer;
+    timer.start();
+    QMetaObject::invokeMethod(gpsPage(), "openFile", Q_ARG(QUrl, QUrl::fromLocalFile(log)));
+    waitFor("the table", [] { return lastRow() > 0; }, 2min);
+    QObject context;
+    bool shown = false;
+    QObject::connect(view(), &QQuickWindow::frameSwapped, &context, [&] { shown = true; });
+    view()->update();
+    waitFor("the picture", [&] { return shown; });
+    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+}
+
+QString LocationBenchmark::writeLog(const QString &name, int sentences, bool pointsOnly)
+{
+    QFile file(m_folder.filePath(name));
+    if (!file.open(QIODevice::WriteOnly))
+        qFatal("The log cannot be written");
+    for (int epoch = 0, written = 0; written < sentences; ++epoch) {
+        const QString time = QTime(0, 0).addSecs(epoch).toString("hhmmss") + ".00";
+        const QString position = QStringLiteral("60%1,N,030%2,E")
+                                     .arg(epoch * 0.0001, 8, 'f', 5, u'0')
+                                     .arg(epoch * 0.0002, 8, 'f', 5, u'0');
+        file.write(sentence("GPGGA," + time + ',' + position + ",1,08,0.94,12.5,M,17.0,M,,"));
+        ++written;
+        if (pointsOnly)
+            continue;
+        file.write(sentence("GPGLL," + position + ',' + time + ",A"));
+        file.write(sentence("GPGSA,A,3,04,05,,09,12,,,24,,,,,2.5,1.3,2.1"));
+        for (int part = 1; part <= 3; ++part)
+            file.write(sentence(QStringLiteral("GPGSV,3,%1,11,03,03,111,00,04,15,270,00,06,01,010,"
+                                               "00,13,06,292,00")
+                                    .arg(part)));
+        file.write(sentence("GPRMC," + time + ",A," + position + ",022.4,084.4,230326,003.1,W"));
+        file.write(sentence("GPVTG,054.7,T,034.4,M,005.5,N,010.2,K"));
+        written += 7;
+    }
+    return file.fileName();
+}
+
+double LocationBenchmark::parse(const QString &log)
+{
+    QFile file(log);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("The log cannot be read");
+    const QVariant text = QString::fromLatin1(file.readAll());
+    QQmlComponent component(view()->engine());
+    component.setData("import QtQml\n"
+                      "import 'qrc:/emulationmanagement/js/nmea-parsing.js' as Nmea\n"
+                      "QtObject { function parse(text) { return Nmea.loadNmeaLog(text).length } }",
+                      {});
+    const std::unique_ptr<QObject> parser(component.create());
+    QVariant points;
+    const double time = millisecondsOf([&] {
+        QMetaObject::invokeMethod(parser.get(), "parse", Q_RETURN_ARG(QVariant, points),
+                                  Q_ARG(QVariant, text));
+    });
+    if (points.toInt() == 0)
+        qFatal("The log was not parsed");
+    view()->engine()->collectGarbage();
+    return time;
+}
+
+void LocationBenchmark::initTestCase()
+{
+    m_receiversLog = writeLog("receiver.nmea", sentenceCount, false);
+    m_longLog = writeLog("long.nmea", 10 * sentenceCount, false);
+    m_pointsLog = writeLog("points.nmea", sentenceCount, true);
+    view()->show();
+    gpsPage()->setProperty("active", true);
+    QVERIFY(QTest::qWaitForWindowExposed(view()));
+}
+
+void LocationBenchmark::testTable()
+{
+    for (const QString &log : {m_receiversLog, m_pointsLog}) {
+        const bool limited = log == m_receiversLog;
+        const QString what
+            = limited ? QStringLiteral("a receiver's log") : QStringLiteral("a log of points only");
+        const double before = memory("VmRSS");
+        const double shown = showTrack(log);
+        const double size = static_cast<double>(QFileInfo(log).size()) / 1024;
+        report({.what = "memory that reading and showing " + what + " takes at most",
+                .measured = (memory("VmHWM") - before) / 1024,
+                .baseline = size / 1024,
+                .unit = "MB",
+                .limit = limited ? std::optional(12.0) : std::nullopt});
+        QMetaObject::invokeMethod(gpsPage(), "clearTrack");
+        view()->engine()->collectGarbage();
+        report({.what = "reading and showing " + what + " against parsing it",
+                .measured = shown,
+                .baseline = quantile({parse(log), parse(log), parse(log)}, 0.5),
+                .unit = "ms",
+                .limit = limited ? std::optional(2.0) : std::nullopt});
+    }
+}
+
+void LocationBenchmark::testParsing()
+{
+    const double time = quantile({parse(m_receiversLog), parse(m_receiversLog)}, 0.5);
+    report({.what = "parsing 1,000,000 sentences against 100,000",
+            .measured = parse(m_longLog),
+            .baseline = time,
+            .unit = "ms",
+            .limit = 11});
+    for (const QString &log : {m_receiversLog, m_pointsLog}) {
+        QProcess node;
+        node.start("node", {NODE_PARSER, PARSER, log});
+        QVERIFY(node.waitForFinished());
+        QCOMPARE(node.exitCode(), 0);
+        report({.what = log == m_receiversLog
+                            ? QStringLiteral("parsing a receiver's log against Node.js")
+                            : QStringLiteral("parsing a log of points only against Node.js"),
+                .measured = log == m_receiversLog ? time : parse(log),
+                .baseline = node.readAllStandardOutput().toDouble(),
+                .unit = "ms",
+                .limit = log == m_receiversLog ? std::optional(3.0) : std::nullopt});
+    }
+}
+
+void LocationBenchmark::testUpload()
+{
+    QVariantList track;
+    QList<QList<double>> points;
+    for (int i = 0; i < sentenceCount; ++i) {
+        points << QList<double>{60 + i * 1e-5, 30 + i * 2e-5, 12.5 + i % 100, 1000};
+        track << QVariantMap{{"latitude", QString::number(points.last().at(0), 'f', 7)},
+                             {"longitude", QString::number(points.last().at(1), 'f', 7)},
+                             {"altitude", QString::number(points.last().at(2), 'f', 2)},
+                             {"interval", points.last().at(3)}};
+    }
+    std::vector<double> times;
+    std::vector<double> loops;
+    for (int round = 0; round < 5; ++round) {
+        // nothing is connected, so that the text goes nowhere
+        times.push_back(millisecondsOf([&] {
+            QMetaObject::invokeMethod(gpsManager(), "loadTrack", Q_ARG(QVariantList, track));
+        }));
+        QString text;
+        loops.push_back(millisecondsOf([&] {
+            for (const QList<double> &point : std::as_const(points)) {
+                text += QString::number(point.at(0), 'f', 7) + ','
+                        + QString::number(point.at(1), 'f', 7) + ','
+                        + QString::number(point.at(2), 'f', 2) + ',' + QString::number(point.at(3))
+                        + ';';
+            }
+        }));
+        QVERIFY(!text.isEmpty());
+    }
+    report({.what = "text of a track of 100,000 points against a plain loop",
+            .measured = quantile(times, 0.5),
+            .baseline = quantile(loops, 0.5),
+            .unit = "ms",
+            .limit = 2});
+}
+
+void LocationBenchmark::testPlayback()
+{
+    static constexpr int steps = 1000;
+    static constexpr auto interval = 100ms;
+    QFile file(m_folder.filePath("steps.nmea"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    for (int i = 0; i <= steps; ++i) {
+        file.write(sentence("GPGLL,6000.00000,N,03000.00000,E,"
+                            + QTime(0, 0).addMSecs(i * interval.count()).toString("hhmmss.zzz")
+                            + ",A"));
+    }
+    file.close();
+    static_cast<void>(showTrack(file.fileName()));
+
+    // one single-shot timer after the other, each as late as a timer of the page may be
+    int bareSteps = 0;
+    double bareTime = 0;
+    QElapsedTimer clock;
+    QTimer bare;
+    bare.setSingleShot(true);
+    connect(&bare, &QTimer::timeout, this, [&] {
+        bareTime = static_cast<double>(clock.nsecsElapsed()) / 1e6;
+        if (++bareSteps < steps)
+            bare.start(interval);
+    });
+    clock.start();
+    bare.start(interval);
+    QMetaObject::invokeMethod(gpsPage(), "startTrack");
+    waitFor(
+        "the end of the track",
+        [] { return gpsManager()->property("currentPositionIndex").toInt() == steps; }, 3min);
+    const double time = static_cast<double>(clock.nsecsElapsed()) / 1e6;
+    waitFor("the bare timers", [&] { return bareSteps == steps; });
+
+    static constexpr double due = steps * static_cast<double>(interval.count());
+    report({.what = "how late a step of a track comes on average, against one frame",
+            .measured = (time - due) / steps,
+            .baseline = frame,
+            .unit = "ms",
+            .limit = 1});
+    report({.what = "1,000 steps of 100 ms against as many bare single-shot timers",
+            .measured = time,
+            .baseline = bareTime,
+            .unit = "ms"});
+}
