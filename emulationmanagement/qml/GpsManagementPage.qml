@@ -213,157 +213,164 @@ EmulationPage {
         onAccepted: root.openFile(selectedFile)
     }
 
-    ColumnLayout {
+    PageScrollView {
+        id: scrollView
+
         anchors.fill: parent
         anchors.margins: 12
-        spacing: 8
 
-        CurrentPosition {
-            Layout.fillWidth: true
-            altitudeDecimals: root.altRoundingSize
-            coordinateDecimals: root.latLongRoundingSize
-            numberLocale: root.locale
-            position: root.gpsManager.currentPosition
-        }
+        ColumnLayout {
+            width: Math.max(scrollView.availableWidth, implicitWidth)
+            height: Math.max(scrollView.availableHeight, implicitHeight)
+            spacing: 8
 
-        GroupBox {
-            Layout.fillWidth: true
-            title: qsTr("Coordinate")
-
-            RowLayout {
-                anchors.fill: parent
-                spacing: 12
-
-                CoordinateField {
-                    id: latitudeField
-
-                    decimals: root.latLongRoundingSize
-                    label: qsTr("Latitude")
-                    locale: root.locale
-                    maxValue: root.latitudeMaxValue
-                    minValue: root.latitudeMinValue
-
-                    onSubmitted: value => root.gpsManager.setLatitude(value)
-                }
-
-                CoordinateField {
-                    id: longitudeField
-
-                    decimals: root.latLongRoundingSize
-                    label: qsTr("Longitude")
-                    locale: root.locale
-                    maxValue: root.longitudeMaxValue
-                    minValue: root.longitudeMinValue
-
-                    onSubmitted: value => root.gpsManager.setLongitude(value)
-                }
-
-                CoordinateField {
-                    id: altitudeField
-
-                    decimals: root.altRoundingSize
-                    label: qsTr("Altitude")
-                    locale: root.locale
-                    maxValue: root.altitudeMaxValue
-                    minValue: root.altitudeMinValue
-
-                    onSubmitted: value => root.gpsManager.setAltitude(value)
-                }
-
-                Button {
-                    text: qsTr("Set")
-
-                    onClicked: {
-                        if (trackTimer.running)
-                            root.pauseTrack();
-                        root.gpsManager.setPosition(latitudeField.value(), longitudeField.value(),
-                                                    altitudeField.value());
-                    }
-                }
+            CurrentPosition {
+                Layout.fillWidth: true
+                altitudeDecimals: root.altRoundingSize
+                coordinateDecimals: root.latLongRoundingSize
+                numberLocale: root.locale
+                position: root.gpsManager.currentPosition
             }
-        }
 
-        GroupBox {
-            Layout.fillHeight: true
-            Layout.fillWidth: true
-            title: qsTr("Track")
-
-            ColumnLayout {
-                anchors.fill: parent
-                spacing: 6
+            GroupBox {
+                Layout.fillWidth: true
+                title: qsTr("Coordinate")
 
                 RowLayout {
-                    spacing: 6
+                    anchors.fill: parent
+                    spacing: 12
 
-                    Label {
-                        text: qsTr("Track file")
+                    CoordinateField {
+                        id: latitudeField
+
+                        decimals: root.latLongRoundingSize
+                        label: qsTr("Latitude")
+                        locale: root.locale
+                        maxValue: root.latitudeMaxValue
+                        minValue: root.latitudeMinValue
+
+                        onSubmitted: value => root.gpsManager.setLatitude(value)
                     }
 
-                    TextField {
-                        Accessible.name: qsTr("Track file")
-                        Layout.fillWidth: true
-                        readOnly: true
-                        selectByMouse: true
-                        text: root.nmeaFileUrl
+                    CoordinateField {
+                        id: longitudeField
+
+                        decimals: root.latLongRoundingSize
+                        label: qsTr("Longitude")
+                        locale: root.locale
+                        maxValue: root.longitudeMaxValue
+                        minValue: root.longitudeMinValue
+
+                        onSubmitted: value => root.gpsManager.setLongitude(value)
+                    }
+
+                    CoordinateField {
+                        id: altitudeField
+
+                        decimals: root.altRoundingSize
+                        label: qsTr("Altitude")
+                        locale: root.locale
+                        maxValue: root.altitudeMaxValue
+                        minValue: root.altitudeMinValue
+
+                        onSubmitted: value => root.gpsManager.setAltitude(value)
                     }
 
                     Button {
-                        Accessible.name: qsTr("Open NMEA File")
-                        implicitWidth: 40
-                        text: "…"
+                        text: qsTr("Set")
 
-                        onClicked: fileDialog.open()
-                    }
-                }
-
-                TrackProgress {
-                    Layout.fillWidth: true
-                    currentIndex: root.gpsManager.currentPositionIndex
-                    enabled: trackTable.rowCount > 0
-                    locale: root.locale
-                    rowCount: trackTable.rowCount
-
-                    onMoved: index => {
-                        root.selectRow(index);
-                        root.gpsManager.goToPositionOnTrack(index);
-                    }
-                    onPressedChanged: {
-                        if (pressed) {
-                            root.playingWhenPressed = trackTimer.running;
-                            trackTimer.stop();
-                        } else if (root.playingWhenPressed) {
-                            root.startTrack();
+                        onClicked: {
+                            if (trackTimer.running)
+                                root.pauseTrack();
+                            root.gpsManager.setPosition(latitudeField.value(), longitudeField.value(),
+                                                        altitudeField.value());
                         }
                     }
                 }
+            }
 
-                TrackControls {
-                    Layout.fillWidth: true
-                    enabled: trackTable.rowCount > 0
-                    gpsManager: root.gpsManager
-                    onlyDefaultInterval: root.onlyDefaultInterval
-                    playing: trackTimer.running
-                    stopped: root.trackStopped
+            GroupBox {
+                Layout.fillHeight: true
+                Layout.fillWidth: true
+                title: qsTr("Track")
 
-                    onPauseClicked: root.pauseTrack()
-                    onPlayClicked: {
-                        root.trackStopped = false;
-                        root.startTrack();
+                ColumnLayout {
+                    anchors.fill: parent
+                    spacing: 6
+
+                    RowLayout {
+                        spacing: 6
+
+                        Label {
+                            text: qsTr("Track file")
+                        }
+
+                        TextField {
+                            Accessible.name: qsTr("Track file")
+                            Layout.fillWidth: true
+                            readOnly: true
+                            selectByMouse: true
+                            text: root.nmeaFileUrl
+                        }
+
+                        Button {
+                            Accessible.name: qsTr("Open NMEA File")
+                            implicitWidth: 40
+                            text: "…"
+
+                            onClicked: fileDialog.open()
+                        }
                     }
-                    onStopClicked: {
-                        root.trackStopped = true;
-                        root.stopTrack();
+
+                    TrackProgress {
+                        Layout.fillWidth: true
+                        currentIndex: root.gpsManager.currentPositionIndex
+                        enabled: trackTable.rowCount > 0
+                        locale: root.locale
+                        rowCount: trackTable.rowCount
+
+                        onMoved: index => {
+                            root.selectRow(index);
+                            root.gpsManager.goToPositionOnTrack(index);
+                        }
+                        onPressedChanged: {
+                            if (pressed) {
+                                root.playingWhenPressed = trackTimer.running;
+                                trackTimer.stop();
+                            } else if (root.playingWhenPressed) {
+                                root.startTrack();
+                            }
+                        }
                     }
-                }
 
-                TrackTable {
-                    id: trackTable
+                    TrackControls {
+                        Layout.fillWidth: true
+                        enabled: trackTable.rowCount > 0
+                        gpsManager: root.gpsManager
+                        onlyDefaultInterval: root.onlyDefaultInterval
+                        playing: trackTimer.running
+                        stopped: root.trackStopped
 
-                    Layout.fillHeight: true
-                    Layout.fillWidth: true
-                    Layout.minimumHeight: 60
+                        onPauseClicked: root.pauseTrack()
+                        onPlayClicked: {
+                            root.trackStopped = false;
+                            root.startTrack();
+                        }
+                        onStopClicked: {
+                            root.trackStopped = true;
+                            root.stopTrack();
+                        }
+                    }
 
-                    onCurrentRowChanged: root.goToRow(currentRow)
+                    TrackTable {
+                        id: trackTable
+
+                        Layout.fillHeight: true
+                        Layout.fillWidth: true
+                        Layout.minimumHeight: 60
+
+                        onCurrentRowChanged: root.goToRow(currentRow)
+                    }
                 }
             }
         }
