@@ -1,17 +1,118 @@
 #include "cameraemulationmanager.h"
 
-const QString CameraEmulationManager::portForwardingRule = QStringLiteral("emulationmanagementudp");
+#include <gst/gst.h>
+
+using namespace Qt::StringLiterals;
+
+const QString CameraEmulationManager::portForwardingRule = u"emulationmanagementudp"_s;
+
+CameraEmulationManager::CameraEmulationManager(QObject *parent)
+    : QObject(parent)
+{
+    gst_init(nullptr, nullptr);
+    startDeviceMonitor();
+    constructVideoStreamPipeline();
+    initCameraStreamElements();
+    connect(this, &CameraEmulationManager::videoStreamStopped, this,
+            &CameraEmulationManager::restartVideoStream);
+    m_restartTimer.setSingleShot(true);
+    connect(&m_restartTimer, &QTimer::timeout, this, &CameraEmulationManager::restartVideoStream);
+}
+
+CameraEmulationManager::~CameraEmulationManager()
+{
+    gst_element_set_state(m_videoPipeline.get(), GST_STATE_NULL);
+    releaseCameraPipeline();
+    stopDeviceMonitor();
+}
 
 bool CameraEmulationManager::streamRunning() const
 {
-    return false;
+    return m_streamRunning;
 }
 
-void CameraEmulationManager::setupCameraStreamPipeline()
-{}
+void CameraEmulationManager::setStreamRunning(bool running)
+{
+    m_streamRunning = running;
+    Q_EMIT streamRunningChanged();
+}
 
-void CameraEmulationManager::stopVideoStream()
-{}
+QStringList CameraEmulationManager::cameras() const
+{
+    return m_cameras.keys();
+}
 
-void CameraEmulationManager::stopCameraStream()
-{}
+QVariantList CameraEmulationManager::resolutions() const
+{
+    return m_cameras.value(m_cameraName).resolutions;
+}
+
+QStringList CameraEmulationManager::framerates() const
+{
+    const QVariantMap resolution = resolutions().value(m_resolutionIndex).toMap();
+    return resolution.value(u"framerates"_s).toStringList();
+}
+
+QString CameraEmulationManager::framerate() const
+{
+    return m_framerate;
+}
+
+void CameraEmulationManager::setFramerate(const QString &framerate)
+{
+    m_framerate = framerate.contains(u'/') ? framerate : QString();
+    Q_EMIT framerateChanged();
+}
+
+int CameraEmulationManager::width() const
+{
+    return m_width;
+}
+
+void CameraEmulationManager::setWidth(int width)
+{
+    m_width = width;
+    Q_EMIT widthChanged();
+}
+
+int CameraEmulationManager::height() const
+{
+    return m_height;
+}
+
+void CameraEmulationManager::setHeight(int height)
+{
+    m_height = height;
+    Q_EMIT heightChanged();
+}
+
+int CameraEmulationManager::resolutionIndex() const
+{
+    return m_resolutionIndex;
+}
+
+void CameraEmulationManager::setResolutionIndex(int index)
+{
+    m_resolutionIndex = index;
+    const QVariantMap resolution = resolutions().value(index).toMap();
+    setWidth(resolution.value(u"width"_s, m_width).toInt());
+    setHeight(resolution.value(u"height"_s, m_height).toInt());
+    const QStringList rates = framerates();
+    setFramerate(rates.isEmpty() || rates.contains(m_framerate) ? m_framerate : rates.constFirst());
+    Q_EMIT resolutionIndexChanged();
+    Q_EMIT frameratesChanged();
+}
+
+QString CameraEmulationManager::cameraName() const
+{
+    return m_cameraName;
+}
+
+void CameraEmulationManager::setCameraName(const QString &name)
+{
+    m_cameraName = name;
+    setResolutionIndex(0);
+    Q_EMIT cameraNameChanged();
+    Q_EMIT resolutionsChanged();
+    Q_EMIT frameratesChanged();
+}

@@ -1,34 +1,176 @@
 #pragma once
 
+#include "cameracapabilities.h"
+#include "gstreferences.h"
+
+#include <QElapsedTimer>
+#include <QMap>
 #include <QObject>
 #include <QString>
+#include <QStringList>
+#include <QTimer>
+#include <QVariantList>
 
 /*!
- * Feeds the emulator's camera with pictures as RTP/JPEG over UDP (RFC 2435).
+ * Feeds the emulator's camera with pictures of a host camera or of a video file, as RTP/JPEG over
+ * UDP (RFC 2435).
  *
- * No source of pictures exists yet, so that no stream ever runs.
+ * Follows the cameras that are plugged in and out, and keeps what the user selects of them. A
+ * selection reaches the stream only with setCameraStreamSettings(). Setters notify also when
+ * nothing changed. Failures within GStreamer are not reported: the stream then sends nothing.
+ *
+ * The main loop must dispatch GLib's default context, as Qt's does on Linux, for changes of the
+ * cameras to be noticed.
  */
 class CameraEmulationManager : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(bool streamRunning READ streamRunning NOTIFY streamRunningChanged)
+    Q_PROPERTY(QStringList framerates READ framerates NOTIFY frameratesChanged)
+    Q_PROPERTY(QVariantList resolutions READ resolutions NOTIFY resolutionsChanged)
+    Q_PROPERTY(QStringList cameras READ cameras NOTIFY camerasChanged)
+    Q_PROPERTY(QString framerate READ framerate WRITE setFramerate NOTIFY framerateChanged)
+    Q_PROPERTY(int width READ width WRITE setWidth NOTIFY widthChanged)
+    Q_PROPERTY(int height READ height WRITE setHeight NOTIFY heightChanged)
+    Q_PROPERTY(int resolutionIndex READ resolutionIndex WRITE setResolutionIndex
+                   NOTIFY resolutionIndexChanged)
+    Q_PROPERTY(QString cameraName READ cameraName WRITE setCameraName NOTIFY cameraNameChanged)
 
 public:
     /// Both ends of the forwarded UDP port.
-    static constexpr unsigned short udpPort = 34343;
+    static constexpr int udpPort = 34343;
+    static constexpr char localhost[] = "127.0.0.1";
     /// Name of the SDK's port forwarding rule for it.
     static const QString portForwardingRule;
 
-    using QObject::QObject;
+    explicit CameraEmulationManager(QObject *parent = nullptr);
+    ~CameraEmulationManager() override;
 
+    /// True from a start of either stream, successful or not, until a stop.
     [[nodiscard]] bool streamRunning() const;
 
-    /// Called whenever the window is about to be shown with the emulator at hand.
+    /// Names of the host's cameras in ascending order; those of one name share an entry.
+    [[nodiscard]] QStringList cameras() const;
+    /// Frame sizes of the selected camera, see availableResolutions().
+    [[nodiscard]] QVariantList resolutions() const;
+    /// Frame rates of the selected camera at the selected size, largest first.
+    [[nodiscard]] QStringList framerates() const;
+
+    /// Numerator and denominator, "30/1"; empty when the camera may choose.
+    [[nodiscard]] QString framerate() const;
+    /// A text without "/" selects no frame rate.
+    void setFramerate(const QString &framerate);
+
+    /// In pixels; negative when the camera may choose.
+    [[nodiscard]] int width() const;
+    void setWidth(int width);
+    [[nodiscard]] int height() const;
+    void setHeight(int height);
+
+    [[nodiscard]] int resolutionIndex() const;
+    /*!
+     * Selects an entry of resolutions() with its width and height, and its largest frame rate
+     * unless it has the selected one. A size or rate that there is not leaves what was selected.
+     */
+    void setResolutionIndex(int index);
+
+    [[nodiscard]] QString cameraName() const;
+    /// Selects a camera and the first of its sizes.
+    void setCameraName(const QString &name);
+
+    /// Called whenever the window is about to be shown with the emulator at hand. Lists the cameras
+    /// and selects the first.
     void setupCameraStreamPipeline();
 
-    Q_INVOKABLE void stopVideoStream();
+    /// Looks for cameras afresh and selects the first. Stops a stream of a camera; one of a video
+    /// file goes on although streamRunning() becomes false.
+    Q_INVOKABLE void updateCamerasList();
+
+    Q_INVOKABLE void startCameraStream();
     Q_INVOKABLE void stopCameraStream();
+    /*!
+     * Ends any stream, then plays a local file over and over if it holds VP8 or VP9, which takes up
+     * to two seconds to find out. No path only ends the streams, and streamRunning() stays.
+     */
+    Q_INVOKABLE void startVideoStream(const QString &filePath);
+    Q_INVOKABLE void stopVideoStream();
+    /// Takes over the selected camera, size and rate. A running stream, also one of a video file,
+    /// becomes one of the camera.
+    Q_INVOKABLE void setCameraStreamSettings();
+
+public Q_SLOTS:
+    /// Plays the video file from its start, unless it was stopped. A file that came to its end at
+    /// once, for it has no pictures, waits a little.
+    void restartVideoStream();
 
 Q_SIGNALS:
     void streamRunningChanged();
+    void frameratesChanged();
+    void resolutionsChanged();
+    void camerasChanged();
+    void framerateChanged();
+    void widthChanged();
+    void heightChanged();
+    void resolutionIndexChanged();
+    void cameraNameChanged();
+    /// The video file came to its end. Emitted on a thread of GStreamer's.
+    void videoStreamStopped();
+    void cameraStreamSettingsApplied();
+    /// The verdict on a file that is to be played. The name is empty if the file tells none.
+    void videoFileCodecChecked(bool success, const QString &codecName);
+
+private:
+    struct Camera
+    {
+        QVariantList resolutions;
+        SourceProperty source;
+    };
+
+    struct CameraElements
+    {
+        ObjectReference<GstElement> source; // none as long as no camera was found
+        ObjectReference<GstElement> capsFilter;
+        ObjectReference<GstElement> jpegEncoder;
+        ObjectReference<GstElement> rtpPayloader;
+        ObjectReference<GstElement> udpSink;
+    };
+
+    void setStreamRunning(bool running);
+    void selectFirstCamera();
+
+    // cameradiscovery.cpp
+    void startDeviceMonitor();
+    void stopDeviceMonitor();
+    void initCameraGstPluginName();
+    void initCameraStreamAvailableSettings();
+    void addCameraSettings(GstDevice *device);
+    void removeCameraSettings(const QString &name);
+    static int onDeviceListChanged(GstBus *bus, GstMessage *message, void *manager);
+
+    // pipelines.cpp
+    void constructVideoStreamPipeline();
+    void initCameraStreamElements();
+    void setUpCameraPipelineElementsProperties();
+    void linkCameraStreamElements();
+    void releaseCameraPipeline();
+    void playVideo();
+
+    // codeccheck.cpp
+    bool checkVideoFileForCodec(const QString &path);
+
+    ObjectReference<GstDeviceMonitor> m_deviceMonitor;
+    QMap<QString, Camera> m_cameras;
+    QString m_framerate;
+    int m_width = -1;
+    int m_height = -1;
+    int m_resolutionIndex = 0;
+    QString m_cameraName;
+    QString m_sourcePluginName;
+    ObjectReference<GstElement> m_videoPipeline;
+    ObjectReference<GstElement> m_fileSource;
+    QElapsedTimer m_sinceVideoStart;
+    QTimer m_restartTimer;
+    ObjectReference<GstElement> m_cameraPipeline;
+    CameraElements m_cameraElements;
+    bool m_streamRunning = false;
 };

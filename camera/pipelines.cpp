@@ -1,0 +1,223 @@
+// The part of the camera manager that streams: one pipeline for a camera, one for a video file.
+
+#include "cameraemulationmanager.h"
+
+#include <gst/gst.h>
+
+#include <chrono>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+static constexpr int jpegQuality = 50;
+// Shorter than any film: only a file without pictures would come to its end again and again.
+static constexpr std::chrono::milliseconds shortestLoop = 100ms;
+
+static ObjectReference<GstElement> createElement(const char *factory, const char *name)
+{
+    return owned(gst_element_factory_make(factory, name));
+}
+
+static GstBusSyncReply dropMessage(GstBus *bus, GstMessage *message, gpointer userData)
+{
+    Q_UNUSED(bus)
+    Q_UNUSED(userData)
+    gst_message_unref(message);
+    return GST_BUS_DROP;
+}
+
+/// Nobody reads what a pipeline reports, and unread messages would pile up.
+static ObjectReference<GstElement> createPipeline(const char *name)
+{
+    ObjectReference<GstElement> pipeline = owned(gst_pipeline_new(name));
+    const ObjectReference<GstBus> bus(gst_element_get_bus(pipeline.get()));
+    gst_bus_set_sync_handler(bus.get(), dropMessage, nullptr, nullptr);
+    return pipeline;
+}
+
+/// Without a look at the state before: that could wait for ever for the first frame of a file that
+/// has none.
+static void stop(const ObjectReference<GstElement> &pipeline)
+{
+    gst_element_set_state(pipeline.get(), GST_STATE_NULL);
+}
+
+static void play(const ObjectReference<GstElement> &pipeline)
+{
+    gst_element_set_state(pipeline.get(), GST_STATE_PLAYING);
+}
+
+static void setUpOutput(GstElement *jpegEncoder, GstElement *udpSink)
+{
+    g_object_set(jpegEncoder, "quality", jpegQuality, nullptr);
+    g_object_set(udpSink, "host", CameraEmulationManager::localhost, "port",
+                 CameraEmulationManager::udpPort, nullptr);
+}
+
+/// Of the pads of a file, the first that carries pictures is linked; later ones fail to.
+static void onDecodeBinPadAdded(GstElement *decodeBin, GstPad *pad, void *jpegEncoder)
+{
+    Q_UNUSED(decodeBin)
+    const ObjectReference<GstPad> sinkPad(
+        gst_element_get_static_pad(static_cast<GstElement *>(jpegEncoder), "sink"));
+    gst_pad_link(pad, sinkPad.get());
+}
+
+static GstPadProbeReturn onEventReceived(GstPad *pad, GstPadProbeInfo *info, void *manager)
+{
+    Q_UNUSED(pad)
+    // on a thread of the pipeline's, which must not stop it: the connection queues
+    if (GST_EVENT_TYPE(GST_PAD_PROBE_INFO_EVENT(info)) == GST_EVENT_EOS)
+        Q_EMIT static_cast<CameraEmulationManager *>(manager)->videoStreamStopped();
+    return GST_PAD_PROBE_PASS;
+}
+
+void CameraEmulationManager::constructVideoStreamPipeline()
+{
+    m_videoPipeline = createPipeline("video-stream-pipeline");
+    m_fileSource = createElement("filesrc", "filesrc");
+    const auto decodeBin = createElement("decodebin", "decodebin");
+    const auto jpegEncoder = createElement("jpegenc", "jpegencVS");
+    const auto rtpPayloader = createElement("rtpjpegpay", "m_rtpjpegpayVS");
+    const auto udpSink = createElement("udpsink", "udpsinkVS");
+    if (!m_fileSource || !decodeBin || !jpegEncoder || !rtpPayloader || !udpSink)
+        return; // GStreamer lacks its base or good plugins: no file will play
+
+    setUpOutput(jpegEncoder.get(), udpSink.get());
+    gst_bin_add_many(GST_BIN(m_videoPipeline.get()), m_fileSource.get(), decodeBin.get(),
+                     jpegEncoder.get(), rtpPayloader.get(), udpSink.get(), nullptr);
+    gst_element_link(m_fileSource.get(), decodeBin.get());
+    gst_element_link_many(jpegEncoder.get(), rtpPayloader.get(), udpSink.get(), nullptr);
+    g_signal_connect(decodeBin.get(), "pad-added", G_CALLBACK(onDecodeBinPadAdded),
+                     jpegEncoder.get());
+    const ObjectReference<GstPad> sinkPad(gst_element_get_static_pad(udpSink.get(), "sink"));
+    gst_pad_add_probe(sinkPad.get(), GST_PAD_PROBE_TYPE_EVENT_DOWNSTREAM, onEventReceived, this,
+                      nullptr);
+}
+
+void CameraEmulationManager::initCameraStreamElements()
+{
+    m_cameraPipeline = createPipeline("camera-stream-pipeline");
+    m_cameraElements = {
+        .source = createElement(m_sourcePluginName.toUtf8().constData(), "sourcePluginCam"),
+        .capsFilter = createElement("capsfilter", "capsfilterCam"),
+        .jpegEncoder = createElement("jpegenc", "jpegencCam"),
+        .rtpPayloader = createElement("rtpjpegpay", "rtpjpegpayCam"),
+        .udpSink = createElement("udpsink", "udpsinkCam"),
+    };
+}
+
+void CameraEmulationManager::releaseCameraPipeline()
+{
+    stop(m_cameraPipeline);
+    m_cameraPipeline.reset();
+    m_cameraElements = {};
+}
+
+void CameraEmulationManager::setupCameraStreamPipeline()
+{
+    initCameraStreamAvailableSettings();
+    setUpCameraPipelineElementsProperties();
+    linkCameraStreamElements();
+}
+
+void CameraEmulationManager::setUpCameraPipelineElementsProperties()
+{
+    const auto &[source, capsFilter, jpegEncoder, rtpPayloader, udpSink] = m_cameraElements;
+    const SourceProperty device = m_cameras.value(m_cameraName).source;
+    // of one factory for all cameras, which may lack the property; it reads what was serialised
+    if (source && !device.name.isEmpty() && !device.value.isEmpty())
+        gst_util_set_object_arg(G_OBJECT(source.get()), device.name.toUtf8().constData(),
+                                device.value.toUtf8().constData());
+
+    QString text = u"video/x-raw"_s;
+    if (m_width >= 0 && m_height >= 0)
+        text += u",width=%1,height=%2"_s.arg(m_width).arg(m_height);
+    if (!m_framerate.isEmpty())
+        text += u",framerate=%1"_s.arg(m_framerate);
+    const MiniObjectReference<GstCaps> caps(gst_caps_from_string(text.toUtf8().constData()));
+    g_object_set(capsFilter.get(), "caps", caps.get(), nullptr);
+    setUpOutput(jpegEncoder.get(), udpSink.get());
+}
+
+void CameraEmulationManager::linkCameraStreamElements()
+{
+    const auto &[source, capsFilter, jpegEncoder, rtpPayloader, udpSink] = m_cameraElements;
+    GstBin *pipeline = GST_BIN(m_cameraPipeline.get());
+    if (GST_BIN_NUMCHILDREN(pipeline) > 0)
+        return; // the window was shown before
+    for (GstElement *element :
+         {source.get(), capsFilter.get(), jpegEncoder.get(), rtpPayloader.get(), udpSink.get()}) {
+        if (element)
+            gst_bin_add(pipeline, element);
+    }
+    if (source)
+        gst_element_link(source.get(), capsFilter.get());
+    gst_element_link_many(capsFilter.get(), jpegEncoder.get(), rtpPayloader.get(), udpSink.get(),
+                          nullptr);
+}
+
+void CameraEmulationManager::setCameraStreamSettings()
+{
+    if (m_streamRunning) {
+        stopCameraStream();
+        setUpCameraPipelineElementsProperties();
+        startCameraStream();
+    } else {
+        setUpCameraPipelineElementsProperties();
+    }
+    Q_EMIT cameraStreamSettingsApplied();
+}
+
+void CameraEmulationManager::startCameraStream()
+{
+    stop(m_videoPipeline);
+    stop(m_cameraPipeline);
+    play(m_cameraPipeline);
+    setStreamRunning(true);
+}
+
+void CameraEmulationManager::stopCameraStream()
+{
+    stop(m_cameraPipeline);
+    setStreamRunning(false);
+}
+
+void CameraEmulationManager::startVideoStream(const QString &filePath)
+{
+    stop(m_cameraPipeline);
+    stop(m_videoPipeline);
+    if (filePath.isEmpty() || !checkVideoFileForCodec(filePath))
+        return;
+    g_object_set(m_fileSource.get(), "location", filePath.toLocal8Bit().constData(), nullptr);
+    playVideo();
+    setStreamRunning(true);
+}
+
+void CameraEmulationManager::stopVideoStream()
+{
+    stop(m_videoPipeline);
+    setStreamRunning(false);
+}
+
+void CameraEmulationManager::restartVideoStream()
+{
+    // stopped while the news of the file's end was on its way here
+    if (GST_STATE_TARGET(m_videoPipeline.get()) == GST_STATE_NULL)
+        return;
+    const auto loop
+        = std::chrono::floor<std::chrono::milliseconds>(m_sinceVideoStart.durationElapsed());
+    if (loop < shortestLoop) {
+        m_restartTimer.start(shortestLoop - loop);
+        return;
+    }
+    stop(m_videoPipeline);
+    playVideo();
+}
+
+void CameraEmulationManager::playVideo()
+{
+    m_restartTimer.stop();
+    m_sinceVideoStart.start();
+    play(m_videoPipeline);
+}
