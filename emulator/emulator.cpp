@@ -18,6 +18,7 @@ Emulator::Emulator(const Options &options, QObject *parent)
     : QObject(parent)
     , m_options(options)
     , m_packages(options.packages)
+    , m_video(m_journal)
     , m_sshServer([this](const QString &command) { return answerCommand(command); })
 {
     for (const QString &name : options.withoutPackages)
@@ -46,7 +47,8 @@ bool Emulator::start(QString *error)
         *error = u"The folder %1 cannot be made."_s.arg(m_options.data);
         return false;
     }
-    if (!startServices(error) || !startRelay(error) || !m_sshServer.start(m_options, error))
+    if (!startServices(error) || !startRelay(error) || !m_video.listen(m_options.address, error)
+        || !m_sshServer.start(m_options, error))
         return false;
     startControl();
     for (const Forwarding &forwarding : std::as_const(m_options.forwardings))

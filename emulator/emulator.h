@@ -9,6 +9,7 @@
 #include "sensorservice.h"
 #include "sshserver.h"
 #include "systembus.h"
+#include "videoreceiver.h"
 
 #include <memory>
 
@@ -29,6 +30,7 @@ public:
 
     [[nodiscard]] const SensorService &sensors() const { return m_sensors; }
     [[nodiscard]] const LocationService &location() const { return m_location; }
+    [[nodiscard]] const VideoReceiver &video() const { return m_video; }
 
 Q_SIGNALS:
     /// A part that the emulator cannot do without has ended. \a error is one sentence.
@@ -46,6 +48,7 @@ private:
     PackageList m_packages;
     SensorService m_sensors;
     LocationService m_location;
+    VideoReceiver m_video;
     SystemBus m_bus;
     SshServer m_sshServer;
     std::unique_ptr<Relay> m_relay;

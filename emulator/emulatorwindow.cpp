@@ -1,5 +1,6 @@
 #include "emulatorwindow.h"
 
+#include "camerapicture.h"
 #include "locationservice.h"
 #include "sensorservice.h"
 #include "trackplot.h"
@@ -47,7 +48,7 @@ static QString playbackText(LocationService::Playback playback)
 
 EmulatorWindow::EmulatorWindow(const QString &name, const QString &deviceModel,
                                const SensorService &sensors, const LocationService &location,
-                               QWidget *parent)
+                               const VideoReceiver &video, QWidget *parent)
     : QWidget(parent)
     , m_sensors(sensors)
     , m_location(location)
@@ -57,7 +58,7 @@ EmulatorWindow::EmulatorWindow(const QString &name, const QString &deviceModel,
     auto *sensorsLayout = new QGridLayout;
     addSensors(sensorsLayout);
     auto *deviceLayout = new QVBoxLayout;
-    deviceLayout->addWidget(createCamera(), 1);
+    deviceLayout->addWidget(createCamera(video), 1);
     deviceLayout->addWidget(createPosition());
     deviceLayout->addWidget(createTrack());
     auto *layout = new QHBoxLayout(this);
@@ -115,19 +116,11 @@ void EmulatorWindow::addSensor(QGridLayout *layout, const QString &sensor, const
     layout->addWidget(group, index / columns, index % columns);
 }
 
-QGroupBox *EmulatorWindow::createCamera()
+QGroupBox *EmulatorWindow::createCamera(const VideoReceiver &video)
 {
-    constexpr QSize smallestPicture(320, 240);
     auto *group = new QGroupBox(tr("Camera"));
-    auto *picture = new QLabel(tr("No picture"));
-    picture->setAlignment(Qt::AlignCenter);
-    picture->setFrameShape(QFrame::StyledPanel);
-    picture->setAutoFillBackground(true);
-    picture->setBackgroundRole(QPalette::Base);
-    picture->setForegroundRole(QPalette::Text);
-    picture->setMinimumSize(smallestPicture);
     auto *layout = new QVBoxLayout(group);
-    layout->addWidget(picture);
+    layout->addWidget(new CameraPicture(video));
     return group;
 }
 

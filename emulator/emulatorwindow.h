@@ -14,6 +14,7 @@ namespace NimbraEmulator {
 
 class LocationService;
 class SensorService;
+class VideoReceiver;
 
 /// Shows what the device would: the sensors and their values, the position, the track and the
 /// camera's picture. It follows the services at the rate of a screen, however often they change.
@@ -22,15 +23,16 @@ class EmulatorWindow : public QWidget
     Q_OBJECT
 
 public:
-    /// Both services outlive the window.
+    /// The services and the receiver outlive the window.
     EmulatorWindow(const QString &name, const QString &deviceModel, const SensorService &sensors,
-                   const LocationService &location, QWidget *parent = nullptr);
+                   const LocationService &location, const VideoReceiver &video,
+                   QWidget *parent = nullptr);
 
 private:
     void addSensors(QGridLayout *layout);
     void addSensor(QGridLayout *layout, const QString &sensor, const QString &title,
                    const QList<std::pair<QString, std::function<QString()>>> &values);
-    [[nodiscard]] QGroupBox *createCamera();
+    [[nodiscard]] QGroupBox *createCamera(const VideoReceiver &video);
     [[nodiscard]] QGroupBox *createPosition();
     [[nodiscard]] QGroupBox *createTrack();
     void addValue(QGroupBox *group, const QString &title, std::function<QString()> text);

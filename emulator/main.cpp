@@ -49,7 +49,8 @@ static int runEmulator(const Options &options)
     std::unique_ptr<EmulatorWindow> window;
     if (!options.headless) {
         window = std::make_unique<EmulatorWindow>(options.name, options.deviceModel,
-                                                  emulator.sensors(), emulator.location());
+                                                  emulator.sensors(), emulator.location(),
+                                                  emulator.video());
         window->show();
     }
     if (options.stopWithStandardInput)
