@@ -1,0 +1,221 @@
+#include <camera/cameraemulationmanager.h>
+#include <journal.h>
+#include <videoreceiver.h>
+#include <virtualcameras.h>
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+static const QByteArray front = "Front | device=/dev/front | video/x-raw,width=160,height=120,"
+                                "framerate={(fraction)30/1,(fraction)15/1};"
+                                "video/x-raw,width=64,height=48,framerate=30/1";
+static const QByteArray rear
+    = "Rear | device=/dev/rear | video/x-raw,width=96,height=80,framerate=30/1";
+
+static constexpr QSize videoSize(320, 240); // of vp8.webm and vp9.webm
+
+static QString media(const QString &name)
+{
+    return QStringLiteral(MEDIA_FOLDER "/") + name;
+}
+
+// The emulator's receiver, where the forwarding of its port begins, tells what is streamed.
+class CameraStreamingTest : public QObject
+{
+    Q_OBJECT
+
+    VirtualCameras m_cameras;
+    NimbraEmulator::Journal m_journal;
+    NimbraEmulator::VideoReceiver m_receiver{m_journal};
+
+    // What was under way when the stream changed counts neither as its pictures nor as others'.
+    bool arrives(QSize size)
+    {
+        const auto isThere = [&] { return m_receiver.picture().size() == size; };
+        const auto more = [&, count = m_receiver.frameCount()] {
+            return m_receiver.frameCount() > count + 3 && isThere();
+        };
+        return QTest::qWaitFor(isThere) && QTest::qWaitFor(more);
+    }
+
+    // The receiver takes a second without pictures for the end.
+    bool ends()
+    {
+        return QTest::qWaitFor([&] { return m_receiver.picture().isNull(); });
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QString error;
+        QVERIFY2(m_receiver.listen(QHostAddress::LocalHost, &error), qPrintable(error));
+    }
+
+    void init() { m_cameras.set({front, rear}); }
+
+    void switching()
+    {
+        CameraEmulationManager manager;
+        manager.setupCameraStreamPipeline();
+        QSignalSpy changed(&manager, &CameraEmulationManager::streamRunningChanged);
+        manager.startCameraStream();
+        QVERIFY(arrives({160, 120}));
+        manager.startVideoStream(media(u"vp8.webm"_s));
+        QVERIFY(arrives(videoSize));
+        manager.startCameraStream();
+        QVERIFY(arrives({160, 120}));
+        QCOMPARE(changed.size(), 3);
+
+        manager.startVideoStream({}); // ends the stream and says nothing
+        QVERIFY(ends());
+        QVERIFY(manager.streamRunning());
+        QCOMPARE(changed.size(), 3);
+        manager.stopCameraStream();
+        QVERIFY(!manager.streamRunning());
+    }
+
+    void settings()
+    {
+        CameraEmulationManager manager;
+        manager.setupCameraStreamPipeline();
+        manager.startCameraStream();
+        QVERIFY(arrives({160, 120}));
+        manager.setResolutionIndex(1);
+        QVERIFY(arrives({160, 120}));
+        manager.setCameraStreamSettings();
+        QVERIFY(arrives({64, 48}));
+        manager.setCameraName(u"Rear"_s);
+        manager.setCameraStreamSettings();
+        QVERIFY(arrives({96, 80}));
+
+        manager.startVideoStream(media(u"vp8.webm"_s));
+        QVERIFY(arrives(videoSize));
+        manager.setCameraStreamSettings(); // switches over
+        QVERIFY(arrives({96, 80}));
+
+        // the window is shown again
+        manager.setupCameraStreamPipeline();
+        QVERIFY(arrives({160, 120}));
+        manager.updateCamerasList();
+        QVERIFY(!manager.streamRunning());
+        QVERIFY(ends());
+        manager.startCameraStream();
+        QVERIFY(arrives({160, 120}));
+    }
+
+    void devices_data()
+    {
+        QTest::addColumn<QByteArray>("property");
+        for (const QByteArray &property : {"device=/dev/%1"_ba, "device-index=%1"_ba,
+                                           "device-path=/%1"_ba, "device-path=a device=/%1"_ba})
+            QTest::newRow(property.constData()) << property; // %1 is the camera's number
+    }
+
+    void devices()
+    {
+        QFETCH(const QByteArray, property);
+        const auto camera = [&](const QByteArray &number, const QByteArray &width) -> QByteArray {
+            return number + '|' + QByteArray(property).replace("%1", number)
+                   + "|video/x-raw,height=48,framerate=30/1,width=" + width;
+        };
+        m_cameras.set({camera("1", "64"), camera("2", "80")});
+        CameraEmulationManager manager;
+        manager.setupCameraStreamPipeline();
+        manager.setCameraName(u"2"_s);
+        manager.setCameraStreamSettings();
+        manager.startCameraStream();
+        QVERIFY(arrives({80, 48}));
+    }
+
+    void codecs_data()
+    {
+        QTest::addColumn<bool>("accepted");
+        QTest::addColumn<QString>("codec");
+        QTest::newRow("vp8.webm") << true << u"VP8 video"_s;
+        QTest::newRow("vp9.mkv") << true << u"VP9 video"_s;
+        QTest::newRow("with-audio.webm") << true << u"VP8 video"_s;
+        QTest::newRow("truncated.webm") << true << u"VP8 video"_s;
+        QTest::newRow("motion-jpeg.mkv") << false << u"Motion JPEG"_s;
+        for (const char *name : {"h264.mkv", "audio.webm", "text.webm", "empty.webm", "none.webm"})
+            QTest::newRow(name) << false << QString();
+    }
+
+    void codecs()
+    {
+        CameraEmulationManager manager;
+        QSignalSpy checked(&manager, &CameraEmulationManager::videoFileCodecChecked);
+        QFETCH(const bool, accepted);
+        connect(&manager, &CameraEmulationManager::streamRunningChanged, this,
+                [&] { QCOMPARE(checked.size(), 1); });
+        manager.startVideoStream(media(QString::fromLatin1(QTest::currentDataTag())));
+        QCOMPARE(checked.size(), 1);
+        QCOMPARE(checked.constFirst().at(0).toBool(), accepted);
+        QTEST(checked.constFirst().at(1).toString(), "codec");
+        QCOMPARE(manager.streamRunning(), accepted);
+    }
+
+    void endOfFile()
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath(u"50% #1 ü?.webm"_s);
+        QVERIFY(QFile::copy(media(u"vp9.mkv"_s), path)); // half a second
+        CameraEmulationManager manager;
+        manager.setupCameraStreamPipeline();
+        QSignalSpy stopped(&manager, &CameraEmulationManager::videoStreamStopped);
+        QSignalSpy changed(&manager, &CameraEmulationManager::streamRunningChanged);
+        manager.startVideoStream(path);
+        const qint64 before = m_receiver.frameCount();
+        QVERIFY(QTest::qWaitFor([&] { return stopped.size() == 3; }));
+        QTRY_VERIFY(m_receiver.frameCount() - before >= 45); // three times 15
+        QCOMPARE(changed.size(), 1);
+
+        QVERIFY(QFile::remove(path));
+        QVERIFY(ends());
+        QVERIFY(manager.streamRunning());
+
+        // stopped before the news of the end was handled
+        manager.startVideoStream(media(u"vp9.mkv"_s));
+        manager.stopVideoStream();
+        Q_EMIT manager.videoStreamStopped();
+        QVERIFY(!QTest::qWaitFor([&] { return !m_receiver.picture().isNull(); }, 500));
+    }
+
+    // A file of which no frame can be sent must not keep the user from anything else.
+    void fileWithoutPictures()
+    {
+        CameraEmulationManager manager;
+        manager.setupCameraStreamPipeline();
+        QSignalSpy stopped(&manager, &CameraEmulationManager::videoStreamStopped);
+        manager.startVideoStream(media(u"vp9-444.mkv"_s));
+        QVERIFY(!QTest::qWaitFor([&] { return stopped.size() > 5; }, 300)); // no busy loop
+        manager.startVideoStream(media(u"vp9-444.mkv"_s));
+        manager.startCameraStream();
+        QVERIFY(arrives({160, 120}));
+    }
+
+    void withoutCamera()
+    {
+        m_cameras.set({});
+        CameraEmulationManager manager;
+        manager.setupCameraStreamPipeline();
+        manager.setupCameraStreamPipeline();
+        manager.startCameraStream();
+        QVERIFY(manager.streamRunning());
+        manager.startVideoStream(media(u"vp8.webm"_s));
+        QVERIFY(arrives(videoSize));
+
+        m_cameras.set({rear});
+        QTRY_COMPARE(manager.cameras().size(), 1);
+        manager.updateCamerasList();
+        manager.startCameraStream();
+        QVERIFY(arrives({96, 80}));
+    }
+};
+
+QTEST_GUILESS_MAIN(CameraStreamingTest)
+
+#include "tst_camerastreaming.moc"

@@ -1,0 +1,25 @@
+#include <camera/framerates.h>
+
+#include <QTest>
+
+/// What real cameras hardly tell; the rest is tested with caps of virtual ones.
+class FrameratesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void oddFields()
+    {
+        QCOMPARE(::normalizeFractions(QStringLiteral("5/0,x/2,-7/2,30/1,25,1/2/3,,9/x")).join(u' '),
+                 u"5/1 0/1 -3/1 30/1 25 1/2/3 9/1");
+        QStringList framerates;
+        initAvailableFramerates(&framerates, QStringLiteral("[ 1/0, nonsense ]"));
+        QCOMPARE(framerates, QStringList(QStringLiteral("0/1")));
+        initAvailableFramerates(&framerates, QStringLiteral("[ 0/1, 2147483647/1 ]"));
+        QVERIFY(framerates.size() < 300);
+    }
+};
+
+QTEST_GUILESS_MAIN(FrameratesTest)
+
+#include "tst_framerates.moc"

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QByteArrayList>
+#include <QSaveFile>
+#include <QTemporaryDir>
+
+/// The host's cameras. Each is a line as in cameras.txt. One object at a time.
+class VirtualCameras
+{
+public:
+    explicit VirtualCameras(const QByteArrayList &cameras = {})
+    {
+        set(cameras);
+        qputenv("VIRTUAL_CAMERAS", m_folder.filePath(QStringLiteral("cameras")).toLocal8Bit());
+    }
+
+    /// Plugs cameras in and out. A camera monitor learns of it by and by.
+    void set(const QByteArrayList &cameras)
+    {
+        QSaveFile file(m_folder.filePath(QStringLiteral("cameras")));
+        if (!file.open(QIODevice::WriteOnly) || file.write(cameras.join('\n')) < 0
+            || !file.commit())
+            qFatal("The cameras cannot be written");
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
