@@ -181,6 +181,7 @@ Rectangle {
             id: cameraManagementPage
 
             anchors.fill: parent
+            errorDialog: root.errorDialog
         }
     }
 }

@@ -1,5 +1,6 @@
 #include "testplugin.h"
 
+#include "cameratest.h"
 #include "connectiontest.h"
 #include "dialogstest.h"
 #include "locationtest.h"
@@ -13,6 +14,7 @@ bool TestPlugin::initialize(const QStringList &arguments, QString *errorString)
     Q_UNUSED(errorString)
     addTest<StartUpTest>();
     addTest<DialogsTest>();
+    addTest<CameraTest>();
     addTest<ConnectionTest>();
     addTest<RepliesTest>();
     addTest<LocationTest>();

@@ -20,6 +20,7 @@ void Host::setContextProperties(QQmlContext *context)
 {
     context->setContextProperties({
         {QStringLiteral("host"), QVariant::fromValue(this)},
+        {QStringLiteral("mediaUrl"), QStringLiteral(MEDIA_URL)},
         {QStringLiteral("gpsEmulationManager"), QVariant::fromValue(&m_gpsEmulationManager)},
         {QStringLiteral("sensorsEmulationManager"),
          QVariant::fromValue(&m_sensorsEmulationManager)},
@@ -67,6 +68,11 @@ void Host::receive(const QString &reply)
 void Host::setSensorAvailable(const QString &name, bool available)
 {
     m_sensorsEmulationManager.setSensorAvailable(name, available);
+}
+
+void Host::setCameras(const QStringList &cameras)
+{
+    m_cameras.set({cameras.join(u'\n').toUtf8()});
 }
 
 } // namespace EmulationManagement::Internal

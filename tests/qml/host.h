@@ -10,6 +10,8 @@
 
 #include <sensors/sensorsemulationmanager.h>
 
+#include <virtualcameras.h>
+
 #include <QMessageBox>
 #include <QObject>
 #include <QStringList>
@@ -47,12 +49,15 @@ public:
     /// Handles a line of the relay.
     Q_INVOKABLE void receive(const QString &reply);
     Q_INVOKABLE void setSensorAvailable(const QString &name, bool available);
+    /// Plugs cameras in and out, see VirtualCameras.
+    Q_INVOKABLE void setCameras(const QStringList &cameras);
 
 private:
     RemoteDBusInvokerService m_remoteDBusInvokerService;
     GPSEmulationManager m_gpsEmulationManager;
     SensorsEmulationManager m_sensorsEmulationManager;
     Smartphone3DModelConfig m_smartphone3DModelConfig;
+    VirtualCameras m_cameras;
     CameraEmulationManager m_cameraEmulationManager;
     QStringList m_questions;
     QMessageBox::StandardButton m_answer = QMessageBox::NoButton;

@@ -1,0 +1,118 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+
+// What the host's camera streams, and the choices of what it is to stream next.
+RowLayout {
+    id: root
+
+    required property var cameraManager
+    property string currentCameraName: ""
+    property string currentResolution: ""
+    property string currentFramerate: ""
+
+    uniformCellSizes: true
+
+    component FieldLabel: Label {
+        Layout.alignment: Qt.AlignTop
+    }
+
+    component ValueLabel: Label {
+        Layout.fillWidth: true
+        textFormat: Text.PlainText
+        wrapMode: Text.Wrap
+    }
+
+    GroupBox {
+        Layout.fillHeight: true
+        Layout.fillWidth: true
+        title: qsTr("Current values")
+
+        GridLayout {
+            anchors.left: parent.left
+            anchors.right: parent.right
+            columns: 2
+
+            FieldLabel {
+                text: qsTr("Camera") + ":"
+            }
+
+            ValueLabel {
+                text: root.currentCameraName
+            }
+
+            FieldLabel {
+                text: qsTr("Resolution") + ":"
+            }
+
+            ValueLabel {
+                text: root.currentResolution
+            }
+
+            FieldLabel {
+                text: qsTr("Framerate") + ":"
+            }
+
+            ValueLabel {
+                text: root.currentFramerate
+            }
+        }
+    }
+
+    GroupBox {
+        Layout.fillHeight: true
+        Layout.fillWidth: true
+        title: qsTr("Settings")
+
+        GridLayout {
+            anchors.left: parent.left
+            anchors.right: parent.right
+            columns: 2
+
+            Label {
+                text: qsTr("Camera")
+            }
+
+            ComboBox {
+                Accessible.name: qsTr("Camera")
+                Layout.fillWidth: true
+                implicitWidth: Application.font.pixelSize
+                    * Math.max(...root.cameraManager.cameras.map(name => name.length), 0)
+                model: root.cameraManager.cameras
+
+                onActivated: index => root.cameraManager.cameraName = root.cameraManager.cameras[index]
+            }
+
+            Label {
+                text: qsTr("Resolution")
+            }
+
+            ComboBox {
+                Accessible.name: qsTr("Resolution")
+                Layout.fillWidth: true
+                model: root.cameraManager.resolutions
+                textRole: "string"
+
+                onActivated: index => root.cameraManager.resolutionIndex = index
+            }
+
+            Label {
+                text: qsTr("Framerate")
+            }
+
+            ComboBox {
+                Accessible.name: qsTr("Framerate")
+                Layout.fillWidth: true
+                model: root.cameraManager.framerates
+
+                onActivated: index => root.cameraManager.framerate = root.cameraManager.framerates[index]
+            }
+
+            Button {
+                Layout.columnSpan: 2
+                text: qsTr("Set settings")
+                onClicked: root.cameraManager.setCameraStreamSettings()
+            }
+        }
+    }
+}

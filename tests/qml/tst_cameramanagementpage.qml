@@ -1,0 +1,149 @@
+import QtQuick
+import QtQuick.Controls
+import QtTest
+
+import "qrc:/emulationmanagement/qml"
+
+import "find.js" as Find
+
+Item {
+    id: root
+
+    width: 1100
+    height: 600
+
+    Component {
+        id: component
+
+        EmulationManagementView {}
+    }
+
+    SignalSpy {
+        id: running
+
+        target: cameraEmulationManager
+        signalName: "streamRunningChanged"
+    }
+
+    TestCase {
+        id: test
+
+        readonly property var manager: cameraEmulationManager
+        readonly property string front: "Front | device=a | video/x-raw,width=640,height=480,"
+            + "framerate={(fraction)30/1,(fraction)15/1}; video/x-raw,width=320,height=240,framerate=15/1"
+        readonly property string rear: "Rear | device=b | video/x-raw,width=80,height=60,framerate=5/1"
+        property EmulationManagementView view
+        property CameraManagementPage page
+
+        name: "CameraManagementPage"
+        when: windowShown
+
+        function open(cameras: list<string>) {
+            failOnWarning(/.*/);
+            host.setCameras(cameras);
+            manager.updateCamerasList();
+            tryVerify(() => manager.cameras.length === cameras.length);
+            view = createTemporaryObject(component, root);
+            page = view.pagesIds[4];
+            click("Camera Management");
+        }
+
+        function cleanup() {
+            view.errorDialog.close();
+            click("Sensors Values");
+            compare(manager.streamRunning, false);
+        }
+
+        function find(title: string): Item {
+            return Find.find(view, item => item.text === title && item.clicked !== undefined);
+        }
+
+        function click(title: string) {
+            running.clear();
+            mouseClick(find(title));
+        }
+
+        function comboBox(title: string): Item {
+            return Find.find(page, item => item instanceof ComboBox
+                                           && item.Accessible.name === title);
+        }
+
+        function choose(title: string, index: int) {
+            comboBox(title).currentIndex = index;
+            comboBox(title).activated(index);
+        }
+
+        // The first letters of what can be clicked, then of the source that is checked.
+        function state(): string {
+            const titles = ["Host camera", "Video file", "Start stream", "Stop"];
+            return titles.filter(title => find(title).enabled).map(title => title[0]).join("") + " "
+                + titles.filter(title => find(title).checked).map(title => title[0]).join("");
+        }
+
+        function test_withoutCamera() {
+            open([]);
+            compare(comboBox("Camera").visible, false);
+            compare(state(), "V V");
+            page.videoFileUrl = mediaUrl + "/vp8.webm";
+            compare(state(), "VS V");
+            click("Start stream");
+            host.setCameras([rear]);
+            tryCompare(comboBox("Camera"), "visible", true);
+            compare(state(), "HVS H"); // taken over
+            host.setCameras([]);
+            tryVerify(() => state() === "VS V");
+        }
+
+        function test_settings() {
+            const current = () => [page.currentCameraName, page.currentResolution,
+                                   page.currentFramerate].join(" ");
+            open([front, rear]);
+            click("Update cameras list");
+            choose("Resolution", 1);
+            compare(comboBox("Framerate").currentText, "15/1");
+            choose("Resolution", 0);
+            choose("Framerate", 1);
+            compare(manager.framerate, "15/1");
+            choose("Camera", 1);
+            compare(comboBox("Resolution").displayText, "80x60");
+            compare(current(), "Front 640x480 30/1");
+            click("Start stream");
+            choose("Camera", 0);
+            compare(running.count, 1);
+            click("Set settings");
+            compare(running.count, 2); // stopped and started
+            compare(current(), "Front 640x480 30/1");
+        }
+
+        function test_switching_data(): var {
+            return [
+                {tag: "vp9.mkv", text: ""},
+                {tag: "motion-jpeg.mkv", text: "Camera emulation does not support Motion JPEG. "
+                                               + "Supported codecs: VP8 and VP9."},
+                {tag: "text.webm", text: "Could not determine the video codec of the video file. "
+                                         + "Supported codecs: VP8 and VP9."},
+            ];
+        }
+
+        function test_switching(row: var) {
+            open([front]);
+            compare(state(), "HVS H");
+            click("Start stream");
+            click("Video file"); // none is chosen
+            compare(state(), "HV V");
+            page.videoFileUrl = mediaUrl + "/" + row.tag;
+            click("Host camera");
+            compare(running.count, 0);
+            click("Start stream");
+            click("Video file");
+            compare(view.errorDialog.text, row.text);
+            compare(view.errorDialog.visible, row.text !== "");
+            compare(manager.streamRunning, row.text === "");
+        }
+
+        function test_localPath() {
+            open([]);
+            compare(page.localPath("file:///tmp/50%25%20%231%3F.webm"), "/tmp/50% #1?.webm");
+        }
+    }
+}
