@@ -1,5 +1,6 @@
 #include "tour.h"
 
+#include "cameratour.h"
 #include "devicemodeltour.h"
 #include "locationtour.h"
 #include "menudriver.h"
@@ -57,7 +58,8 @@ void Tour::visitAll()
     takePicture(QStringLiteral("window"));
     visitSensors(driver);
     visitDeviceModel(driver);
-    visitOtherPages(driver);
+    visitLocation(driver);
+    CameraTour(driver, m_journal, [this](const QString &name) { takePicture(name); }).run();
     printCalls();
 }
 
@@ -115,19 +117,15 @@ void Tour::visitDeviceModel(const WindowDriver &driver)
     DeviceModelTour(driver, m_journal, [this](const QString &name) { takePicture(name); }).run();
 }
 
-void Tour::visitOtherPages(const WindowDriver &driver)
+void Tour::visitLocation(const WindowDriver &driver)
 {
-    for (const QString &page :
-         {QStringLiteral("GPS Management"), QStringLiteral("Camera Management")}) {
-        say(page);
-        driver.clickButton(page);
-        takePicture(page.toLower().replace(u' ', u'-'));
-        if (page == u"GPS Management") {
-            LocationTour(driver, m_journal, [this](const QString &name) {
-                takePicture(name);
-            }).visit(QStringLiteral(SAMPLE_TRACK));
-        }
-    }
+    const QString page = QStringLiteral("GPS Management");
+    say(page);
+    driver.clickButton(page);
+    takePicture(QStringLiteral("gps-management"));
+    LocationTour(driver, m_journal, [this](const QString &name) {
+        takePicture(name);
+    }).visit(QStringLiteral(SAMPLE_TRACK));
 }
 
 void Tour::takePicture(const QString &name)

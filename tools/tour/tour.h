@@ -25,7 +25,7 @@ private:
     void chooseDeviceModel(const QString &name);
     void visitSensors(const WindowDriver &driver);
     void visitDeviceModel(const WindowDriver &driver);
-    void visitOtherPages(const WindowDriver &driver);
+    void visitLocation(const WindowDriver &driver);
     void takePicture(const QString &name);
     void printCalls();
 
