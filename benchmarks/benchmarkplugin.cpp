@@ -1,6 +1,7 @@
 #include "benchmarkplugin.h"
 
 #include "callbenchmark.h"
+#include "camerabenchmark.h"
 #include "locationbenchmark.h"
 #include "restartbenchmark.h"
 #include "sliderbenchmark.h"
@@ -11,6 +12,7 @@ bool BenchmarkPlugin::initialize(const QStringList &arguments, QString *errorStr
     Q_UNUSED(arguments)
     Q_UNUSED(errorString)
     addTest<CallBenchmark>();
+    addTest<CameraBenchmark>();
     addTest<LocationBenchmark>();
     addTest<RestartBenchmark>();
     addTest<SliderBenchmark>();
