@@ -142,6 +142,7 @@ void Tour::takePicture(const QString &name)
 
 void Tour::printCalls()
 {
+    static constexpr int longestCall = 100; // a track has many points
     QMap<QString, std::pair<int, QString>> calls; // by method: how many, and the last one
     const QStringList received = m_journal.callsSince(0);
     for (const QString &call : received) {
@@ -152,5 +153,5 @@ void Tour::printCalls()
     say(QStringLiteral("The emulator received %1 calls; of each method the last:")
             .arg(received.size()));
     for (const auto &[count, last] : std::as_const(calls))
-        say(QStringLiteral("  %1 × %2").arg(count, 4).arg(last));
+        say(QStringLiteral("  %1 × %2").arg(count, 4).arg(last.left(longestCall)));
 }
