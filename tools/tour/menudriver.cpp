@@ -3,6 +3,7 @@
 #include "waiting.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -36,15 +37,29 @@ static QAction *use(Menu *menu, const QString &text)
     return action;
 }
 
-QMenu *open(QMainWindow *mainWindow, const QStringList &path)
+/// Opens the menus along the path; returns the last, or null when one of them closed again.
+static QMenu *tryToOpen(QMainWindow *mainWindow, const QStringList &path)
 {
+    static constexpr int limit = 2000; // ms
     QMenu *menu = use(mainWindow->menuBar(), path.first())->menu();
     for (const QString &text : path.sliced(1)) {
-        waitFor(QStringLiteral("the menu to open"), [&] { return menu->isVisible(); });
+        if (!QTest::qWaitFor([&] { return menu->isVisible(); }, limit))
+            return nullptr;
         menu = use(menu, text)->menu();
     }
-    waitFor(QStringLiteral("the menu \"%1\" to open").arg(path.last()),
-            [&] { return menu->isVisible(); });
+    return QTest::qWaitFor([&] { return menu->isVisible(); }, limit) ? menu : nullptr;
+}
+
+QMenu *open(QMainWindow *mainWindow, const QStringList &path)
+{
+    QMenu *menu = nullptr;
+    // menus close when the window manager is late to activate another window
+    waitFor(QStringLiteral("the menu \"%1\" to open").arg(path.last()), [&] {
+        menu = tryToOpen(mainWindow, path);
+        while (!menu && QApplication::activePopupWidget())
+            QApplication::activePopupWidget()->close();
+        return menu != nullptr;
+    });
     return menu;
 }
 
