@@ -7,6 +7,12 @@ namespace {
 constexpr int coordinateDecimals = 7;
 constexpr int altitudeDecimals = 2;
 
+// Of a point of a track.
+const QString latitudeKey = QStringLiteral("latitude");
+const QString longitudeKey = QStringLiteral("longitude");
+const QString altitudeKey = QStringLiteral("altitude");
+const QString intervalKey = QStringLiteral("interval");
+
 QString coordinateText(double degrees)
 {
     return QString::number(degrees, 'f', coordinateDecimals);
@@ -15,6 +21,17 @@ QString coordinateText(double degrees)
 QString altitudeText(double metres)
 {
     return QString::number(metres, 'f', altitudeDecimals);
+}
+
+// What a point of a track lacks, or what is no number, counts as 0.
+double numberOf(const QVariantMap &point, const QString &key)
+{
+    const auto value = point.constFind(key);
+    if (value == point.cend())
+        return 0;
+    // the page gives texts, which a variant would convert by a detour
+    const auto *text = get_if<QString>(&*value);
+    return text ? text->toDouble() : value->toDouble();
 }
 
 QString doubleArgument(const QString &value)
@@ -152,15 +169,17 @@ void GPSEmulationManager::setAltitude(double altitude)
 
 void GPSEmulationManager::loadTrack(const QVariantList &trackPoints)
 {
+    static constexpr qsizetype usualPointSize = 40; // characters
     QString arguments = QStringLiteral("array:array:double:");
+    arguments.reserve(arguments.size() + trackPoints.size() * usualPointSize);
     for (qsizetype i = 0; i < trackPoints.size(); ++i) {
         const QVariantMap point = trackPoints.at(i).toMap();
         if (i > 0)
             arguments += u';';
-        arguments += coordinateText(point.value(QStringLiteral("latitude")).toDouble()) + u','
-                     + coordinateText(point.value(QStringLiteral("longitude")).toDouble()) + u','
-                     + altitudeText(point.value(QStringLiteral("altitude")).toDouble()) + u','
-                     + QString::number(point.value(QStringLiteral("interval")).toDouble());
+        arguments += coordinateText(numberOf(point, latitudeKey)) + u','
+                     + coordinateText(numberOf(point, longitudeKey)) + u','
+                     + altitudeText(numberOf(point, altitudeKey)) + u','
+                     + QString::number(numberOf(point, intervalKey));
     }
     callDBusMethod(QStringLiteral("loadTrack"), arguments);
     m_currentPositionIndex = 0;
