@@ -7,8 +7,22 @@
 
 #include <QJSEngine>
 #include <QSignalSpy>
+#include <QTest>
+
+#include <span>
 
 namespace TestSupport {
+
+/// Adds a row for each of the texts "call > what follows > …", named after the call, with its
+/// parts.
+inline void addCallRows(std::span<const char *const> calls)
+{
+    QTest::addColumn<QStringList>("row");
+    for (const char *call : calls) {
+        const QStringList row = QString::fromLatin1(call).split(QStringLiteral(" > "));
+        QTest::newRow(qPrintable(row.constFirst())) << row;
+    }
+}
 
 /// A manager of the D-Bus service \a service that is connected to a recording relay and was not
 /// told so: it has sent nothing yet.

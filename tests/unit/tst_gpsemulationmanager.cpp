@@ -57,14 +57,7 @@ private Q_SLOTS:
         QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); // writes 1,5
     }
 
-    void call_data()
-    {
-        QTest::addColumn<QStringList>("row");
-        for (const char *call : calls) {
-            const QStringList row = QString::fromLatin1(call).split(u" > "_s);
-            QTest::newRow(qPrintable(row.constFirst())) << row;
-        }
-    }
+    void call_data() { TestSupport::addCallRows(calls); }
 
     void call()
     {
