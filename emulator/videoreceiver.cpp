@@ -42,7 +42,14 @@ bool VideoReceiver::listen(const QHostAddress &address, QString *error)
 {
     gst_init(nullptr, nullptr);
     const QByteArray text = QString(pipelineText).arg(address.toString()).arg(port).toUtf8();
-    m_pipeline.reset(GST_ELEMENT(gst_object_ref_sink(gst_parse_launch(text.constData(), nullptr))));
+    GError *parseError = nullptr;
+    if (GstElement *pipeline = gst_parse_launch(text.constData(), &parseError))
+        m_pipeline.reset(GST_ELEMENT(gst_object_ref_sink(pipeline)));
+    if (parseError) { // GStreamer lacks its good plugins
+        *error = u"The camera cannot receive: %1."_s.arg(QString::fromUtf8(parseError->message));
+        g_error_free(parseError);
+        return false;
+    }
     GstElement *sink = gst_bin_get_by_name(GST_BIN(m_pipeline.get()), "sink");
     g_signal_connect(sink, "new-sample", G_CALLBACK(onSample), this);
     gst_object_unref(sink);
