@@ -14,16 +14,21 @@ const millisPerMinute = 60 * millisPerSecond;
 const millisPerHour = 60 * millisPerMinute;
 const millisPerDay = 24 * millisPerHour;
 
+const [lineFeed, carriageReturn, comma] = [0x0a, 0x0d, 0x2c];
+
 const nonEmptyLine = /[^\r\n]+/g;
-// A line whose tag, the text before the first comma, is that of a known sentence; and the tag.
-const knownLine = /(?:^|[\r\n])((\$GP(?:RMC|GGA|GLL|WPL))(?![^,\r\n])[^\r\n]*)/g;
+const restOfLine = /[^\r\n]*/y;
 const timeOfDay = /^\d{6}(?:\.\d{2,3})?$/;
 const sixDigits = /^\d{6}$/;
 const decimal = /^\d+\.\d+$/;
 
+// Fields of the patterns below.
+const anything = "[^,\\r\\n]*";
+const position = "(\\d+\\.\\d+),([NS]),(\\d+\\.\\d+),([EW])";
+const time = "(\\d{6}(?:\\.\\d{2,3})?)";
 
 // How each sentence is read:
-//  - usual: a line with nothing out of place; its groups are the values that count;
+//  - line: patterns of a line with nothing out of place, whose groups are the values that count;
 //  - fields: the fields that these groups are, the tag being field 0;
 //  - accepts: whether other lines are well formed. Where any text may stand, commas may too, and
 //    what follows stands farther to the right. Looking for the leftmost place of each finds a
@@ -32,7 +37,8 @@ const decimal = /^\d+\.\d+$/;
 //  - point, time: made of the groups. A sentence without time has points without time stamps.
 const sentences = {
     $GPRMC: {
-        usual: /^\$GPRMC,(\d{6}(?:\.\d{2,3})?),[^,]*,(\d+\.\d+),([NS]),(\d+\.\d+),([EW]),[^,]*,[^,]*,(\d{6}),[^,]*,/,
+        line: patternsOf("$GPRMC", time, anything, position, anything, anything, "(\\d{6})",
+                         anything, ""),
         fields: [1, 3, 4, 5, 6, 9],
         accepts: fields => {
             const position = indexOf(fields, 3, fields.length, isPosition);
@@ -43,7 +49,8 @@ const sentences = {
         time: (groups, prevDate) => parseDateFromNmea(groups[6], groups[1], prevDate),
     },
     $GPGGA: {
-        usual: /^\$GPGGA,(\d{6}(?:\.\d{2,3})?),(\d+\.\d+),([NS]),(\d+\.\d+),([EW]),[^,]*,[^,]*,[^,]*,(\d+\.\d+),[^,]*,[^,]*,[^,]*,[^,]*,/,
+        line: patternsOf("$GPGGA", time, position, anything, anything, anything, "(\\d+\\.\\d+)",
+                         anything, anything, anything, anything, ""),
         fields: [1, 2, 3, 4, 5, 9],
         accepts: fields => timeOfDay.test(fields[1]) && isPosition(fields, 2)
             && indexOf(fields, 9, fields.length - 5, isDecimal) >= 0,
@@ -52,20 +59,28 @@ const sentences = {
         time: (groups, prevDate) => parseDateFromNmea("", groups[1], prevDate),
     },
     $GPGLL: {
-        usual: /^\$GPGLL,(\d+\.\d+),([NS]),(\d+\.\d+),([EW]),([^,]*)/,
+        line: patternsOf("$GPGLL", position, "(" + anything + ")"),
         fields: [1, 2, 3, 4, 5],
         accepts: () => false,
         point: groups => createTrackPoint("$GPGLL", groups[1], groups[2], groups[3], groups[4], 0),
         time: (groups, prevDate) => parseDateFromNmea("", checkedTime(groups[5]), prevDate),
     },
     $GPWPL: {
-        usual: /^\$GPWPL,(\d+\.\d+),([NS]),(\d+\.\d+),([EW]),/,
+        line: patternsOf("$GPWPL", position, ""),
         fields: [1, 2, 3, 4],
         accepts: () => false,
         point: groups => createTrackPoint("$GPWPL", groups[1], groups[2], groups[3], groups[4], 0),
         time: () => null,
     },
 };
+const tags = Object.keys(sentences);
+
+// Patterns for a place in a text: of a line that begins with these fields, and of none there. A
+// pattern that fails is twice as quick as one that matches, of which the engine makes an object.
+function patternsOf(tag, ...fields) {
+    const line = "\\" + [tag, ...fields].join(",");
+    return {usual: new RegExp(line, "y"), notUsual: new RegExp("(?!" + line + ")", "y")};
+}
 
 function isSixDigits(fields, index) {
     return sixDigits.test(fields[index]);
@@ -89,17 +104,36 @@ function indexOf(fields, begin, end, accept) {
     return -1;
 }
 
-// The groups of a line of this sentence, or null when it is not well formed.
-function groupsOf(sentence, line) {
-    const usual = sentence.usual.exec(line);
+// Where the first line of a sentence begins, from a position of the text on; infinity for none.
+function indexOfLine(text, tag, position) {
+    for (;;) {
+        const start = text.indexOf(tag, position);
+        if (start < 0)
+            return Infinity;
+        position = start + tag.length;
+        const before = start === 0 ? lineFeed : text.charCodeAt(start - 1);
+        const after = position === text.length ? lineFeed : text.charCodeAt(position);
+        if ((before === lineFeed || before === carriageReturn)
+                && (after === comma || after === lineFeed || after === carriageReturn))
+            return start;
+    }
+}
+
+// The groups of the line of this sentence at a position, or null when it is not well formed.
+function groupsOf(sentence, text, start) {
+    sentence.line.usual.lastIndex = start;
+    const usual = sentence.line.usual.exec(text);
     if (usual)
         return usual;
+    restOfLine.lastIndex = start;
+    const line = restOfLine.exec(text)[0];
     const fields = line.split(",");
     return sentence.accepts(fields) ? [line, ...sentence.fields.map(index => fields[index])] : null;
 }
 
-function isWellFormed(sentence, line) {
-    return sentence.usual.test(line) || sentence.accepts(line.split(","));
+function isWellFormed(sentence, text, start) {
+    sentence.line.notUsual.lastIndex = start;
+    return !sentence.line.notUsual.test(text) || groupsOf(sentence, text, start) !== null;
 }
 
 // What loadNmeaLog() throws. Lines count from 1 and empty ones not at all; 0 stands for no line.
@@ -159,9 +193,11 @@ function parseLongitudeFromNmea(longitudeString, longitudeHemisphere) {
 // that a date lies a month late, and the day stands for the year as well: the stamps of a log jump
 // by years at midnight and by other than a month's length at its end.
 function parseDateFromNmea(dateString, timeString, prevDate) {
-    const time = Number(timeString.substring(0, 2)) * millisPerHour
-        + Number(timeString.substring(2, 4)) * millisPerMinute
-        + Number(timeString.substring(4, 6)) * millisPerSecond
+    const digits = Number(timeString.substring(0, 6));
+    const hours = Math.floor(digits / 10000);
+    const minutes = Math.floor(digits / 100) - 100 * hours;
+    const time = hours * millisPerHour + minutes * millisPerMinute
+        + digits % 100 * millisPerSecond
         + Math.round(Number("0." + timeString.substring(7)) * millisPerSecond);
     if (dateString) {
         const day = Number(dateString.substring(0, 2));
@@ -216,27 +252,35 @@ function loadNmeaLog(text) {
     let format = null;
     let startTime = null;
     let previousTime = null;
-    let match = null;
     let nextCollection = 8192;
-    knownLine.lastIndex = 0;
-    for (let lines = 1; (match = knownLine.exec(text)); ++lines) {
-        if (lines === nextCollection) {
+    // where the next line of each sentence begins
+    const starts = tags.map(tag => indexOfLine(text, tag, 0));
+    for (;;) {
+        let next = 0;
+        for (let i = 1; i < tags.length; ++i) {
+            if (starts[i] < starts[next])
+                next = i;
+        }
+        const start = starts[next];
+        if (start === Infinity)
+            break;
+        const tag = tags[next];
+        const sentence = sentences[tag];
+        starts[next] = indexOfLine(text, tag, start + tag.length);
+        // the first sentence decides what the track is made of
+        if (format && tag !== format && isWellFormed(sentence, text, start))
+            continue;
+        if (points.length === nextCollection) {
             collectGarbage();
             nextCollection *= 2;
         }
-        const tag = match[2];
-        const sentence = sentences[tag];
-        // the first sentence decides what the track is made of
-        if (format && tag !== format && isWellFormed(sentence, match[1]))
-            continue;
-        const groups = groupsOf(sentence, match[1]);
+        const groups = groupsOf(sentence, text, start);
         const point = groups && sentence.point(groups);
         const time = groups && sentence.time(groups, previousTime);
         // in a line that is not usual, anything may stand in the place of a value
         if (!groups || !isFinite(point.latitude + point.longitude + point.altitude)
                 || (time && isNaN(time.getTime()))) {
-            throw syntaxError("Incorrect NMEA file",
-                              countLines(text.substring(0, knownLine.lastIndex)));
+            throw syntaxError("Incorrect NMEA file", countLines(text.substring(0, start + 1)));
         }
         format = tag;
         previousTime = time;
