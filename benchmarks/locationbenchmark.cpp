@@ -50,14 +50,20 @@ static double memory(const QByteArray &key)
     return 0;
 }
 
-static QQuickItem *gpsPage()
+/// The item that \a file describes.
+static QQuickItem *item(const QByteArray &file)
 {
     const QList<QQuickItem *> items = view()->rootObject()->findChildren<QQuickItem *>();
     for (QQuickItem *item : items) {
-        if (QByteArrayView(item->metaObject()->className()).startsWith("GpsManagementPage"))
+        if (QByteArrayView(item->metaObject()->className()).startsWith(file))
             return item;
     }
-    qFatal("There is no GPS page");
+    qFatal("There is no %s", file.constData());
+}
+
+static QQuickItem *gpsPage()
+{
+    return item("GpsManagementPage");
 }
 
 static int lastRow()
@@ -252,7 +258,7 @@ void LocationBenchmark::testPlayback()
     QSignalSpy stepped(gpsManager(), SIGNAL(currentPositionIndexChanged()));
     clock.start();
     bare.start(interval);
-    QMetaObject::invokeMethod(gpsPage(), "startTrack");
+    QMetaObject::invokeMethod(item("TrackPlayer"), "start");
     while (gpsManager()->property("currentPositionIndex").toInt() < steps)
         QVERIFY(stepped.wait());
     const double time = static_cast<double>(clock.nsecsElapsed()) / 1e6;

@@ -7,8 +7,7 @@ import "../js/nmea-parsing.js" as Nmea
 import "../js/text-file.js" as TextFile
 import "../js/track-rows.js" as TrackRows
 
-// Sets a position, or plays a track: a timer steps from point to point, and the emulator is told
-// each of them.
+// Sets a position, or loads a track and plays it.
 EmulationPage {
     id: root
 
@@ -25,11 +24,9 @@ EmulationPage {
     readonly property double altitudeMaxValue: 10000
     readonly property int latLongRoundingSize: Nmea.latLongRoundingSize
     readonly property int altRoundingSize: Nmea.altRoundingSize
-    // Milliseconds between points without intervals of their own, and before a track starts over.
-    readonly property int defaultInterval: 2000
+    readonly property alias defaultInterval: player.defaultInterval
     readonly property int lastRow: trackTable.rowCount - 1
-    // The track as the emulator was given it.
-    property var actualTrackPoints: []
+    property alias actualTrackPoints: player.actualTrackPoints
     // The track has no times to play it by.
     property bool onlyDefaultInterval: false
     property bool trackStopped: true
@@ -72,7 +69,7 @@ EmulationPage {
         gpsManager.currentPositionIndex = 0;
         selectRow(0);
         setCurrentCoordinate();
-        stopTrack();
+        player.stop();
         gpsManager.loadTrack(actualTrackPoints);
     }
 
@@ -83,7 +80,7 @@ EmulationPage {
 
     function selectRow(row: int) {
         trackTable.selectRow(row);
-        if (trackTimer.running)
+        if (player.playing)
             trackTable.showRow(row);
     }
 
@@ -96,69 +93,6 @@ EmulationPage {
         gpsManager.setLocalPosition(row["Latitude"], row["Longitude"], row["Altitude"]);
     }
 
-    function startTrack() {
-        if (gpsManager.currentPositionIndex === lastRow)
-            gpsManager.stopTrack();
-        gpsManager.startTrack();
-        runTrackTimer();
-    }
-
-    function pauseTrack() {
-        gpsManager.pauseTrack();
-        synchronize();
-        trackTimer.stop();
-    }
-
-    // The emulator hears "startTrack" once more if the first row is not current: see goToRow().
-    function stopTrack() {
-        gpsManager.stopTrack();
-        trackTimer.stop();
-    }
-
-    function goToRow(row: int) {
-        if (row < 0 || trackTable.rowCount === 0)
-            return;
-        // a connection that was lost took the track with it
-        if (!gpsManager.trackLoaded)
-            gpsManager.loadTrack(actualTrackPoints);
-        gpsManager.goToPositionOnTrack(row);
-        const playing = trackTimer.running;
-        trackTimer.stop();
-        if (playing)
-            startTrack();
-    }
-
-    function runTrackTimer() {
-        const index = gpsManager.currentPositionIndex;
-        if (index < lastRow) {
-            const interval = gpsManager.useDefaultInterval
-                ? defaultInterval : actualTrackPoints[index + 1].interval;
-            runTrackTimerFor(interval / gpsManager.trackSpeed);
-        } else if (gpsManager.trackLooped) {
-            runTrackTimerFor(defaultInterval);
-        }
-    }
-
-    function runTrackTimerFor(interval: double) {
-        const longestInterval = 0x7fffffff;
-        trackTimer.interval = Math.min(Math.max(1, Math.trunc(interval)), longestInterval);
-        trackTimer.restart();
-    }
-
-    function step() {
-        const index = gpsManager.currentPositionIndex;
-        const next = index >= lastRow ? 0 : index + 1;
-        gpsManager.currentPositionIndex = next;
-        if (next < lastRow || gpsManager.trackLooped)
-            runTrackTimer();
-        else
-            synchronize();
-    }
-
-    function synchronize() {
-        gpsManager.goToPositionOnTrack(gpsManager.currentPositionIndex);
-    }
-
     onOnlyDefaultIntervalChanged: {
         if (!onlyDefaultInterval)
             return;
@@ -167,18 +101,11 @@ EmulationPage {
         messageDialog.open();
     }
 
-    Timer {
-        id: trackTimer
+    TrackPlayer {
+        id: player
 
-        onTriggered: root.step()
-    }
-
-    Timer {
-        interval: 100
-        repeat: true
-        running: trackTimer.running
-
-        onTriggered: root.synchronize()
+        gpsManager: root.gpsManager
+        lastRow: root.lastRow
     }
 
     Connections {
@@ -197,7 +124,7 @@ EmulationPage {
         function onReplyFromEmulatorReceived(reply: string) {
             if (reply === "OK")
                 return;
-            root.stopTrack();
+            player.stop();
             root.nmeaFileUrl = "";
             root.clearTrack();
         }
@@ -232,60 +159,23 @@ EmulationPage {
                 position: root.gpsManager.currentPosition
             }
 
-            GroupBox {
+            CoordinateControls {
                 Layout.fillWidth: true
-                title: qsTr("Coordinate")
+                altitudeDecimals: root.altRoundingSize
+                altitudeMaxValue: root.altitudeMaxValue
+                altitudeMinValue: root.altitudeMinValue
+                coordinateDecimals: root.latLongRoundingSize
+                gpsManager: root.gpsManager
+                latitudeMaxValue: root.latitudeMaxValue
+                latitudeMinValue: root.latitudeMinValue
+                longitudeMaxValue: root.longitudeMaxValue
+                longitudeMinValue: root.longitudeMinValue
+                numberLocale: root.locale
 
-                RowLayout {
-                    anchors.fill: parent
-                    spacing: 12
-
-                    CoordinateField {
-                        id: latitudeField
-
-                        decimals: root.latLongRoundingSize
-                        label: qsTr("Latitude")
-                        locale: root.locale
-                        maxValue: root.latitudeMaxValue
-                        minValue: root.latitudeMinValue
-
-                        onSubmitted: value => root.gpsManager.setLatitude(value)
-                    }
-
-                    CoordinateField {
-                        id: longitudeField
-
-                        decimals: root.latLongRoundingSize
-                        label: qsTr("Longitude")
-                        locale: root.locale
-                        maxValue: root.longitudeMaxValue
-                        minValue: root.longitudeMinValue
-
-                        onSubmitted: value => root.gpsManager.setLongitude(value)
-                    }
-
-                    CoordinateField {
-                        id: altitudeField
-
-                        decimals: root.altRoundingSize
-                        label: qsTr("Altitude")
-                        locale: root.locale
-                        maxValue: root.altitudeMaxValue
-                        minValue: root.altitudeMinValue
-
-                        onSubmitted: value => root.gpsManager.setAltitude(value)
-                    }
-
-                    Button {
-                        text: qsTr("Set")
-
-                        onClicked: {
-                            if (trackTimer.running)
-                                root.pauseTrack();
-                            root.gpsManager.setPosition(latitudeField.value(), longitudeField.value(),
-                                                        altitudeField.value());
-                        }
-                    }
+                onPositionSubmitted: (latitude, longitude, altitude) => {
+                    if (player.playing)
+                        player.pause();
+                    root.gpsManager.setPosition(latitude, longitude, altitude);
                 }
             }
 
@@ -335,10 +225,10 @@ EmulationPage {
                         }
                         onPressedChanged: {
                             if (pressed) {
-                                root.playingWhenPressed = trackTimer.running;
-                                trackTimer.stop();
+                                root.playingWhenPressed = player.playing;
+                                player.hold();
                             } else if (root.playingWhenPressed) {
-                                root.startTrack();
+                                player.start();
                             }
                         }
                     }
@@ -348,17 +238,17 @@ EmulationPage {
                         enabled: trackTable.rowCount > 0
                         gpsManager: root.gpsManager
                         onlyDefaultInterval: root.onlyDefaultInterval
-                        playing: trackTimer.running
+                        playing: player.playing
                         stopped: root.trackStopped
 
-                        onPauseClicked: root.pauseTrack()
+                        onPauseClicked: player.pause()
                         onPlayClicked: {
                             root.trackStopped = false;
-                            root.startTrack();
+                            player.start();
                         }
                         onStopClicked: {
                             root.trackStopped = true;
-                            root.stopTrack();
+                            player.stop();
                         }
                     }
 
@@ -369,7 +259,10 @@ EmulationPage {
                         Layout.fillWidth: true
                         Layout.minimumHeight: 60
 
-                        onCurrentRowChanged: root.goToRow(currentRow)
+                        onCurrentRowChanged: {
+                            if (currentRow >= 0 && rowCount > 0)
+                                player.goToRow(currentRow);
+                        }
                     }
                 }
             }
