@@ -80,6 +80,42 @@ int LocationTest::rowCount() const
     return m_page->table()->property("rowCount").toInt();
 }
 
+void LocationTest::testCoordinates_data()
+{
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("call");
+    QTest::newRow("lowest") << "Latitude" << "-90" << "setLatitude double:-90.0000000";
+    QTest::newRow("letters") << "Latitude" << "x1e5y" << "setLatitude double:15.0000000";
+    QTest::newRow("no number") << "Latitude" << "-" << "";
+    QTest::newRow("too large") << "Longitude" << "180.1" << "setLongitude double:180.0000000";
+    QTest::newRow("decimals") << "Longitude" << "0.123456789" << "setLongitude double:0.1234567";
+    QTest::newRow("group") << "Altitude" << "1,000.256" << "setAltitude double:1000.25";
+}
+
+void LocationTest::testCoordinates()
+{
+    QFETCH(QString, label);
+    QFETCH(QString, text);
+    QFETCH(QString, call);
+    takeCalls();
+    m_page->type(label, text);
+    QCOMPARE(takeCalls(), call.isEmpty() ? QStringList() : QStringList{call});
+}
+
+void LocationTest::testHighAltitude()
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("high.nmea"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("$GPGGA,123519,4807.038,N,01131.000,E,1,08,0.9,1545.4,M,46.9,M,,*47\n");
+    file.close();
+    takeCalls();
+    m_page->openTrack(file.fileName());
+    // the group separator of the table's "1,545.40" is no part of a number for the emulator
+    waitForCall("loadTrack array:array:double:48.1173000,11.5166667,0.00,0");
+}
+
 void LocationTest::testTrackIsUploaded_data()
 {
     QTest::addColumn<QString>("sample");
@@ -181,7 +217,7 @@ void LocationTest::testSteering()
     calls = takeCalls();
     QCOMPARE(calls.last(3),
              (QStringList{"pauseTrack ", goTo(2),
-                          "setPosition double:0.0000000 double:0.0000000 double:0.00"}));
+                          "setPosition double:15.0000000 double:0.1234567 double:1000.25"}));
     window().clickButton("Use own track speed");
     QCOMPARE(takeCalls(), QStringList{"setTrackIntervalMode boolean:0"});
 }
