@@ -31,6 +31,8 @@ EmulationPage {
     property bool onlyDefaultInterval: false
     property bool trackStopped: true
     property string nmeaFileUrl: ""
+    // Bytes. Points take some forty times as much memory as in their file.
+    readonly property int maximumFileSize: 100e6
     // How many files have been read or begun.
     property int fileRequests: 0
     // The track was playing when the handle of the progress was taken.
@@ -51,6 +53,10 @@ EmulationPage {
         try {
             if (text === null)
                 throw new Error(qsTr("NMEA file cannot be read"));
+            if (text.length > maximumFileSize) {
+                throw new Error(qsTr("NMEA file is larger than %1 MB")
+                                    .arg(maximumFileSize / 1e6));
+            }
             points = Nmea.loadNmeaLog(text);
         } catch (error) {
             clearTrack();

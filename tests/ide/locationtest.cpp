@@ -280,6 +280,8 @@ void LocationTest::testBadFile_data()
     QTest::newRow("unknown") << QByteArray("$GNGGA,1\n\nx\n") << unknown + ", line: 2";
     QTest::newRow("malformed") << point + "\n\n$GPGLL,x\n" << "Incorrect NMEA file, line: 2";
     QTest::newRow("binary") << QByteArray("\0\xff\xfe\n\x80$GP\0", 9) << unknown + ", line: 2";
+    QTest::newRow("large") << point.repeated(100'000'000 / point.size() + 1)
+                           << "NMEA file is larger than 100 MB";
     QTest::newRow("vanished") << QByteArray() << "NMEA file cannot be read";
     QTest::newRow("with a name, 100 % #1 \u00e9\u044f") << point << QString();
 }
