@@ -9,37 +9,51 @@ const QString RemoteDBusInvokerService::portForwardingRule
 
 RemoteDBusInvokerService::RemoteDBusInvokerService(QObject *parent)
     : QObject(parent)
-    , m_webSocket(QString(), QWebSocketProtocol::Version13)
+{}
+
+RemoteDBusInvokerService::~RemoteDBusInvokerService()
 {
-    connect(&m_webSocket, &QWebSocket::connected, this,
-            &RemoteDBusInvokerService::webSocketConnected);
-    connect(&m_webSocket, &QWebSocket::disconnected, this,
+    // a socket that goes reports its end, which would open it again
+    if (m_webSocket)
+        m_webSocket->disconnect(this);
+}
+
+void RemoteDBusInvokerService::createWebSocket()
+{
+    m_webSocket.emplace(QString(), QWebSocketProtocol::Version13);
+    QWebSocket *webSocket = &*m_webSocket;
+    connect(webSocket, &QWebSocket::connected, this, &RemoteDBusInvokerService::webSocketConnected);
+    connect(webSocket, &QWebSocket::disconnected, this,
             &RemoteDBusInvokerService::webSocketDisconnected);
-    connect(&m_webSocket, &QWebSocket::disconnected, this,
+    connect(webSocket, &QWebSocket::disconnected, this,
             &RemoteDBusInvokerService::connectToEmulator);
-    connect(&m_webSocket, &QWebSocket::textMessageReceived, this,
+    connect(webSocket, &QWebSocket::textMessageReceived, this,
             &RemoteDBusInvokerService::replyReceived);
 }
 
 void RemoteDBusInvokerService::connectToEmulator()
 {
-    m_webSocket.open(QUrl(QStringLiteral("ws://127.0.0.1:%1").arg(hostTcpPort)));
+    if (!m_webSocket)
+        createWebSocket();
+    m_webSocket->open(QUrl(QStringLiteral("ws://127.0.0.1:%1").arg(hostTcpPort)));
 }
 
 void RemoteDBusInvokerService::callDBusMethod(const QString &bus, const QString &service,
                                               const QString &objectPath, const QString &interface,
                                               const QString &method, const QString &arguments)
 {
+    if (!m_webSocket)
+        return;
     // Filled one after the other, the arguments last: nothing in them is taken for a placeholder.
-    m_webSocket.sendTextMessage(QStringLiteral("%1 %2 %3 %4 %5 %6")
-                                    .arg(bus)
-                                    .arg(service)
-                                    .arg(objectPath)
-                                    .arg(interface)
-                                    .arg(method)
-                                    .arg(arguments));
+    m_webSocket->sendTextMessage(QStringLiteral("%1 %2 %3 %4 %5 %6")
+                                     .arg(bus)
+                                     .arg(service)
+                                     .arg(objectPath)
+                                     .arg(interface)
+                                     .arg(method)
+                                     .arg(arguments));
     // The call is under way while the pages follow the models.
-    m_webSocket.flush();
+    m_webSocket->flush();
 }
 
 } // namespace EmulationManagement::Internal

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QWebSocket>
 
+#include <optional>
+
 namespace EmulationManagement::Internal {
 
 /*!
@@ -25,6 +27,7 @@ public:
     static const QString portForwardingRule;
 
     explicit RemoteDBusInvokerService(QObject *parent = nullptr);
+    ~RemoteDBusInvokerService() override;
 
     /// Opens the WebSocket to the host end of the forwarded port.
     void connectToEmulator();
@@ -45,7 +48,11 @@ Q_SIGNALS:
     void replyReceived(const QString &reply);
 
 private:
-    QWebSocket m_webSocket;
+    void createWebSocket();
+
+    // Made with the first connection: the first socket of a process loads its TLS library, which
+    // takes longer than all else that the plugin does in C++ when the IDE starts.
+    std::optional<QWebSocket> m_webSocket;
 };
 
 } // namespace EmulationManagement::Internal
