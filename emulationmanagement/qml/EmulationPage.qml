@@ -2,10 +2,16 @@ import QtQuick
 
 // What the main view expects of a page. Only the active page is shown.
 Item {
+    id: root
+
     property bool active: false
+    // What fills the page, made when it is shown first: the IDE loads the pages when it starts, in
+    // a window that may never be opened.
+    property Component content: null
     // Controls that are made later take their palette from an item that had one when the IDE's
     // theme came; below none they would get the style's own.
     readonly property var idePalette: palette
+    readonly property bool shown: visible && Window.visibility !== Window.Hidden
 
     // Finishes the page's own work before another page is shown, then calls continuation.
     function exitPage(continuation: var) {
@@ -13,4 +19,18 @@ Item {
     }
 
     visible: active
+
+    onShownChanged: {
+        if (shown)
+            loader.active = true;
+    }
+
+    Loader {
+        id: loader
+
+        active: false
+        anchors.fill: parent
+        anchors.margins: 12
+        sourceComponent: root.content
+    }
 }

@@ -64,41 +64,7 @@ EmulationPage {
         warningDialog.show();
     }
 
-    Component.onCompleted: reset()
-
-    Connections {
-        target: root.sensorsManager
-
-        function onSensorsAvailabilityChanged() {
-            root.reset();
-        }
-
-        function onSensorsEnabledStatesChanged() {
-            root.reset();
-        }
-    }
-
-    WarningDialog {
-        id: warningDialog
-
-        property var continuation
-
-        standardButtons: MessageDialog.Discard | MessageDialog.Apply // qmllint disable missing-type
-        text: qsTr("The sensor configuration has been changed. Apply or discard changes?")
-
-        onAccepted: {
-            root.apply();
-            continuation(); // qmllint disable use-proper-function
-        }
-        onRejected: {
-            root.reset();
-            continuation(); // qmllint disable use-proper-function
-        }
-    }
-
-    ColumnLayout {
-        anchors.fill: parent
-        anchors.margins: 12
+    content: ColumnLayout {
         spacing: 12
 
         PageScrollView {
@@ -143,6 +109,38 @@ EmulationPage {
                 text: qsTr("Reset")
                 onClicked: root.reset()
             }
+        }
+    }
+
+    Component.onCompleted: reset()
+
+    Connections {
+        target: root.sensorsManager
+
+        function onSensorsAvailabilityChanged() {
+            root.reset();
+        }
+
+        function onSensorsEnabledStatesChanged() {
+            root.reset();
+        }
+    }
+
+    WarningDialog {
+        id: warningDialog
+
+        property var continuation
+
+        standardButtons: MessageDialog.Discard | MessageDialog.Apply // qmllint disable missing-type
+        text: qsTr("The sensor configuration has been changed. Apply or discard changes?")
+
+        onAccepted: {
+            root.apply();
+            continuation(); // qmllint disable use-proper-function
+        }
+        onRejected: {
+            root.reset();
+            continuation(); // qmllint disable use-proper-function
         }
     }
 }

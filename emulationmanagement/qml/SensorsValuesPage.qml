@@ -19,56 +19,7 @@ EmulationPage {
         return sensorsManager.sensorsEnabledStates[sensorName] ?? false;
     }
 
-    function resetValues() {
-        for (const control of sensorsGrid.children)
-            control.clearFocus?.();
-        sensorsManager.setDefaultValues();
-    }
-
-    onActiveChanged: {
-        if (active)
-            modelSensorChanged = false;
-    }
-
-    component ModelWatch: Connections {
-        function onXChanged() {
-            root.modelSensorChanged = true;
-        }
-        function onYChanged() {
-            root.modelSensorChanged = true;
-        }
-        function onZChanged() {
-            root.modelSensorChanged = true;
-        }
-    }
-
-    ModelWatch {
-        target: root.sensorsManager.accelerometer
-    }
-
-    ModelWatch {
-        target: root.sensorsManager.magnetometer
-    }
-
-    ModelWatch {
-        target: root.sensorsManager.magneticField
-    }
-
-    ModelWatch {
-        target: root.sensorsManager.gyroscope
-    }
-
-    Connections {
-        target: root.sensorsManager
-
-        function onSensorsInitialized() {
-            root.modelSensorChanged = false;
-        }
-    }
-
-    ColumnLayout {
-        anchors.fill: parent
-        anchors.margins: 12
+    content: ColumnLayout {
         spacing: 12
 
         PageScrollView {
@@ -164,7 +115,53 @@ EmulationPage {
 
         Button {
             text: qsTr("Reset values")
-            onClicked: root.resetValues()
+
+            onClicked: {
+                for (const control of sensorsGrid.children)
+                    control.clearFocus?.();
+                root.sensorsManager.setDefaultValues();
+            }
+        }
+    }
+
+    onActiveChanged: {
+        if (active)
+            modelSensorChanged = false;
+    }
+
+    component ModelWatch: Connections {
+        function onXChanged() {
+            root.modelSensorChanged = true;
+        }
+        function onYChanged() {
+            root.modelSensorChanged = true;
+        }
+        function onZChanged() {
+            root.modelSensorChanged = true;
+        }
+    }
+
+    ModelWatch {
+        target: root.sensorsManager.accelerometer
+    }
+
+    ModelWatch {
+        target: root.sensorsManager.magnetometer
+    }
+
+    ModelWatch {
+        target: root.sensorsManager.magneticField
+    }
+
+    ModelWatch {
+        target: root.sensorsManager.gyroscope
+    }
+
+    Connections {
+        target: root.sensorsManager
+
+        function onSensorsInitialized() {
+            root.modelSensorChanged = false;
         }
     }
 }

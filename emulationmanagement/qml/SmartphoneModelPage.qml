@@ -50,6 +50,98 @@ EmulationPage {
     }
 
     activeFocusOnTab: true
+    content: RowLayout {
+        spacing: 12
+
+        SmartphoneModelArea {
+            Layout.fillHeight: true
+            Layout.fillWidth: true
+            Layout.minimumWidth: 160
+            Layout.preferredWidth: Layout.minimumWidth
+            displacement: motion.displacement
+            keyboardFocus: root.activeFocus
+            moveMaxValue: root.moveMaxValue
+            moveMinValue: root.moveMinValue
+            rotationMode: root.rotationMode
+
+            onMoved: displacement => motion.displacement = displacement
+            onPressed: root.forceActiveFocus()
+            onTurned: rotation => {
+                root.resetSlidersValue();
+                root.rotate(rotation);
+            }
+        }
+
+        PageScrollView {
+            id: controls
+
+            Layout.fillHeight: true
+            Layout.fillWidth: true
+            Layout.maximumWidth: Layout.preferredWidth
+            Layout.preferredWidth: 400
+
+            ColumnLayout {
+                spacing: 12
+                width: Math.max(controls.availableWidth, implicitWidth)
+
+                Row {
+                    spacing: 12
+
+                    RadioButton {
+                        checked: root.rotationMode
+                        focusPolicy: Qt.TabFocus // the keys stay with the device
+                        text: qsTr("Rotation")
+
+                        onToggled: root.rotationMode = checked
+                    }
+
+                    RadioButton {
+                        checked: !root.rotationMode
+                        focusPolicy: Qt.TabFocus
+                        text: qsTr("Move")
+
+                        onToggled: root.rotationMode = !checked
+                    }
+                }
+
+                StackLayout {
+                    Layout.fillHeight: false
+                    currentIndex: root.rotationMode ? 0 : 1
+
+                    Sliders {
+                        labels: [qsTr("X-Rot"), qsTr("Y-Rot"), qsTr("Z-Rot")]
+                        maxValue: root.rotMaxValue
+                        minValue: root.rotMinValue
+                        values: motion.rotation
+
+                        onSubmitted: rotation => root.rotate(rotation)
+                    }
+
+                    Sliders {
+                        labels: [qsTr("X"), qsTr("Y"), qsTr("Z")]
+                        maxValue: root.moveMaxValue
+                        minValue: root.moveMinValue
+                        values: motion.displacement
+
+                        onSubmitted: displacement => motion.displacement = displacement
+                    }
+                }
+
+                DeviceRotationButtons {
+                    Layout.fillWidth: true
+
+                    onChosen: rotation => root.rotate(rotation)
+                }
+
+                ResultingValues {
+                    Layout.fillWidth: true
+                    decimals: root.numberRoundingSize
+                    motion: motion
+                    numberLocale: root.locale
+                }
+            }
+        }
+    }
 
     Component.onCompleted: motion.updateAttitudeValues()
     Keys.onPressed: event => {
@@ -70,12 +162,10 @@ EmulationPage {
             motion.updateAttitudeValues(); // the acceleration of the move ends
     }
     onActiveChanged: {
-        if (active) {
-            content.active = true;
+        if (active)
             forceActiveFocus();
-        } else {
+        else
             controlModifierPressed = false;
-        }
     }
     onControlModifierPressedChanged: rotationMode = !rotationMode
     // The sliders of the other mode take the focus with them when they are hidden.
@@ -109,107 +199,5 @@ EmulationPage {
         running: root.active
 
         onTriggered: motion.sample()
-    }
-
-    // The IDE loads this page when it starts: the controls wait until they are needed.
-    Loader {
-        id: content
-
-        active: false
-        anchors.fill: parent
-        anchors.margins: 12
-
-        sourceComponent: RowLayout {
-            spacing: 12
-
-            SmartphoneModelArea {
-                Layout.fillHeight: true
-                Layout.fillWidth: true
-                Layout.minimumWidth: 160
-                Layout.preferredWidth: Layout.minimumWidth
-                displacement: motion.displacement
-                keyboardFocus: root.activeFocus
-                moveMaxValue: root.moveMaxValue
-                moveMinValue: root.moveMinValue
-                rotationMode: root.rotationMode
-
-                onMoved: displacement => motion.displacement = displacement
-                onPressed: root.forceActiveFocus()
-                onTurned: rotation => {
-                    root.resetSlidersValue();
-                    root.rotate(rotation);
-                }
-            }
-
-            PageScrollView {
-                id: controls
-
-                Layout.fillHeight: true
-                Layout.fillWidth: true
-                Layout.maximumWidth: Layout.preferredWidth
-                Layout.preferredWidth: 400
-
-                ColumnLayout {
-                    spacing: 12
-                    width: Math.max(controls.availableWidth, implicitWidth)
-
-                    Row {
-                        spacing: 12
-
-                        RadioButton {
-                            checked: root.rotationMode
-                            focusPolicy: Qt.TabFocus // the keys stay with the device
-                            text: qsTr("Rotation")
-
-                            onToggled: root.rotationMode = checked
-                        }
-
-                        RadioButton {
-                            checked: !root.rotationMode
-                            focusPolicy: Qt.TabFocus
-                            text: qsTr("Move")
-
-                            onToggled: root.rotationMode = !checked
-                        }
-                    }
-
-                    StackLayout {
-                        Layout.fillHeight: false
-                        currentIndex: root.rotationMode ? 0 : 1
-
-                        Sliders {
-                            labels: [qsTr("X-Rot"), qsTr("Y-Rot"), qsTr("Z-Rot")]
-                            maxValue: root.rotMaxValue
-                            minValue: root.rotMinValue
-                            values: motion.rotation
-
-                            onSubmitted: rotation => root.rotate(rotation)
-                        }
-
-                        Sliders {
-                            labels: [qsTr("X"), qsTr("Y"), qsTr("Z")]
-                            maxValue: root.moveMaxValue
-                            minValue: root.moveMinValue
-                            values: motion.displacement
-
-                            onSubmitted: displacement => motion.displacement = displacement
-                        }
-                    }
-
-                    DeviceRotationButtons {
-                        Layout.fillWidth: true
-
-                        onChosen: rotation => root.rotate(rotation)
-                    }
-
-                    ResultingValues {
-                        Layout.fillWidth: true
-                        decimals: root.numberRoundingSize
-                        motion: motion
-                        numberLocale: root.locale
-                    }
-                }
-            }
-        }
     }
 }

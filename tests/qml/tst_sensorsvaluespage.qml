@@ -94,14 +94,15 @@ Item {
             sensorsEmulationManager.setAccelerometerValues(1500, -2000, 250);
             compare(shown(), ["1.500", "-2.000", "0.250"]);
             type(axis("accelerometer", 0), "-");
-            mouseClick(Find.find(page, item => item instanceof Button
-                                               && item.text === "Reset values"));
+            const button = Find.find(page, item => item instanceof Button
+                                                   && item.text === "Reset values");
+            mouseClick(button);
             const model = sensorsEmulationManager.accelerometer;
             compare([model.x, model.y, model.z], [0, 0, 1000]);
             compare(shown(), ["0.000", "0.000", "1.000"]);
 
             type(axis("accelerometer", 0), "2");
-            page.resetValues(); // by a button that takes no focus
+            button.clicked(); // without taking the focus
             compare(shown(), ["0.000", "0.000", "1.000"]);
             verify(!field.activeFocus);
         }
