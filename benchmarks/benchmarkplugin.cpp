@@ -5,6 +5,7 @@
 #include "locationbenchmark.h"
 #include "restartbenchmark.h"
 #include "sliderbenchmark.h"
+#include "startupbenchmark.h"
 #include "viewbenchmark.h"
 
 bool BenchmarkPlugin::initialize(const QStringList &arguments, QString *errorString)
@@ -16,6 +17,7 @@ bool BenchmarkPlugin::initialize(const QStringList &arguments, QString *errorStr
     addTest<LocationBenchmark>();
     addTest<RestartBenchmark>();
     addTest<SliderBenchmark>();
+    addTest<StartUpBenchmark>();
     addTest<ViewBenchmark>();
     return true;
 }
