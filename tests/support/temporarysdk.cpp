@@ -52,13 +52,24 @@ bool TemporarySdk::addPortForwarding(const QString &rule, const QString &protoco
 QString TemporarySdk::requestFault(const QByteArray &command)
 {
     QLocalSocket control;
-    control.connectToServer(m_folder.filePath(u"emulators/nimbra-os-emulator/control"_s));
+    control.connectToServer(dataFile(u"control"_s));
     control.write(command + '\n');
     const auto isAnswered = [&control] {
         return control.canReadLine() || control.state() == QLocalSocket::UnconnectedState;
     };
     return QTest::qWaitFor(isAnswered) ? QString::fromUtf8(control.readLine()).trimmed()
                                        : u"no answer"_s;
+}
+
+QByteArray TemporarySdk::journal() const
+{
+    QFile file(dataFile(u"journal.jsonl"_s));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString TemporarySdk::dataFile(const QString &name) const
+{
+    return m_folder.filePath(u"emulators/nimbra-os-emulator/"_s + name);
 }
 
 } // namespace TestSupport

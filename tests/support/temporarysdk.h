@@ -33,8 +33,12 @@ public:
                                          unsigned short hostPort, unsigned short emulatorPort);
     /// Asks the running emulator for a fault and returns its answer, "ok" or "error: …".
     [[nodiscard]] QString requestFault(const QByteArray &command);
+    /// What the emulator wrote since the SDK's folder was made, a line an event.
+    [[nodiscard]] QByteArray journal() const;
 
 private:
+    [[nodiscard]] QString dataFile(const QString &name) const;
+
     QTemporaryDir m_folder;
     std::unique_ptr<Ravik::HostSdk> m_sdk;
 };

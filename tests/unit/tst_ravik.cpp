@@ -92,6 +92,7 @@ private Q_SLOTS:
         QCOMPARE(off, (QList<QVariantList>{{false}, {true}, {false}, {true}}));
         QVERIFY(!accepts(sshPort));
         QVERIFY(machine.errorString().isEmpty());
+        QCOMPARE(sdk.journal().count("\"stopped\""), 2); // nothing was killed
     }
 
     void deathIsNoticed()
