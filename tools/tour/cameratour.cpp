@@ -1,5 +1,6 @@
 #include "cameratour.h"
 
+#include "say.h"
 #include "waiting.h"
 
 #include <QDir>
@@ -9,16 +10,8 @@
 #include <QQuickWindow>
 #include <QSaveFile>
 
-#include <cstdio>
-
 // Smaller than the page, which scrolls then.
 static constexpr QSize smallSize(600, 250);
-
-static void say(const char *line)
-{
-    std::puts(line);
-    std::fflush(stdout);
-}
 
 static QString cameraFile()
 {

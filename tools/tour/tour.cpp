@@ -5,6 +5,7 @@
 #include "locationtour.h"
 #include "menudriver.h"
 #include "messageboxanswers.h"
+#include "say.h"
 #include "sensorstour.h"
 #include "waiting.h"
 
@@ -18,14 +19,6 @@
 #include <QQuickWindow>
 #include <QScreen>
 #include <QTest>
-
-#include <cstdio>
-
-static void say(const QString &line)
-{
-    std::puts(qPrintable(line));
-    std::fflush(stdout);
-}
 
 /// The picture shows what was drawn last: gives the windows a moment to draw and animate.
 static void settle()
