@@ -8,8 +8,12 @@ Button {
     readonly property color highlightColor: themeHighlightColor // qmllint disable unqualified
     readonly property color backgroundColor: themeBackgroundColorNormal // qmllint disable unqualified
 
+    // White alone cannot be read on the pale highlight of a light theme.
+    readonly property bool emphasized: active && highlightColor.hslLightness > 0.6
+
     anchors.left: parent?.left
     anchors.right: parent?.right
+    font.bold: emphasized
     leftPadding: 15
     rightPadding: 15
 
@@ -22,9 +26,8 @@ Button {
         minimumPixelSize: Math.ceil(0.8 * root.font.pixelSize)
         minimumPointSize: Math.max(1, Math.floor(0.8 * root.font.pointSize))
         opacity: root.enabled ? 1.0 : 0.3
-        // white alone cannot be read on the pale highlight of a light theme
-        style: root.active && root.highlightColor.hslLightness > 0.6 ? Text.Outline : Text.Normal
-        styleColor: Qt.darker(root.highlightColor, 2)
+        style: root.emphasized ? Text.Outline : Text.Normal
+        styleColor: Qt.darker(root.highlightColor, 3)
         text: root.text
         verticalAlignment: Text.AlignVCenter
     }
