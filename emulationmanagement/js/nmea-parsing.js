@@ -143,8 +143,10 @@ function syntaxError(message, incorrectLine) {
 
 // Without its time, a sentence of positions says nothing of use for a track.
 function checkedTime(text) {
-    if (!/^\d{6}/.test(text))
-        throw new TypeError(`NMEA file has a position at "${text}", which is not a time`);
+    if (!/^\d{6}/.test(text)) {
+        throw new TypeError(
+            qsTr('NMEA file has a position at "%1", which is not a time').arg(text));
+    }
     return text;
 }
 
@@ -247,7 +249,7 @@ function createTrackPoint(pointFormat, latString, latHemisphere, lonString, lonH
 // incorrectLine when there are none to be had.
 function loadNmeaLog(text) {
     if (text === "")
-        throw syntaxError("NMEA file is empty", 0);
+        throw syntaxError(qsTr("NMEA file is empty"), 0);
     const points = [];
     let format = null;
     let startTime = null;
@@ -280,7 +282,8 @@ function loadNmeaLog(text) {
         // in a line that is not usual, anything may stand in the place of a value
         if (!groups || !isFinite(point.latitude + point.longitude + point.altitude)
                 || (time && isNaN(time.getTime()))) {
-            throw syntaxError("Incorrect NMEA file", countLines(text.substring(0, start + 1)));
+            throw syntaxError(qsTr("Incorrect NMEA file"),
+                              countLines(text.substring(0, start + 1)));
         }
         format = tag;
         previousTime = time;
@@ -291,9 +294,9 @@ function loadNmeaLog(text) {
     if (points.length === 0) {
         const lines = countLines(text);
         if (lines === 0)
-            throw new TypeError("NMEA file has only empty lines");
-        throw syntaxError("NMEA file has incorrect points format.\n"
-                          + "Supported formats: GPRMC, GPGGA, GPGLL, GPWPL.", lines);
+            throw new TypeError(qsTr("NMEA file has only empty lines"));
+        throw syntaxError(qsTr("NMEA file has incorrect points format.\n"
+                               + "Supported formats: GPRMC, GPGGA, GPGLL, GPWPL."), lines);
     }
     return points;
 }

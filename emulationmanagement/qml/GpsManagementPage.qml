@@ -61,7 +61,7 @@ EmulationPage {
         } catch (error) {
             clearTrack();
             errorDialog.text = error.incorrectLine > 0
-                ? error.message + ", line: " + error.incorrectLine : error.message;
+                ? error.message + qsTr(", line: %1").arg(error.incorrectLine) : error.message;
             errorDialog.open();
             return;
         }

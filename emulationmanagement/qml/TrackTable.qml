@@ -5,8 +5,6 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import Qt.labs.qmlmodels
 
-import "../js/track-rows.js" as TrackRows
-
 // The points of a track, one a row; the current row is marked.
 ColumnLayout {
     id: root
@@ -48,7 +46,8 @@ ColumnLayout {
         Layout.fillWidth: true
 
         Repeater {
-            model: TrackRows.columns
+            model: [qsTr("No."), qsTr("Time"), qsTr("Latitude"), qsTr("Longitude"),
+                    qsTr("Altitude")]
 
             delegate: Label {
                 required property int index
