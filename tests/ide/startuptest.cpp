@@ -79,23 +79,6 @@ void StartUpTest::testWindow()
     QCOMPARE(qgetenv("QML_XHR_ALLOW_FILE_READ"), "1");
 }
 
-void StartUpTest::testTitleInLanguage_data()
-{
-    QTest::addColumn<QString>("title");
-    QTest::newRow("eo_001") << "Regado de imitado";
-    QTest::newRow("tlh") << "Emulation Management";
-}
-
-void StartUpTest::testTitleInLanguage()
-{
-    const auto language
-        = ExtensionSystem::PluginManager::settings()->value("General/OverrideLanguage").toString();
-    if (language != QLatin1StringView(QTest::currentDataTag()))
-        QSKIP("needs an IDE that was started in this language");
-    QFETCH(QString, title);
-    QCOMPARE(PluginDriver::view()->title(), title);
-}
-
 void StartUpTest::testMenu()
 {
     const QMenu *tools = Core::ActionManager::actionContainer("QtCreator.Menu.Tools")->menu();

@@ -11,8 +11,6 @@ private Q_SLOTS:
     void testMetadata();
     void testContextProperties();
     void testWindow();
-    void testTitleInLanguage_data();
-    void testTitleInLanguage();
     void testMenu();
     void testQmlTypes_data();
     void testQmlTypes();

@@ -3,6 +3,7 @@
 #include "cameratest.h"
 #include "connectiontest.h"
 #include "dialogstest.h"
+#include "languagetest.h"
 #include "locationtest.h"
 #include "persistencetest.h"
 #include "repliestest.h"
@@ -17,6 +18,7 @@ bool TestPlugin::initialize(const QStringList &arguments, QString *errorString)
     addTest<CameraTest>();
     addTest<ConnectionTest>();
     addTest<RepliesTest>();
+    addTest<LanguageTest>();
     addTest<LocationTest>();
     addTest<PersistenceTest>();
     return true;
