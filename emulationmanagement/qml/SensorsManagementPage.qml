@@ -23,7 +23,10 @@ EmulationPage {
         proximity: qsTr("Proximity Sensor"),
         tap: qsTr("Tap Sensor"),
     })
-    readonly property list<string> sensorNames: Object.keys(titles)
+    // as the boxes stand; the keys of an object that compiled code made are sorted
+    readonly property list<string> sensorNames: [
+        "accelerometer", "compass", "orientation", "magnetometer", "gyroscope", "als", "proximity",
+        "tap"]
     // What the boxes show, by sensor name.
     property var checkedStates: ({})
 

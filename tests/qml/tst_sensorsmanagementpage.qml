@@ -23,6 +23,9 @@ Item {
 
         readonly property int apply: 0x2000000 // QMessageBox::Apply
         readonly property int discard: 0x800000 // QMessageBox::Discard
+        readonly property list<string> titles: [
+            "Accelerometer", "Compass", "Orientation Sensor", "Magnetometer", "Gyroscope",
+            "Light Sensor", "Proximity Sensor", "Tap Sensor"]
         property EmulationManagementView view
 
         name: "SensorsManagementPage"
@@ -51,14 +54,17 @@ Item {
 
         // The first letters of the sensors whose boxes are checked.
         function checked(): string {
-            return ["Accelerometer", "Compass", "Orientation Sensor", "Magnetometer", "Gyroscope",
-                    "Light Sensor", "Proximity Sensor", "Tap Sensor"]
-                .filter(title => find(title).checked).map(title => title[0]).join("");
+            return titles.filter(title => find(title).checked).map(title => title[0]).join("");
         }
 
         function enabled(): string {
             const states = sensorsEmulationManager.sensorsEnabledStates;
             return Object.keys(states).filter(name => states[name]).join(" ");
+        }
+
+        function test_boxesStandInOrder() {
+            tryVerify(() => find(titles[0]).height > 0 && titles.every(
+                (title, i) => i === 0 || find(title).y > find(titles[i - 1]).y));
         }
 
         function test_dependencies_data(): var {
