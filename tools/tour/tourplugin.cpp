@@ -1,5 +1,6 @@
 #include "tourplugin.h"
 
+#include "pagepictures.h"
 #include "tour.h"
 
 #include <coreplugin/icore.h>
@@ -18,7 +19,10 @@ static void runTour()
         const QString journal
             = Core::ICore::userResourcePath("emulators/nimbra-os-emulator/journal.jsonl")
                   .toFSPathString();
-        Tour(qEnvironmentVariable("TOUR_PICTURES"), journal).run();
+        if (qEnvironmentVariableIsSet("TOUR_PAGES"))
+            PagePictures(qEnvironmentVariable("TOUR_PAGES"), journal).take();
+        else
+            Tour(qEnvironmentVariable("TOUR_PICTURES"), journal).run();
     } catch (const std::exception &error) {
         std::printf("The tour failed: %s\n", error.what());
         exitStatus = EXIT_FAILURE;

@@ -1,0 +1,89 @@
+#include "pagepictures.h"
+
+#include "plugindriver.h"
+#include "waiting.h"
+#include "windowdriver.h"
+
+#include <QDir>
+#include <QFile>
+#include <QHash>
+#include <QImage>
+#include <QQuickItem>
+#include <QTest>
+
+#include <algorithm>
+#include <functional>
+
+/// Shows a page by its place in the column of buttons.
+static void showPage(const WindowDriver &driver, qsizetype index)
+{
+    driver.click(driver.items(QStringLiteral("PageButton")).at(index));
+}
+
+/// Reduces a picture to its most frequent colours, which make its file a quarter as large.
+static QImage withPalette(const QImage &picture)
+{
+    static constexpr qsizetype paletteSize = 256;
+    const QImage opaque = picture.convertToFormat(QImage::Format_RGB32);
+    QHash<QRgb, int> counts;
+    for (int y = 0; y < opaque.height(); ++y) {
+        for (int x = 0; x < opaque.width(); ++x)
+            ++counts[opaque.pixel(x, y)];
+    }
+    QList<QRgb> colors = counts.keys();
+    std::ranges::sort(colors, std::greater(), [&](QRgb color) { return counts[color]; });
+    colors.resize(std::min(colors.size(), paletteSize));
+    return opaque.convertToFormat(QImage::Format_Indexed8, colors,
+                                  Qt::ThresholdDither | Qt::AvoidDither);
+}
+
+PagePictures::PagePictures(QString folder, const QString &journalPath)
+    : m_folder(std::move(folder))
+    , m_journal(journalPath)
+{}
+
+void PagePictures::take()
+{
+    PluginDriver::openWindow(m_journal);
+    const QStringList size = qEnvironmentVariable("TOUR_SIZE").split(u'x');
+    if (size.size() == 2)
+        PluginDriver::view()->resize(size[0].toInt(), size[1].toInt());
+
+    const WindowDriver driver(PluginDriver::view());
+    showPage(driver, 0);
+    takePicture(QStringLiteral("sensors-management"));
+    showPage(driver, 1);
+    takePicture(QStringLiteral("sensors-values"));
+    showPage(driver, 2);
+    takePicture(QStringLiteral("orientation-management"));
+
+    showPage(driver, 3);
+    QQuickItem *gpsPage = driver.items(QStringLiteral("GpsManagementPage")).constFirst();
+    // the picture shows where the file is
+    const QString track = QDir::temp().filePath(QStringLiteral("lake.nmea"));
+    QFile::copy(QStringLiteral(SAMPLE_TRACK), track);
+    const qsizetype start = m_journal.position();
+    QMetaObject::invokeMethod(gpsPage, "openFile", QUrl::fromLocalFile(track));
+    waitFor(QStringLiteral("the track's upload"), [&] {
+        return !m_journal.callsSince(start).filter(QStringLiteral("loadTrack ")).isEmpty();
+    });
+    QFile::remove(track);
+    takePicture(QStringLiteral("gps-management"));
+
+    showPage(driver, 4);
+    QMetaObject::invokeMethod(PluginDriver::contextObject("cameraEmulationManager"),
+                              "startCameraStream");
+    takePicture(QStringLiteral("camera-management"));
+    driver.click(driver.items(QStringLiteral("QQuickRadioButton")).constLast());
+    takePicture(QStringLiteral("camera-management-file"));
+}
+
+void PagePictures::takePicture(const QString &name) const
+{
+    static constexpr int untilDrawn = 500; // milliseconds
+    QTest::qWait(untilDrawn);
+    const QImage picture = withPalette(PluginDriver::view()->grabWindow());
+    const QString path = QStringLiteral("%1/%2.png").arg(m_folder, name);
+    if (!picture.save(path, nullptr, 0))
+        throw WaitingFailed("the picture " + path.toStdString() + " could not be saved");
+}
