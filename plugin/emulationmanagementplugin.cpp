@@ -23,6 +23,8 @@
 #include <QDir>
 #include <QLocale>
 #include <QQmlContext>
+#include <QQmlEngine>
+#include <QQmlFileSelector>
 #include <QSettings>
 #include <QTranslator>
 
@@ -136,6 +138,10 @@ void EmulationManagementPlugin::setupView()
     QQmlContext *context = m_emulationManagementView.rootContext();
     context->setContextProperty(QStringLiteral("cameraEmulationManager"),
                                 &m_cameraEmulationManager);
+
+    // Where the platform has no dialogs of its own, those of the style of the controls are chosen.
+    QQmlEngine *engine = m_emulationManagementView.engine();
+    new QQmlFileSelector(engine, engine);
 
     m_emulationManagementView.setTitle(tr("Emulation Management"));
     m_emulationManagementView.setResizeMode(QQuickView::SizeRootObjectToView);

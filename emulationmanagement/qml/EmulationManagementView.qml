@@ -21,6 +21,9 @@ Rectangle {
     property bool lastChangedSensorEnabled: false
     readonly property var sensorsManager: sensorsEmulationManager // qmllint disable unqualified
     readonly property color separatorColor: themeSeparatorColor // qmllint disable unqualified
+    // Gives the window a palette, which follows the IDE's theme. Controls and dialogs that are made
+    // later take it; below a window without one they would get the style's own.
+    readonly property var windowPalette: Window.window?.palette
 
     property alias errorDialog: errorDialog
     property alias messageDialog: messageDialog

@@ -8,9 +8,6 @@ Item {
     // What fills the page, made when it is shown first: the IDE loads the pages when it starts, in
     // a window that may never be opened.
     property Component content: null
-    // Controls that are made later take their palette from an item that had one when the IDE's
-    // theme came; below none they would get the style's own.
-    readonly property var idePalette: palette
     readonly property bool shown: visible && Window.visibility !== Window.Hidden
 
     // Finishes the page's own work before another page is shown, then calls continuation.
