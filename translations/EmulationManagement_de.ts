@@ -97,6 +97,29 @@
     </message>
 </context>
 <context>
+    <name>CoordinateControls</name>
+    <message>
+        <source>Coordinate</source>
+        <translation>Koordinaten</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Breitengrad</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Längengrad</translation>
+    </message>
+    <message>
+        <source>Altitude</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>Setzen</translation>
+    </message>
+</context>
+<context>
     <name>CurrentPosition</name>
     <message>
         <source>Current Position</source>
@@ -232,26 +255,6 @@
     <message>
         <source>Open NMEA File</source>
         <translation>NMEA-Datei öffnen</translation>
-    </message>
-    <message>
-        <source>Coordinate</source>
-        <translation>Koordinaten</translation>
-    </message>
-    <message>
-        <source>Latitude</source>
-        <translation>Breitengrad</translation>
-    </message>
-    <message>
-        <source>Longitude</source>
-        <translation>Längengrad</translation>
-    </message>
-    <message>
-        <source>Altitude</source>
-        <translation>Höhe</translation>
-    </message>
-    <message>
-        <source>Set</source>
-        <translation>Setzen</translation>
     </message>
     <message>
         <source>Track</source>

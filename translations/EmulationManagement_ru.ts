@@ -97,6 +97,29 @@
     </message>
 </context>
 <context>
+    <name>CoordinateControls</name>
+    <message>
+        <source>Coordinate</source>
+        <translation>Координаты</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Широта</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Долгота</translation>
+    </message>
+    <message>
+        <source>Altitude</source>
+        <translation>Высота</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>Задать</translation>
+    </message>
+</context>
+<context>
     <name>CurrentPosition</name>
     <message>
         <source>Current Position</source>
@@ -232,26 +255,6 @@
     <message>
         <source>Open NMEA File</source>
         <translation>Открыть файл NMEA</translation>
-    </message>
-    <message>
-        <source>Coordinate</source>
-        <translation>Координаты</translation>
-    </message>
-    <message>
-        <source>Latitude</source>
-        <translation>Широта</translation>
-    </message>
-    <message>
-        <source>Longitude</source>
-        <translation>Долгота</translation>
-    </message>
-    <message>
-        <source>Altitude</source>
-        <translation>Высота</translation>
-    </message>
-    <message>
-        <source>Set</source>
-        <translation>Задать</translation>
     </message>
     <message>
         <source>Track</source>
