@@ -440,7 +440,7 @@
     </message>
     <message>
         <source>Tap Sensor</source>
-        <translation>Датчик касаний</translation>
+        <translation>Датчик постукивания</translation>
     </message>
     <message>
         <source>The sensor configuration has been changed. Apply or discard changes?</source>
@@ -516,7 +516,7 @@
     <name>TapControls</name>
     <message>
         <source>Tap Sensor</source>
-        <translation>Датчик касаний</translation>
+        <translation>Датчик постукивания</translation>
     </message>
     <message>
         <source>Direction</source>
