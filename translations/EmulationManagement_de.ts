@@ -264,6 +264,10 @@
         <source>Track file</source>
         <translation>Trackdatei</translation>
     </message>
+    <message>
+        <source>NMEA file is larger than %1 MB</source>
+        <translation>Die NMEA-Datei ist größer als %1 MB</translation>
+    </message>
 </context>
 <context>
     <name>GyroscopeControls</name>

@@ -264,6 +264,10 @@
         <source>Track file</source>
         <translation>Файл трека</translation>
     </message>
+    <message>
+        <source>NMEA file is larger than %1 MB</source>
+        <translation>Файл NMEA больше %1 МБ</translation>
+    </message>
 </context>
 <context>
     <name>GyroscopeControls</name>
