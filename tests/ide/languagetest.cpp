@@ -60,7 +60,8 @@ void LanguageTest::testEveryTextIsTranslated()
         QSKIP("needs an IDE that was started in the language of brackets");
 
     QQuickItem *root = PluginDriver::view()->rootObject();
-    // some make their content when they are shown
+    // pages make their content when they are shown
+    PluginDriver::view()->show();
     const QQmlListReference pages(root, "pagesIds");
     for (qsizetype i = 0; i < pages.count(); ++i)
         pages.at(i)->setProperty("active", true);
