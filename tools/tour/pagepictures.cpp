@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <utility>
 
 /// Shows a page by its place in the column of buttons.
 static void showPage(const WindowDriver &driver, qsizetype index)
@@ -31,7 +32,9 @@ static QImage withPalette(const QImage &picture)
             ++counts[opaque.pixel(x, y)];
     }
     QList<QRgb> colors = counts.keys();
-    std::ranges::sort(colors, std::greater(), [&](QRgb color) { return counts[color]; });
+    // also by colour, so that the same picture makes the same file
+    std::ranges::sort(colors, std::greater(),
+                      [&](QRgb color) { return std::pair(counts[color], color); });
     colors.resize(std::min(colors.size(), paletteSize));
     return opaque.convertToFormat(QImage::Format_Indexed8, colors,
                                   Qt::ThresholdDither | Qt::AvoidDither);
