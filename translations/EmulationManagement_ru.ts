@@ -216,7 +216,7 @@
     </message>
     <message>
         <source>Orientation Management</source>
-        <translation>Управление ориентацией</translation>
+        <translation>Ориентация</translation>
     </message>
     <message>
         <source>GPS Management</source>
