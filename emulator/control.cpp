@@ -4,9 +4,12 @@
 #include "packagelist.h"
 #include "relay.h"
 
+#include <QDBusError>
 #include <QLocalSocket>
+#include <QThread>
 
 #include <csignal>
+#include <optional>
 
 namespace NimbraEmulator {
 
@@ -17,9 +20,23 @@ static QString unknownCommand()
     return u"unknown command"_s;
 }
 
-Control::Control(Relay &relay, PackageList &packages, Journal &journal, QObject *parent)
+static std::optional<std::chrono::milliseconds> milliseconds(const QString &text)
+{
+    bool ok = false;
+    const uint number = text.toUInt(&ok);
+    return ok ? std::optional(std::chrono::milliseconds(number)) : std::nullopt;
+}
+
+static QString noMilliseconds()
+{
+    return u"a number of milliseconds is missing"_s;
+}
+
+Control::Control(Relay &relay, const QDBusConnection &services, PackageList &packages,
+                 Journal &journal, QObject *parent)
     : QObject(parent)
     , m_relay(relay)
+    , m_services(services)
     , m_packages(packages)
     , m_journal(journal)
 {
@@ -62,6 +79,14 @@ QString Control::execute(const QString &command)
         return executeFail(object, rest);
     if (verb == "package"_L1)
         return executePackage(object, rest);
+    if (verb == "service"_L1)
+        return executeService(object, rest);
+    if (verb == "freeze"_L1) {
+        const auto duration = milliseconds(object);
+        if (duration)
+            QThread::sleep(*duration);
+        return duration ? QString() : noMilliseconds();
+    }
     if (command == "kill"_L1)
         std::raise(SIGKILL);
     return unknownCommand();
@@ -77,17 +102,39 @@ QString Control::executeRelay(const QString &action, const QString &text)
         m_relay.close();
     } else if (action == "answer"_L1) {
         m_relay.faults().answer = text;
+    } else if (action == "repeat"_L1) {
+        error = executeRepeat(text.section(u' ', 0, 0), text.section(u' ', 1));
     } else if (action == "delay"_L1) {
-        bool ok = false;
-        const uint delay = text.toUInt(&ok);
-        if (ok)
-            m_relay.faults().delay = std::chrono::milliseconds(delay);
+        if (const auto delay = milliseconds(text))
+            m_relay.faults().delay = *delay;
         else
-            error = u"the delay is not a number of milliseconds"_s;
+            error = noMilliseconds();
     } else {
         error = unknownCommand();
     }
     return error;
+}
+
+QString Control::executeRepeat(const QString &times, const QString &text)
+{
+    bool ok = false;
+    const uint count = times.toUInt(&ok);
+    if (!ok)
+        return u"the number of times is missing"_s;
+    m_relay.faults().answer = text.repeated(count);
+    return {};
+}
+
+QString Control::executeService(const QString &action, const QString &name)
+{
+    bool ok = false;
+    if (action == "with"_L1)
+        ok = m_services.registerService(name);
+    else if (action == "without"_L1)
+        ok = m_services.unregisterService(name);
+    else
+        return unknownCommand();
+    return ok ? QString() : u"the bus refuses: %1"_s.arg(m_services.lastError().message());
 }
 
 QString Control::executeFail(const QString &method, const QString &error)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDBusConnection>
 #include <QLocalServer>
 #include <QObject>
 
@@ -16,15 +17,20 @@ class Relay;
 ///     relay open                     listen again
 ///     relay delay MILLISECONDS       send every reply that much later
 ///     relay answer TEXT              send TEXT instead of the next reply
+///     relay repeat TIMES TEXT        send a line of so many TEXTs instead of the next reply
 ///     fail METHOD ERRORNAME TEXT     answer METHOD with this error; with METHOD alone: no more
+///     service with|without NAME      put a service on the D-Bus or take it off
 ///     package with|without NAME      add or take out a package
+///     freeze MILLISECONDS            do nothing for so long: no part answers, SSH included
 ///     kill                           die at once, without a word
 class Control : public QObject
 {
     Q_OBJECT
 
 public:
-    Control(Relay &relay, PackageList &packages, Journal &journal, QObject *parent = nullptr);
+    /// \a services is the connection to the bus that the services are on.
+    Control(Relay &relay, const QDBusConnection &services, PackageList &packages, Journal &journal,
+            QObject *parent = nullptr);
 
     /// Listens on \a socket, in place of what an earlier run left there.
     [[nodiscard]] bool listen(const QString &socket);
@@ -35,9 +41,12 @@ private:
     [[nodiscard]] QString execute(const QString &command);
     [[nodiscard]] QString executeRelay(const QString &action, const QString &text);
     [[nodiscard]] QString executeFail(const QString &method, const QString &error);
+    [[nodiscard]] QString executeRepeat(const QString &times, const QString &text);
+    [[nodiscard]] QString executeService(const QString &action, const QString &name);
     [[nodiscard]] QString executePackage(const QString &action, const QString &name);
 
     Relay &m_relay;
+    QDBusConnection m_services;
     PackageList &m_packages;
     Journal &m_journal;
     QLocalServer m_server;

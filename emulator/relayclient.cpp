@@ -14,6 +14,9 @@ namespace NimbraEmulator {
 
 using namespace Qt::StringLiterals;
 
+// Replies that were asked for as a fault may be enormous.
+static constexpr qsizetype longestJournalText = 1 << 20;
+
 static QJsonValue toJson(const QVariant &argument)
 {
     if (argument.metaType() != QMetaType::fromType<QList<QList<double>>>())
@@ -132,7 +135,7 @@ void RelayClient::sendReadyReplies()
         m_pending.pop_front();
         m_socket->sendTextMessage(reply);
         m_socket->flush(); // before the journal is written
-        m_journal.write("reply"_L1, {{u"text"_s, reply}});
+        m_journal.write("reply"_L1, {{u"text"_s, reply.left(longestJournalText)}});
     }
 }
 
