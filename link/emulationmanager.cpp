@@ -33,11 +33,12 @@ void EmulationManager::setRdbusinvoker(RemoteDBusInvokerService *invoker)
 
 void EmulationManager::processReplyFromEmulator(const QString &reply)
 {
-    const QStringList fields = reply.split(u':');
-    if (fields.size() != replyFieldCount) {
+    // counted first: fields by the million would take many times the memory of the line
+    if (reply.count(u':') != replyFieldCount - 1) {
         Q_EMIT replyFromEmulatorReceived(reply);
         return;
     }
+    const QStringList fields = reply.split(u':');
     if (!fields.at(errorNameField).isEmpty()) {
         Q_EMIT replyFromEmulatorReceived(
             QStringLiteral("%1 %2").arg(fields.at(errorNameField), fields.at(errorTextField)));

@@ -22,6 +22,8 @@ void RemoteDBusInvokerService::createWebSocket()
 {
     m_webSocket.emplace(QString(), QWebSocketProtocol::Version13);
     QWebSocket *webSocket = &*m_webSocket;
+    webSocket->setMaxAllowedIncomingFrameSize(maxReplySize);
+    webSocket->setMaxAllowedIncomingMessageSize(maxReplySize);
     connect(webSocket, &QWebSocket::connected, this, &RemoteDBusInvokerService::webSocketConnected);
     connect(webSocket, &QWebSocket::disconnected, this,
             &RemoteDBusInvokerService::webSocketDisconnected);

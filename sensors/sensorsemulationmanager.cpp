@@ -1,5 +1,7 @@
 #include "sensorsemulationmanager.h"
 
+#include <QStringTokenizer>
+
 #include <cmath>
 
 namespace EmulationManagement::Internal {
@@ -16,6 +18,14 @@ constexpr int facingAcceleration = 300;
 QString stringArgument(const QString &value)
 {
     return QStringLiteral("string:%1").arg(value);
+}
+
+/// The first of the arguments that a reply joins with "|", without a list of all of them.
+QString firstArgument(const QString &arguments)
+{
+    for (const QStringView argument : qTokenize(arguments, u'|', Qt::SkipEmptyParts))
+        return argument.toString();
+    return {};
 }
 
 QString intArgument(int value)
@@ -88,7 +98,7 @@ void SensorsEmulationManager::processDBusMethodsReturnValues(const QStringList &
 {
     if (values.at(0) != u"enabled")
         return;
-    const QString name = values.at(1).split(u'|', Qt::SkipEmptyParts).value(0);
+    const QString name = firstArgument(values.at(1));
     const bool enabled = QVariant(values.at(2)).toBool();
     if (m_sensorsAvailability.value(name).toBool()) {
         m_sensorsEnabledStates.insert(name, enabled);

@@ -124,6 +124,20 @@ private Q_SLOTS:
         QTEST(seenBeforeReply.join(u';'), "seen");
     }
 
+    void tooLongReplyEndsTheConnection()
+    {
+        TestSupport::RecordingRelay relay;
+        Link link;
+        QVERIFY(relay.connectLink(link));
+        QSignalSpy replies(&link, &Link::replyReceived);
+        QSignalSpy connected(&link, &Link::webSocketConnected);
+        relay.reply(QString(qsizetype(Link::maxReplySize), u'x'));
+        QVERIFY(replies.wait());
+        relay.reply(QString(qsizetype(Link::maxReplySize) + 1, u'x'));
+        QVERIFY(connected.wait());
+        QCOMPARE(replies.size(), 1);
+    }
+
     void invokerSetTwiceDoublesEverythingButCalls()
     {
         TestSupport::RecordingRelay relay;
