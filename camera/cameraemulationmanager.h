@@ -168,6 +168,7 @@ private:
     QString m_sourcePluginName;
     ObjectReference<GstElement> m_videoPipeline;
     ObjectReference<GstElement> m_fileSource;
+    QString m_videoFile;
     QElapsedTimer m_sinceVideoStart;
     QTimer m_restartTimer;
     ObjectReference<GstElement> m_cameraPipeline;

@@ -4,6 +4,7 @@
 
 #include <gst/pbutils/pbutils.h>
 
+#include <QFileInfo>
 #include <QUrl>
 
 using namespace Qt::StringLiterals;
@@ -21,6 +22,9 @@ static QString codecOf(GstDiscovererStreamInfo *stream)
 /// The name of the first video codec that a file tells, "VP8 video" for example, or nothing.
 static QString videoCodecOf(const QString &path)
 {
+    // opening a pipe would wait for ever for a writer
+    if (!QFileInfo(path).isFile())
+        return {};
     const ObjectReference<GstDiscoverer> discoverer(gst_discoverer_new(timeout, nullptr));
     if (!discoverer)
         return {};

@@ -4,6 +4,8 @@
 
 #include <gst/gst.h>
 
+#include <QFileInfo>
+
 #include <chrono>
 
 using namespace Qt::StringLiterals;
@@ -189,6 +191,7 @@ void CameraEmulationManager::startVideoStream(const QString &filePath)
     stop(m_videoPipeline);
     if (filePath.isEmpty() || !checkVideoFileForCodec(filePath))
         return;
+    m_videoFile = filePath;
     g_object_set(m_fileSource.get(), "location", filePath.toLocal8Bit().constData(), nullptr);
     playVideo();
     setStreamRunning(true);
@@ -219,5 +222,7 @@ void CameraEmulationManager::playVideo()
 {
     m_restartTimer.stop();
     m_sinceVideoStart.start();
-    play(m_videoPipeline);
+    // a pipe in the place of the file would hold this thread until somebody writes to it
+    if (QFileInfo(m_videoFile).isFile())
+        play(m_videoPipeline);
 }
