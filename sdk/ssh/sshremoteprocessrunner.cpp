@@ -8,6 +8,13 @@ using namespace Qt::StringLiterals;
 
 namespace QSsh {
 
+// Bytes of output beyond which the command is ended, and of its errors that are kept.
+static constexpr qint64 maxOutputSize = 16 << 20;
+static constexpr qsizetype maxErrorSize = 4096;
+// Seconds between questions to a server that sends nothing; after three without an answer the
+// client gives up.
+static constexpr int aliveInterval = 5;
+
 // Exit code of the client itself when it could not log in or lost the connection.
 static constexpr int clientFailure = 255;
 
@@ -24,6 +31,7 @@ static QStringList clientArguments(const QString &command,
     QStringList options{
         u"BatchMode=yes"_s,      u"ConnectTimeout=%1"_s.arg(parameters.timeout.count()),
         u"ForwardAgent=no"_s,    u"ForwardX11=no"_s,
+        u"RequestTTY=no"_s,      u"ServerAliveInterval=%1"_s.arg(aliveInterval),
         u"IdentitiesOnly=yes"_s, u"IdentityAgent=none"_s,
         u"LogLevel=ERROR"_s,     u"StrictHostKeyChecking=accept-new"_s,
     };
@@ -41,13 +49,13 @@ static QStringList clientArguments(const QString &command,
     return arguments;
 }
 
-static QString failureOf(QProcess &process)
+static QString failureOf(const QProcess &process, const QByteArray &errorText)
 {
     if (process.error() == QProcess::FailedToStart || process.exitStatus() == QProcess::CrashExit)
         return process.errorString();
     if (process.exitCode() != clientFailure)
         return {};
-    const QString text = QString::fromLocal8Bit(process.readAllStandardError()).trimmed();
+    const QString text = QString::fromLocal8Bit(errorText).trimmed();
     return text.isEmpty() ? SshRemoteProcessRunner::tr("The SSH connection failed.") : text;
 }
 
@@ -64,18 +72,27 @@ void SshRemoteProcessRunner::run(const QString &command, const SshConnectionPara
 {
     discardProcess();
     m_command = command;
+    m_errorText.clear();
     auto *process = new QProcess(this);
     m_process = process;
 
+    connect(process, &QProcess::readyReadStandardOutput, this, [process] {
+        if (process->bytesAvailable() > maxOutputSize)
+            process->kill();
+    });
+    connect(process, &QProcess::readyReadStandardError, this, [this, process] {
+        m_errorText += process->readAllStandardError();
+        m_errorText.truncate(maxErrorSize);
+    });
     connect(process, &QProcess::finished, this,
-            [this, process] { Q_EMIT processClosed(failureOf(*process)); });
+            [this, process] { Q_EMIT processClosed(failureOf(*process, m_errorText)); });
     // Queued, because a start can fail before this function returns; the process may have been
     // replaced by then.
     connect(
         process, &QProcess::errorOccurred, this,
         [this, process](QProcess::ProcessError error) {
             if (error == QProcess::FailedToStart && process == m_process)
-                Q_EMIT processClosed(failureOf(*process));
+                Q_EMIT processClosed(failureOf(*process, m_errorText));
         },
         Qt::QueuedConnection);
 

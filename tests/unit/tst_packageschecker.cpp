@@ -3,7 +3,9 @@
 
 #include <ravik/virtualmachine.h>
 
+#include <QFile>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -72,6 +74,21 @@ private Q_SLOTS:
                             "sensorfw-qt5-emulator-plugins"_s;
         QCOMPARE(missingPackages(closed, closed), all);
         QCOMPARE(missingPackages(stranger, stranger), all);
+    }
+
+    void endlessOutputIsGivenUp()
+    {
+        const QTemporaryDir folder;
+        QFile client(folder.filePath(u"ssh"_s));
+        QVERIFY(client.open(QIODevice::WriteOnly));
+        client.write("#!/bin/sh\nyes >&2 &\nexec yes\n");
+        client.close();
+        client.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+        const QByteArray path = qgetenv("PATH");
+        qputenv("PATH", QByteArray(QFile::encodeName(folder.path()) + ':' + path));
+        const QString missing = missingPackages({}, {});
+        qputenv("PATH", path);
+        QCOMPARE(missing.count(u' '), 3);
     }
 };
 

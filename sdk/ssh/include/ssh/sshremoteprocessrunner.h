@@ -3,6 +3,7 @@
 #include "ssh_global.h"
 #include "sshconnectionparameters.h"
 
+#include <QByteArray>
 #include <QObject>
 
 QT_BEGIN_NAMESPACE
@@ -21,7 +22,8 @@ public:
     ~SshRemoteProcessRunner() override;
 
     /// Runs \a command in the remote user's shell. A command that still runs is replaced: nothing
-    /// more is heard of it. processClosed() always comes later, from the event loop.
+    /// more is heard of it. processClosed() always comes later, from the event loop. A command that
+    /// writes without end, or a server that falls silent, is given up.
     void run(const QString &command, const SshConnectionParameters &parameters);
 
     /// The command of the last run().
@@ -39,6 +41,7 @@ private:
     void discardProcess();
 
     QString m_command;
+    QByteArray m_errorText; // its beginning
     QProcess *m_process = nullptr; // a child; the one of the last run()
 };
 
