@@ -33,6 +33,9 @@ EmulationPage {
     property string nmeaFileUrl: ""
     // Bytes. Points take some forty times as much memory as in their file.
     readonly property int maximumFileSize: 100e6
+    // The emulator was told to stop after an error and has not said "OK" since. It may be the stop
+    // that it refuses.
+    property bool stoppedAfterError: false
     // How many files have been read or begun.
     property int fileRequests: 0
     // The track was playing when the handle of the progress was taken.
@@ -128,9 +131,16 @@ EmulationPage {
         }
 
         function onReplyFromEmulatorReceived(reply: string) {
-            if (reply === "OK")
+            if (reply === "OK") {
+                root.stoppedAfterError = false;
                 return;
-            player.stop();
+            }
+            if (root.stoppedAfterError) {
+                player.hold();
+            } else {
+                root.stoppedAfterError = true;
+                player.stop();
+            }
             root.nmeaFileUrl = "";
             root.clearTrack();
         }

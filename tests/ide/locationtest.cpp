@@ -241,6 +241,17 @@ void LocationTest::testErrorReply()
     control("fail pauseTrack");
     auto *dialog = view()->rootObject()->property("errorDialog").value<QObject *>();
     QCOMPARE(dialog->property("text").toString(), "org.vexa.Error.Busy not now");
+
+    // as happens when the service is gone: the error of a stop is no reason to stop
+    takeCalls();
+    control("fail stopTrack org.vexa.Error.Busy not now");
+    const qsizetype start = m_position;
+    QSignalSpy replies(sensorsManager(), SIGNAL(replyFromEmulatorReceived(QString)));
+    QMetaObject::invokeMethod(gpsManager(), "stopTrack");
+    waitFor("both replies", [&] { return replies.size() == 2; });
+    takeCalls();
+    QCOMPARE(m_journal->callsSince(start).count("stopTrack "), 2);
+    control("fail stopTrack");
     QMetaObject::invokeMethod(dialog, "close");
 }
 
