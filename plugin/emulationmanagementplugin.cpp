@@ -208,6 +208,7 @@ void EmulationManagementPlugin::showMessageBox(const QString &text, const QStrin
 {
     QMessageBox box(QMessageBox::Information, tr("Emulation management plugin"), text, buttons,
                     Core::ICore::mainWindow(), Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
+    box.setTextFormat(Qt::PlainText); // it may hold the emulator's name
     box.setInformativeText(informativeText);
     if (box.exec() == QMessageBox::Retry)
         showEmulationManagementView();

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
@@ -74,11 +76,35 @@ RowLayout {
             }
 
             ComboBox {
+                id: cameraBox
+
                 Accessible.name: qsTr("Camera")
                 Layout.fillWidth: true
                 implicitWidth: Application.font.pixelSize
                     * Math.max(...root.cameraManager.cameras.map(name => name.length), 0)
                 model: root.cameraManager.cameras
+
+                // a device's name is neither markup nor has it a shortcut
+                delegate: MenuItem {
+                    id: entry
+
+                    required property int index
+                    required property string modelData
+
+                    highlighted: cameraBox.highlightedIndex === index
+                    text: modelData
+                    width: ListView.view.width
+
+                    contentItem: Label {
+                        color: entry.highlighted ? palette.highlightedText : palette.text
+                        elide: Text.ElideRight
+                        font.weight: cameraBox.currentIndex === entry.index ? Font.DemiBold
+                                                                            : Font.Normal
+                        text: entry.text
+                        textFormat: Text.PlainText
+                        verticalAlignment: Text.AlignVCenter
+                    }
+                }
 
                 onActivated: index => root.cameraManager.cameraName = root.cameraManager.cameras[index]
             }

@@ -31,7 +31,7 @@ EmulatorMenu::EmulatorMenu(HostSdk &sdk)
             [this] { machine()->connectTo(VirtualMachine::NoConnectOptions, this, [](bool) {}); });
     connect(&m_stopAction, &QAction::triggered, this, [this] { machine()->shutDown(); });
     connect(&m_deviceModels, &QActionGroup::triggered, this,
-            [this](const QAction *action) { m_sdk.setDeviceModel(0, action->text()); });
+            [this](const QAction *action) { m_sdk.setDeviceModel(0, action->data().toString()); });
     createMenu();
 
     connect(&m_sdk, &HostSdk::emulatorAdded, this, &EmulatorMenu::followFirstEmulator);
@@ -80,7 +80,9 @@ void EmulatorMenu::listDeviceModels()
     qDeleteAll(m_deviceModels.actions());
     const QStringList names = m_sdk.deviceModels();
     for (const QString &name : names) {
-        QAction *action = m_deviceModelMenu.addAction(name);
+        // an ampersand would stand for a shortcut
+        QAction *action = m_deviceModelMenu.addAction(QString(name).replace(u'&', "&&"));
+        action->setData(name);
         action->setCheckable(true);
         m_deviceModels.addAction(action);
     }
@@ -93,7 +95,7 @@ void EmulatorMenu::updateDeviceModel()
     const QString name = m_emulator ? m_emulator->deviceModel().name : QString();
     const QList<QAction *> actions = m_deviceModels.actions();
     for (QAction *action : actions)
-        action->setChecked(action->text() == name);
+        action->setChecked(action->data().toString() == name);
 }
 
 void EmulatorMenu::updateMachineActions()

@@ -187,6 +187,7 @@ void ConnectionTest::testMachineOnWithoutForwardings()
              QStringList{QStringLiteral("The emulation management plugin cannot be used. Please, "
                                         "close Bare Emulator and try to use 'Emulation "
                                         "management\u2026' again.")});
+    QCOMPARE(answers.boxes().constFirst().textFormat, Qt::PlainText); // it has the emulator's name
     QVERIFY(!machine()->hasPortForwarding(tcpPort, nullptr));
     QVERIFY(!machine()->isOff(nullptr, nullptr));
     QVERIFY(!view()->isVisible());

@@ -44,6 +44,14 @@ void RepliesTest::testErrorDialog_data()
     QTest::newRow("four fields") << "relay answer a:b:c:d" << "a:b:c:d";
     QTest::newRow("six fields") << "relay answer a:b:c::e:f" << "a:b:c::e:f";
     QTest::newRow("plain text") << "relay answer connection refused" << "connection refused";
+    QTest::newRow("markup")
+        << "relay answer a<br>&amp;<img src='http://127.0.0.1/a'>"
+        << QString("a<#br>&#amp;<#img src='http://127.0.0.1/a'>").replace('#', QChar(0x2060));
+    QTest::newRow("enormous") << "relay repeat 64000000 x" << QString(999, 'x') + QChar(0x2026);
+    QTest::newRow("millions of lines")
+        << "relay repeat 8000000 \r" << QString(19, '\n') + QChar(0x2026);
+    QTest::newRow("millions of fields")
+        << "relay repeat 64000000 :" << QString(999, ':') + QChar(0x2026);
     QTest::newRow("five fields that mean nothing") << "relay answer a:b:c::e" << QString();
 }
 

@@ -141,6 +141,16 @@ Item {
             compare(manager.streamRunning, row.text === "");
         }
 
+        function test_namesAreNoMarkup() {
+            open(["A & <b>B</b>" + rear.substring(4)]);
+            comboBox("Camera").popup.open();
+            const entry = Find.find(comboBox("Camera").popup.contentItem,
+                                    item => item.text === "A & <b>B</b>");
+            compare(entry.contentItem.text, entry.text);
+            compare(entry.contentItem.textFormat, Text.PlainText);
+            comboBox("Camera").popup.close();
+        }
+
         function test_localPath() {
             open([]);
             compare(page.localPath("file:///tmp/50%25%20%231%3F.webm"), "/tmp/50% #1?.webm");

@@ -28,9 +28,13 @@ void MessageBoxAnswers::answer()
     if (!box || box == m_last)
         return;
     m_last = box;
-    m_boxes << Box{box->windowTitle(),     box->text(),
-                   box->informativeText(), box->icon(),
-                   box->standardButtons(), box->checkBox() && box->checkBox()->isVisible()};
+    m_boxes << Box{box->windowTitle(),
+                   box->text(),
+                   box->informativeText(),
+                   box->icon(),
+                   box->standardButtons(),
+                   box->textFormat(),
+                   box->checkBox() && box->checkBox()->isVisible()};
     if (box->checkBox())
         box->checkBox()->setChecked(m_tick);
     box->button(m_answer)->click();
