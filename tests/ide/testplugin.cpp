@@ -3,6 +3,7 @@
 #include "cameratest.h"
 #include "connectiontest.h"
 #include "dialogstest.h"
+#include "faultrun.h"
 #include "languagetest.h"
 #include "locationtest.h"
 #include "persistencetest.h"
@@ -21,5 +22,6 @@ bool TestPlugin::initialize(const QStringList &arguments, QString *errorString)
     addTest<LanguageTest>();
     addTest<LocationTest>();
     addTest<PersistenceTest>();
+    addTest<FaultRun>();
     return true;
 }

@@ -17,6 +17,7 @@
 #include <QGuiApplication>
 #include <QLocalSocket>
 #include <QQmlContext>
+#include <QRegularExpression>
 #include <QSignalSpy>
 
 namespace PluginDriver {
@@ -104,7 +105,12 @@ void stopMachine()
 
 QString dataFolder(const Ravik::Emulator *emulator)
 {
-    const QString slug = emulator->name().toLower().replace(u' ', u'-');
+    static const QRegularExpression separators(QStringLiteral("[^\\p{L}\\p{N}]+"));
+    const QString slug = emulator->name()
+                             .toLower()
+                             .replace(separators, QStringLiteral(" "))
+                             .trimmed()
+                             .replace(u' ', u'-');
     return Core::ICore::userResourcePath("emulators").pathAppended(slug).toFSPathString();
 }
 
