@@ -1,0 +1,309 @@
+#include <camera/cameracapabilities.h>
+#include <camera/framerates.h>
+#include <devicemodel/smartphone3dmodelconfig.h>
+#include <link/remotedbusinvokerservice.h>
+#include <location/gpsemulationmanager.h>
+#include <requestline.h>
+#include <sensors/sensorsemulationmanager.h>
+#include <support/connectedmanager.h>
+
+#include <gst/gst.h>
+
+#include <QDir>
+#include <QTest>
+#include <QTextDocument>
+
+#include <bit>
+#include <cmath>
+#include <random>
+
+using namespace EmulationManagement::Internal;
+using namespace Qt::StringLiterals;
+
+/// Random inputs, mutated from good ones, against an oracle that works in another way. FUZZ_SEED
+/// chooses the inputs, FUZZ_COUNT how many each function makes.
+class FuzzTest : public QObject
+{
+    Q_OBJECT
+
+    int number(int end) { return std::uniform_int_distribution(0, end - 1)(m_random); }
+
+    /// Any finite number, most of them of a size that occurs.
+    double real()
+    {
+        const double any
+            = std::bit_cast<double>(std::uniform_int_distribution<quint64>()(m_random));
+        const double usual = std::uniform_real_distribution(-200.0, 200.0)(m_random);
+        return number(4) == 0 && std::isfinite(any) ? any : usual;
+    }
+
+    /// One of \a texts after some bytes were lost, doubled, exchanged or put in.
+    QByteArray mutated(const QByteArrayList &texts, const QByteArrayList &dictionary)
+    {
+        QByteArray text = texts.at(number(int(texts.size())));
+        for (int i = number(5); i > 0; --i) {
+            const qsizetype at = number(int(text.size()) + 1);
+            switch (number(5)) {
+            case 0:
+                text.remove(at, number(6));
+                break;
+            case 1:
+                text.insert(at, text.mid(at, number(12)));
+                break;
+            case 2:
+                text.insert(at, char(number(256)));
+                break;
+            case 3:
+                text = text.first(at) + texts.at(number(int(texts.size()))).sliced(0, 3);
+                break;
+            default:
+                text.insert(at, dictionary.at(number(int(dictionary.size()))));
+            }
+        }
+        return text;
+    }
+
+    template<typename Check>
+    void repeat(const Check &check)
+    {
+        for (int i = 0; i < m_count && !QTest::currentTestFailed(); ++i)
+            check();
+    }
+
+    std::mt19937 m_random;
+    int m_count = 2000;
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        gst_init(nullptr, nullptr);
+        if (qEnvironmentVariableIsSet("FUZZ_COUNT"))
+            m_count = qEnvironmentVariableIntValue("FUZZ_COUNT");
+    }
+
+    void init()
+    {
+        const unsigned seed = qEnvironmentVariableIsSet("FUZZ_SEED")
+                                  ? unsigned(qEnvironmentVariableIntValue("FUZZ_SEED"))
+                                  : std::random_device()();
+        qInfo("seed %u, %d inputs", seed, m_count);
+        m_random.seed(seed);
+    }
+
+    void replies()
+    {
+        const TestSupport::IdeSettings settings;
+        RemoteDBusInvokerService link;
+        SensorsEmulationManager manager;
+        manager.setRdbusinvoker(&link);
+        QString answer;
+        connect(&manager, &EmulationManager::replyFromEmulatorReceived, this,
+                [&](const QString &text) { answer = text; });
+        repeat([&] {
+            const QString line = QString::fromUtf8(
+                mutated({"enabled:als:1::", "enabled:|tap|x:false::", "x:1|2:y:org.x.Bad:No such",
+                         "connection refused"},
+                        {":", "|", "::::", "%1", "\xd1\x8f", "0", "enabled:"}));
+            QStringList fields(1);
+            for (const QChar character : line) {
+                if (character == u':')
+                    fields.append(QString());
+                else
+                    fields.last() += character;
+            }
+            QVariantMap states = manager.sensorsEnabledStates();
+            manager.processReplyFromEmulator(line);
+            const bool grammatical = fields.size() == 5;
+            const bool success = grammatical && fields.at(3).isEmpty();
+            QCOMPARE(answer, success       ? u"OK"_s
+                             : grammatical ? fields.at(3) + u' ' + fields.at(4)
+                                           : line);
+            if (success && fields.at(0) == "enabled"_L1) {
+                QString name = fields.at(1);
+                while (name.startsWith(u'|'))
+                    name.removeFirst();
+                name = name.left(name.indexOf(u'|'));
+                const QString value = fields.at(2).toLower();
+                const bool on = !value.isEmpty() && value != "0"_L1 && value != "false"_L1;
+                states[name] = on && manager.sensorsAvailability().value(name).toBool();
+            }
+            QCOMPARE(manager.sensorsEnabledStates(), states);
+        });
+    }
+
+    // What the managers write, the relay reads as it was meant.
+    void requests()
+    {
+        TestSupport::ConnectedManager<SensorsEmulationManager> sensors(
+            u"org.vexa.SensorfwEmulationManagement"_s);
+        GPSEmulationManager location;
+        location.setRdbusinvoker(&sensors.link);
+        for (int left = m_count; left > 0 && !QTest::currentTestFailed(); left -= 100) {
+            QList<QVariantList> expected;
+            for (int i = 0; i < 100; i += 4) {
+                const double x = real(), y = real(), z = real();
+                const int value = int(m_random());
+                sensors.manager.setGyroscopeValues(x, y, z);
+                sensors.manager.setAlsLuxValue(value);
+                location.setPosition(x, y, z);
+                location.loadTrack({QVariantMap{{u"latitude"_s, x}, {u"longitude"_s, y}},
+                                    QVariantMap{{u"altitude"_s, QString::number(z, 'g', 17)}}});
+                expected << QVariantList{x, y, z} << QVariantList{value} << QVariantList{x, y, z}
+                         << QVariantList{x, y, 0, 0, 0, 0, z, 0};
+            }
+            const QStringList lines = sensors.relay.takeRequests(sensors.link);
+            QCOMPARE(lines.size(), expected.size());
+            for (qsizetype i = 0; i < lines.size(); ++i) {
+                const NimbraEmulator::Request request = NimbraEmulator::parseRequest(lines.at(i));
+                QVERIFY2(request.error.isEmpty(), qPrintable(lines.at(i)));
+                QVariantList arguments = request.arguments;
+                if (arguments.size() == 1 && i % 4 == 3) {
+                    const auto points = arguments.takeFirst().value<QList<QList<double>>>();
+                    for (const QList<double> &point : points)
+                        arguments << QVariantList(point.begin(), point.end());
+                }
+                QCOMPARE(arguments.size(), expected.at(i).size());
+                for (qsizetype j = 0; j < arguments.size(); ++j) {
+                    const double written = expected.at(i).at(j).toDouble();
+                    // six digits, or at least two decimals of any number
+                    const double error = std::abs(arguments.at(j).toDouble() - written);
+                    QVERIFY2(error <= std::max(0.0051, std::abs(written) * 5.1e-6)
+                                 && (i % 4 != 1 || error == 0),
+                             qPrintable(lines.at(i)));
+                }
+            }
+        }
+    }
+
+    void framerates()
+    {
+        repeat([&] {
+            // ranges, lists and single ones as GStreamer writes them
+            const qint64 low = number(200), high = low + number(200);
+            const qint64 divisor = 1 + number(3), numerator = number(100'000);
+            QStringList framerates;
+            initAvailableFramerates(&framerates,
+                                    u"[ %1/%3, %2/%3 ]"_s.arg(low).arg(high).arg(divisor));
+            QList<qint64> rates;
+            for (const QString &rate : std::as_const(framerates)) {
+                QVERIFY(rate.endsWith("/1"_L1));
+                rates.prepend(rate.chopped(2).toLongLong());
+            }
+            QVERIFY(std::ranges::is_sorted(rates));
+            QVERIFY(rates.constFirst() * divisor <= low
+                    && low < (rates.constFirst() + 1) * divisor);
+            QVERIFY(rates.constLast() >= high / divisor);
+            for (qsizetype i = 2; i < rates.size(); ++i)
+                QVERIFY(rates.at(i) % 5 == 0 && rates.at(i) - rates.at(i - 1) <= 5);
+
+            framerates.clear();
+            const QString list
+                = u"{ (fraction)%1/%2, (fraction)7/1 }"_s.arg(numerator).arg(divisor);
+            initAvailableFramerates(&framerates, list);
+            QCOMPARE(framerates.size(), 2);
+            framerates.removeOne(u"7/1"_s);
+            const qint64 whole = framerates.constFirst().section(u'/', 0, 0).toLongLong();
+            QVERIFY(whole * divisor <= numerator && numerator < (whole + 1) * divisor);
+        });
+    }
+
+    void caps()
+    {
+        qint64 parsed = 0;
+        repeat([&] {
+            const QByteArray text = mutated(
+                {"video/x-raw,width=640,height=480,framerate={(fraction)30/1,(fraction)15/1}",
+                 "video/x-raw,width=[16,1920],height=48,framerate=[0/1,2147483647/1]",
+                 "video/x-raw,width=320,height=240,framerate=30000/1001; image/jpeg,width=1"},
+                {",width=-1", ",height={1,2}", "; ", "framerate=[1/2,60/1]", "(int)", "(string)a",
+                 "2147483648", "/0", "{ [ 1/1, 2/1 ], 3/1 }"});
+            if (text.contains('\0'))
+                return;
+            GstCaps *caps = gst_caps_from_string(text.constData());
+            parsed += caps ? 1 : 0;
+            const QVariantList resolutions = availableResolutions(caps);
+            if (caps)
+                gst_caps_unref(caps);
+            int previous = std::numeric_limits<int>::max();
+            for (const QVariant &resolution : resolutions) {
+                const QVariantMap map = resolution.toMap();
+                const int width = map.value(u"width"_s).toInt();
+                QVERIFY(width > 0 && width <= previous && map.value(u"height"_s).toInt() > 0);
+                QVERIFY(map.value(u"framerates"_s).toStringList().size() < 1000);
+                previous = width;
+            }
+            // and as texts that no GStreamer has written
+            QStringList framerates;
+            initAvailableFramerates(&framerates, QString::fromUtf8(text));
+        });
+        qInfo("%d of the texts were caps", int(parsed));
+        QVERIFY(parsed > m_count / 10);
+    }
+
+    void settingsFiles()
+    {
+        const QDir folder(QCoreApplication::applicationDirPath() + "/configs"_L1);
+        QVERIFY(folder.mkpath(u"."_s));
+        TestSupport::IdeSettings settings;
+        const QByteArrayList dictionary{"[",      "]", "=",  "\\x", "\"",    "@Variant(", "@",
+                                        "%U263a", ",", "\n", "nan", "1e999", "\\"};
+        repeat([&] {
+            QFile config(folder.filePath(u"a.ini"_s));
+            QFile values(settings.fileName());
+            QVERIFY(config.open(QIODevice::WriteOnly) && values.open(QIODevice::WriteOnly));
+            config.write(mutated({"device-name=Phone\nmesh=a.json\ntexture=\"\\xe4.png\"\n",
+                                  "[sensors]\ngyroscope=false\n"},
+                                 dictionary));
+            values.write(mutated({"[emulationmanagement]\naccelerometer_x=1\ntap=3\n",
+                                  "[emulationmanagement]\ngps_latitude=@Double(1)\nals=x\n"},
+                                 dictionary));
+            config.close();
+            values.close();
+            settings.reopen();
+            Smartphone3DModelConfig model;
+            model.updateSmartphone3DModel(u"Phone"_s);
+            QVERIFY(model.smartphone3DModelConfigured());
+            // what is saved over it is read again as it was
+            const int x = int(m_random());
+            const double latitude = real();
+            {
+                SettingsManager manager;
+                static_cast<void>(manager.readTapSensorValue());
+                manager.saveAccelerometerValues(x, 0, 0);
+                manager.saveGpsLatitude(latitude);
+            }
+            settings.reopen();
+            const SettingsManager manager;
+            QCOMPARE(manager.readAccelerometerX(), x);
+            QCOMPARE(manager.readGpsLatitude(), latitude);
+        });
+        QVERIFY(QDir(folder).removeRecursively());
+    }
+
+    // No dialog may take a text from outside for rich text.
+    void shownTexts()
+    {
+        QFile file(u":/emulationmanagement/js/plain-text.js"_s);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QJSEngine engine;
+        engine.evaluate(QString::fromUtf8(file.readAll()).remove(".pragma library"_L1));
+        QJSValue shown = engine.globalObject().property(u"shown"_s);
+        QVERIFY(shown.isCallable());
+        repeat([&] {
+            const QString text = QString::fromUtf8(mutated(
+                {"<b>bold</b>", "a &lt; b", "<?xml version='1.0'?><p>", "<!DOCTYPE html>",
+                 "org.x.Error <img src='http://127.0.0.1/'>"},
+                {"<", "&lt;", "\n", "\xe2\x81\xa0", " ", "<!", "/>", QByteArray(700, '<')}));
+            const QString once = shown.call({text}).toString();
+            QVERIFY2(!Qt::mightBeRichText(once), qPrintable(text));
+            QCOMPARE(shown.call({once}).toString(), once);
+            const QChar joiner(0x2060);
+            if (text.size() < 1000 && text.count(u'\n') < 19 && !text.contains(joiner))
+                QCOMPARE(QString(once).remove(joiner), text);
+        });
+    }
+};
+
+QTEST_GUILESS_MAIN(FuzzTest)
+
+#include "tst_fuzz.moc"
