@@ -86,8 +86,8 @@ bool Emulator::startRelay(QString *error)
 
 void Emulator::startControl()
 {
-    m_control = std::make_unique<Control>(*m_relay, QDBusConnection(serviceConnection),
-                                          m_packages, m_journal);
+    m_control = std::make_unique<Control>(*m_relay, QDBusConnection(serviceConnection), m_packages,
+                                          m_journal);
     if (m_control->listen(QDir(m_options.data).filePath(u"control"_s)))
         return;
     // the path of a socket is limited to 108 bytes; the emulator is of use without it

@@ -4,6 +4,7 @@
 #include "relayclient.h"
 
 #include <QWebSocket>
+#include <QWebSocketCorsAuthenticator>
 
 namespace NimbraEmulator {
 
@@ -21,6 +22,9 @@ Relay::Relay(const QHostAddress &address, const QDBusConnection &bus, Journal &j
     , m_server(u"remote-dbus-invoker"_s, QWebSocketServer::NonSecureMode)
 {
     connect(&m_server, &QWebSocketServer::newConnection, this, &Relay::acceptClients);
+    // browsers let any page of the web talk to this machine, but say which one it is
+    connect(&m_server, &QWebSocketServer::originAuthenticationRequired, this,
+            [](QWebSocketCorsAuthenticator *page) { page->setAllowed(page->origin().isEmpty()); });
 }
 
 Relay::~Relay()

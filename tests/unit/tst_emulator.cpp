@@ -150,6 +150,17 @@ private Q_SLOTS:
         QVERIFY(connectClient());
     }
 
+    // Browsers let any page open WebSockets to this machine.
+    void webPagesAreRefused()
+    {
+        QWebSocket page(u"https://nimbra.example"_s);
+        QSignalSpy connected(&page, &QWebSocket::connected);
+        QSignalSpy disconnected(&page, &QWebSocket::disconnected);
+        page.open(QUrl(u"ws://127.0.0.1:5454"_s));
+        QVERIFY(disconnected.wait());
+        QVERIFY(connected.isEmpty());
+    }
+
     // The services must take every call as the plugin writes it.
     void everyCallOfThePluginSucceeds()
     {
