@@ -4,13 +4,21 @@
 #include <virtualcameras.h>
 #include <waiting.h>
 
+#include <coreplugin/icore.h>
+
+#include <extensionsystem/pluginmanager.h>
+
 #include <hostsdk.h>
 
 #include <ravik/emulator.h>
 #include <ravik/virtualmachine.h>
 
+#include <utils/filepath.h>
+#include <utils/qtcsettings.h>
+
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QLocalSocket>
 #include <QMessageBox>
@@ -158,6 +166,7 @@ void FaultRun::act()
         &FaultRun::takeOrFreePort,
         &FaultRun::fillOrFreeDisk,
         &FaultRun::replaceVideo,
+        &FaultRun::lockOrUnlockSettings,
         &FaultRun::plugCameras,
         &FaultRun::clickSomewhere,
         &FaultRun::clickSomewhere,
@@ -269,6 +278,25 @@ void FaultRun::fillOrFreeDisk()
     m_diskFull = !m_diskFull;
     begin(m_diskFull ? "Fill the disk" : "Free the disk");
     limitFileSize(m_diskFull ? 0 : RLIM_INFINITY);
+}
+
+// Files that cannot be replaced: there are folders in their place. Root may write to all others.
+void FaultRun::lockOrUnlockSettings()
+{
+    m_settingsLocked = !m_settingsLocked;
+    begin(QString::fromLatin1(m_settingsLocked ? "Lock the settings" : "Unlock the settings"));
+    const QString files[] = {ExtensionSystem::PluginManager::settings()->fileName(),
+                             Core::ICore::userResourcePath("nimbra-sdk.ini").toFSPathString()};
+    for (const QString &file : files) {
+        const QString aside = file + ".aside";
+        if (m_settingsLocked) {
+            QFile::rename(file, aside);
+            QDir().mkpath(file + "/in-the-way");
+        } else {
+            QDir(file).removeRecursively();
+            QFile::rename(aside, file);
+        }
+    }
 }
 
 void FaultRun::replaceVideo()
@@ -401,6 +429,8 @@ void FaultRun::makeGood()
 {
     if (m_diskFull)
         fillOrFreeDisk();
+    if (m_settingsLocked)
+        lockOrUnlockSettings();
     m_tcpPort.reset();
     m_udpPort.reset();
 }

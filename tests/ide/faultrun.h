@@ -48,6 +48,7 @@ private:
     void askEmulatorForFault();
     void takeOrFreePort();
     void fillOrFreeDisk();
+    void lockOrUnlockSettings();
     void replaceVideo();
     void plugCameras();
     // what the user and the SDK do
@@ -78,4 +79,5 @@ private:
     int m_actionCount = 0;
     bool m_running = false;
     bool m_diskFull = false;
+    bool m_settingsLocked = false;
 };
