@@ -369,12 +369,22 @@ void FaultRun::pressSomeKey()
     QTest::keyClick(window, key);
 }
 
+static QObject *trackPlayer(const QObject *gpsPage)
+{
+    const QObjectList children = gpsPage->findChildren<QObject *>();
+    const auto player = std::ranges::find_if(children, [](const QObject *child) {
+        return QByteArrayView(child->metaObject()->className()).startsWith("TrackPlayer_QML");
+    });
+    if (player == children.end())
+        qFatal("The page has no player");
+    return *player;
+}
+
 void FaultRun::useManagers()
 {
     static constexpr qsizetype gpsPage = 3;
     QObject *camera = contextObject("cameraEmulationManager");
-    QObject *page
-        = view()->rootObject()->property("pagesIds").value<QQmlListReference>().at(gpsPage);
+    QObject *page = QQmlListReference(view()->rootObject(), "pagesIds").at(gpsPage);
     static constexpr const char *logs[]
         = {TEST_DATA "/gga.nmea", TEST_DATA "/wpl.nmea", MEDIA_FOLDER "/vp8.webm", "/nowhere"};
     const QList<std::pair<const char *, std::function<void()>>> uses = {
@@ -385,7 +395,7 @@ void FaultRun::useManagers()
              QMetaObject::invokeMethod(page, "openFile",
                                        QUrl::fromLocalFile(QString::fromLatin1(one(logs))));
          }},
-        {"Play the track", [&] { QMetaObject::invokeMethod(page, "startTrack"); }},
+        {"Play the track", [&] { QMetaObject::invokeMethod(trackPlayer(page), "start"); }},
         {"Start Video",
          [&] {
              QMetaObject::invokeMethod(camera, "startVideoStream", m_folder.filePath("video.webm"));
