@@ -27,6 +27,10 @@ const anything = "[^,\\r\\n]*";
 const position = "(\\d+\\.\\d+),([NS]),(\\d+\\.\\d+),([EW])";
 const time = "(\\d{6}(?:\\.\\d{2,3})?)";
 
+// Engines without translations, as Node.js, say it in English.
+if (typeof qsTr !== "function")
+    globalThis.qsTr = text => text;
+
 // How each sentence is read:
 //  - line: patterns of a line with nothing out of place, whose groups are the values that count;
 //  - fields: the fields that these groups are, the tag being field 0;
@@ -144,8 +148,8 @@ function syntaxError(message, incorrectLine) {
 // Without its time, a sentence of positions says nothing of use for a track.
 function checkedTime(text) {
     if (!/^\d{6}/.test(text)) {
-        throw new TypeError(
-            qsTr('NMEA file has a position at "%1", which is not a time').arg(text));
+        const message = qsTr('NMEA file has a position at "%1", which is not a time');
+        throw new TypeError(message.replace("%1", () => text));
     }
     return text;
 }

@@ -1,8 +1,8 @@
 .pragma library
 
 // What the points of a track are to the user, whose table has a column for each key and its title
-// in the user's language, and to the emulator. Texts have the group separators of their locale: the emulator takes an altitude of a
-// thousand metres for none.
+// in the user's language, and to the emulator. Texts have the group separators of their locale: the
+// emulator takes an altitude of a thousand metres for none.
 
 function tableRows(points, locale, coordinateDecimals, altitudeDecimals) {
     return points.map(point => ({
