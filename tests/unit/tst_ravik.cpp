@@ -95,17 +95,6 @@ private Q_SLOTS:
         QCOMPARE(sdk.journal().count("\"stopped\""), 2); // nothing was killed
     }
 
-    void deathIsNoticed()
-    {
-        TemporarySdk sdk;
-        QVERIFY2(sdk.start(), qPrintable(sdk.machine().errorString()));
-        QSignalSpy off(&sdk.machine(), &VirtualMachine::virtualMachineOffChanged);
-        static_cast<void>(sdk.requestFault("kill")); // it has no time to answer
-        QTRY_COMPARE(off, (QList<QVariantList>{{true}}));
-        QCOMPARE(sdk.machine().state(), VirtualMachine::Disconnected);
-        QVERIFY(!sdk.machine().errorString().isEmpty());
-    }
-
     void endsWithItsOwner()
     {
         {
