@@ -3,12 +3,13 @@
 #include "cameratest.h"
 #include "connectiontest.h"
 #include "dialogstest.h"
-#include "faultrun.h"
 #include "languagetest.h"
 #include "locationtest.h"
 #include "persistencetest.h"
 #include "repliestest.h"
 #include "startuptest.h"
+
+#include <faultrun.h>
 
 bool TestPlugin::initialize(const QStringList &arguments, QString *errorString)
 {

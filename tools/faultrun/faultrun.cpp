@@ -57,7 +57,7 @@ static unsigned seed()
 {
     bool ok = false;
     const int value = qEnvironmentVariableIntValue("FAULT_SEED", &ok);
-    return ok ? unsigned(value) : std::random_device()();
+    return ok ? unsigned(value) : std::random_device()() / 2; // to fit into the variable
 }
 
 // Of the IDE and of the programs that it starts: what goes beyond is not written.
@@ -385,8 +385,7 @@ void FaultRun::useManagers()
     static constexpr qsizetype gpsPage = 3;
     QObject *camera = contextObject("cameraEmulationManager");
     QObject *page = QQmlListReference(view()->rootObject(), "pagesIds").at(gpsPage);
-    static constexpr const char *logs[]
-        = {TEST_DATA "/gga.nmea", TEST_DATA "/wpl.nmea", MEDIA_FOLDER "/vp8.webm", "/nowhere"};
+    static constexpr const char *logs[] = {SAMPLE_TRACK, MEDIA_FOLDER "/vp8.webm", "/nowhere"};
     const QList<std::pair<const char *, std::function<void()>>> uses = {
         {"Light", [&] { QMetaObject::invokeMethod(sensorsManager(), "setAlsLuxValue", 7); }},
         {"Position", [&] { QMetaObject::invokeMethod(gpsManager(), "setPosition", 1., 2., 3.); }},
