@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Dialogs
@@ -25,7 +27,7 @@ EmulationPage {
     readonly property int latLongRoundingSize: Nmea.latLongRoundingSize
     readonly property int altRoundingSize: Nmea.altRoundingSize
     readonly property alias defaultInterval: player.defaultInterval
-    readonly property int lastRow: trackTable.rowCount - 1
+    readonly property int lastRow: track.rowCount - 1
     property alias actualTrackPoints: player.actualTrackPoints
     // The track has no times to play it by.
     property bool onlyDefaultInterval: false
@@ -40,6 +42,9 @@ EmulationPage {
     property int fileRequests: 0
     // The track was playing when the handle of the progress was taken.
     property bool playingWhenPressed: false
+
+    // The row is to be seen.
+    signal rowWanted(row: int)
 
     function openFile(url: url) {
         const request = ++fileRequests;
@@ -70,7 +75,7 @@ EmulationPage {
         }
         const rows = TrackRows.tableRows(points, locale, latLongRoundingSize, altRoundingSize);
         actualTrackPoints = TrackRows.trackRecord(rows, points);
-        trackTable.setRows(rows);
+        track.setRows(rows);
         // Rows have no field of that name, so that any track may be played at its own speed.
         onlyDefaultInterval = Nmea.trackHasPointsWithoutDateTime(rows);
         if (onlyDefaultInterval)
@@ -84,13 +89,13 @@ EmulationPage {
 
     function clearTrack() {
         playingWhenPressed = false;
-        trackTable.setRows([]);
+        track.setRows([]);
     }
 
     function selectRow(row: int) {
-        trackTable.selectRow(row);
+        track.selectRow(row);
         if (player.playing)
-            trackTable.showRow(row);
+            rowWanted(row);
     }
 
     // Shows the current point as the position; the emulator learns of it as a point of the track.
@@ -98,69 +103,12 @@ EmulationPage {
         const index = gpsManager.currentPositionIndex;
         if (index > lastRow)
             return;
-        const row = trackTable.row(index);
+        const row = track.row(index);
         gpsManager.setLocalPosition(row["Latitude"], row["Longitude"], row["Altitude"]);
     }
 
-    onOnlyDefaultIntervalChanged: {
-        if (!onlyDefaultInterval)
-            return;
-        messageDialog.text = qsTr("The loaded NMEA file has no temporal information. "
-                                  + "Thus you cannot play it at its own speed.");
-        messageDialog.open();
-    }
-
-    TrackPlayer {
-        id: player
-
-        gpsManager: root.gpsManager
-        lastRow: root.lastRow
-    }
-
-    Connections {
-        target: root.gpsManager
-
-        function onCurrentPositionIndexChanged() {
-            if (trackTable.rowCount === 0)
-                return;
-            const index = root.gpsManager.currentPositionIndex;
-            root.selectRow(index);
-            root.setCurrentCoordinate();
-            if (index >= root.lastRow && !root.gpsManager.trackLooped)
-                root.trackStopped = true;
-        }
-
-        function onReplyFromEmulatorReceived(reply: string) {
-            if (reply === "OK") {
-                root.stoppedAfterError = false;
-                return;
-            }
-            if (root.stoppedAfterError) {
-                player.hold();
-            } else {
-                root.stoppedAfterError = true;
-                player.stop();
-            }
-            root.nmeaFileUrl = "";
-            root.clearTrack();
-        }
-    }
-
-    FileDialog {
-        id: fileDialog
-
-        fileMode: FileDialog.OpenFile
-        nameFilters: [qsTr("NMEA files (*.nmea)")]
-        title: qsTr("Open NMEA File")
-
-        onAccepted: root.openFile(selectedFile)
-    }
-
-    PageScrollView {
+    content: PageScrollView {
         id: scrollView
-
-        anchors.fill: parent
-        anchors.margins: 12
 
         ColumnLayout {
             width: Math.max(scrollView.availableWidth, implicitWidth)
@@ -231,9 +179,9 @@ EmulationPage {
                     TrackProgress {
                         Layout.fillWidth: true
                         currentIndex: root.gpsManager.currentPositionIndex
-                        enabled: trackTable.rowCount > 0
+                        enabled: track.rowCount > 0
                         locale: root.locale
-                        rowCount: trackTable.rowCount
+                        rowCount: track.rowCount
 
                         onMoved: index => {
                             root.selectRow(index);
@@ -251,7 +199,7 @@ EmulationPage {
 
                     TrackControls {
                         Layout.fillWidth: true
-                        enabled: trackTable.rowCount > 0
+                        enabled: track.rowCount > 0
                         gpsManager: root.gpsManager
                         onlyDefaultInterval: root.onlyDefaultInterval
                         playing: player.playing
@@ -275,13 +223,81 @@ EmulationPage {
                         Layout.fillWidth: true
                         Layout.minimumHeight: 60
 
-                        onCurrentRowChanged: {
-                            if (currentRow >= 0 && rowCount > 0)
-                                player.goToRow(currentRow);
+                        track: track
+
+                        Connections {
+                            target: root
+
+                            function onRowWanted(row: int) {
+                                trackTable.showRow(row);
+                            }
                         }
                     }
                 }
             }
         }
+    }
+
+    onOnlyDefaultIntervalChanged: {
+        if (!onlyDefaultInterval)
+            return;
+        messageDialog.text = qsTr("The loaded NMEA file has no temporal information. "
+                                  + "Thus you cannot play it at its own speed.");
+        messageDialog.open();
+    }
+
+    TrackModel {
+        id: track
+
+        onCurrentRowChanged: {
+            if (currentRow >= 0 && rowCount > 0)
+                player.goToRow(currentRow);
+        }
+    }
+
+    TrackPlayer {
+        id: player
+
+        gpsManager: root.gpsManager
+        lastRow: root.lastRow
+    }
+
+    Connections {
+        target: root.gpsManager
+
+        function onCurrentPositionIndexChanged() {
+            if (track.rowCount === 0)
+                return;
+            const index = root.gpsManager.currentPositionIndex;
+            root.selectRow(index);
+            root.setCurrentCoordinate();
+            if (index >= root.lastRow && !root.gpsManager.trackLooped)
+                root.trackStopped = true;
+        }
+
+        function onReplyFromEmulatorReceived(reply: string) {
+            if (reply === "OK") {
+                root.stoppedAfterError = false;
+                return;
+            }
+            if (root.stoppedAfterError) {
+                player.hold();
+            } else {
+                root.stoppedAfterError = true;
+                player.stop();
+            }
+            root.nmeaFileUrl = "";
+            root.clearTrack();
+        }
+    }
+
+    FileDialog {
+        id: fileDialog
+
+        fileMode: FileDialog.OpenFile
+        nameFilters: [qsTr("NMEA files (*.nmea)")]
+        title: qsTr("Open NMEA File")
+
+        onAccepted: root.openFile(selectedFile)
     }
 }

@@ -3,34 +3,17 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
-import Qt.labs.qmlmodels
 
 // The points of a track, one a row; the current row is marked.
 ColumnLayout {
     id: root
 
-    property alias rows: tableModel.rows
-    readonly property alias rowCount: tableModel.rowCount
-    readonly property alias currentRow: tableView.currentRow
+    required property TrackModel track
+    readonly property int rowCount: track.rowCount
 
     readonly property color highlightColor: themeHighlightColor // qmllint disable unqualified
     readonly property color highlightedTextColor: highlightColor.hslLightness > 0.6 ? "black"
                                                                                     : "white"
-
-    function row(index: int): var {
-        return tableModel.getRow(index);
-    }
-
-    // Shows other rows, none of them current.
-    function setRows(newRows: var) {
-        selection.clearCurrentIndex();
-        tableModel.rows = newRows;
-        tableView.positionViewAtRow(0, TableView.AlignTop);
-    }
-
-    function selectRow(index: int) {
-        selection.setCurrentIndex(tableModel.index(index, 0), ItemSelectionModel.NoUpdate);
-    }
 
     function showRow(index: int) {
         tableView.positionViewAtRow(index, TableView.Contain);
@@ -41,6 +24,14 @@ ColumnLayout {
     }
 
     spacing: 0
+
+    Connections {
+        target: root.track.tableModel
+
+        function onRowsChanged() {
+            tableView.positionViewAtRow(0, TableView.AlignTop);
+        }
+    }
 
     Row {
         Layout.fillWidth: true
@@ -73,31 +64,9 @@ ColumnLayout {
         clip: true
         columnWidthProvider: column => root.columnWidth(column)
         editTriggers: TableView.NoEditTriggers
-        model: TableModel {
-            id: tableModel
-
-            TableModelColumn {
-                display: "No."
-            }
-            TableModelColumn {
-                display: "Time"
-            }
-            TableModelColumn {
-                display: "Latitude"
-            }
-            TableModelColumn {
-                display: "Longitude"
-            }
-            TableModelColumn {
-                display: "Altitude"
-            }
-        }
+        model: root.track.tableModel
         selectionBehavior: TableView.SelectRows
-        selectionModel: ItemSelectionModel {
-            id: selection
-
-            model: tableModel
-        }
+        selectionModel: root.track.selection
 
         delegate: Rectangle {
             id: cell
