@@ -103,19 +103,6 @@ void LocationTest::testCoordinates()
     QCOMPARE(takeCalls(), call.isEmpty() ? QStringList() : QStringList{call});
 }
 
-void LocationTest::testHighAltitude()
-{
-    const QTemporaryDir folder;
-    QFile file(folder.filePath("high.nmea"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("$GPGGA,123519,4807.038,N,01131.000,E,1,08,0.9,1545.4,M,46.9,M,,*47\n");
-    file.close();
-    takeCalls();
-    m_page->openTrack(file.fileName());
-    // the group separator of the table's "1,545.40" is no part of a number for the emulator
-    waitForCall("loadTrack array:array:double:48.1173000,11.5166667,0.00,0");
-}
-
 void LocationTest::testTrackIsUploaded_data()
 {
     QTest::addColumn<QString>("sample");

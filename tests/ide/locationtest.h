@@ -21,7 +21,6 @@ private Q_SLOTS:
     void initTestCase();
     void testCoordinates_data();
     void testCoordinates();
-    void testHighAltitude();
     void testTrackIsUploaded_data();
     void testTrackIsUploaded();
     void testPlayback();

@@ -2,14 +2,14 @@
 #include <camera/framerates.h>
 #include <devicemodel/smartphone3dmodelconfig.h>
 #include <link/remotedbusinvokerservice.h>
-#include <location/gpsemulationmanager.h>
-#include <requestline.h>
 #include <sensors/sensorsemulationmanager.h>
-#include <support/connectedmanager.h>
+#include <support/idesettings.h>
 
 #include <gst/gst.h>
 
 #include <QDir>
+#include <QFile>
+#include <QJSEngine>
 #include <QTest>
 #include <QTextDocument>
 
@@ -134,50 +134,6 @@ private Q_SLOTS:
             }
             QCOMPARE(manager->sensorsEnabledStates(), states);
         });
-    }
-
-    // What the managers write, the relay reads as it was meant.
-    void requests()
-    {
-        TestSupport::ConnectedManager<SensorsEmulationManager> sensors(
-            u"org.vexa.SensorfwEmulationManagement"_s);
-        GPSEmulationManager location;
-        location.setRdbusinvoker(&sensors.link);
-        for (int left = m_count; left > 0 && !QTest::currentTestFailed(); left -= 100) {
-            QList<QVariantList> expected;
-            for (int i = 0; i < 100; i += 4) {
-                const double x = real(), y = real(), z = real();
-                const int value = int(m_random());
-                sensors.manager.setGyroscopeValues(x, y, z);
-                sensors.manager.setAlsLuxValue(value);
-                location.setPosition(x, y, z);
-                location.loadTrack({QVariantMap{{u"latitude"_s, x}, {u"longitude"_s, y}},
-                                    QVariantMap{{u"altitude"_s, QString::number(z, 'g', 17)}}});
-                expected << QVariantList{x, y, z} << QVariantList{value} << QVariantList{x, y, z}
-                         << QVariantList{x, y, 0, 0, 0, 0, z, 0};
-            }
-            const QStringList lines = sensors.relay.takeRequests(sensors.link);
-            QCOMPARE(lines.size(), expected.size());
-            for (qsizetype i = 0; i < lines.size(); ++i) {
-                const NimbraEmulator::Request request = NimbraEmulator::parseRequest(lines.at(i));
-                QVERIFY2(request.error.isEmpty(), qPrintable(lines.at(i)));
-                QVariantList arguments = request.arguments;
-                if (arguments.size() == 1 && i % 4 == 3) {
-                    const auto points = arguments.takeFirst().value<QList<QList<double>>>();
-                    for (const QList<double> &point : points)
-                        arguments << QVariantList(point.begin(), point.end());
-                }
-                QCOMPARE(arguments.size(), expected.at(i).size());
-                for (qsizetype j = 0; j < arguments.size(); ++j) {
-                    const double written = expected.at(i).at(j).toDouble();
-                    // six digits, or at least two decimals of any number
-                    const double error = std::abs(arguments.at(j).toDouble() - written);
-                    QVERIFY2(error <= std::max(0.0051, std::abs(written) * 5.1e-6)
-                                 && (i % 4 != 1 || error == 0),
-                             qPrintable(lines.at(i)));
-                }
-            }
-        }
     }
 
     void framerates()
