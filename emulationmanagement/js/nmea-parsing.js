@@ -145,6 +145,15 @@ function syntaxError(message, incorrectLine) {
     return Object.assign(new SyntaxError(message), {incorrectLine});
 }
 
+// What loadNmeaLog() throws for a text without a known sentence.
+function nothingKnownError(text) {
+    const lines = countLines(text);
+    if (lines === 0)
+        return new TypeError(qsTr("NMEA file has only empty lines"));
+    return syntaxError(qsTr("NMEA file has incorrect points format.\n"
+                            + "Supported formats: GPRMC, GPGGA, GPGLL, GPWPL."), lines);
+}
+
 // Without its time, a sentence of positions says nothing of use for a track.
 function checkedTime(text) {
     if (!/^\d{6}/.test(text)) {
@@ -295,13 +304,8 @@ function loadNmeaLog(text) {
         setUpTrackPointTimeAndInterval(points, point, startTime, time);
         points.push(point);
     }
-    if (points.length === 0) {
-        const lines = countLines(text);
-        if (lines === 0)
-            throw new TypeError(qsTr("NMEA file has only empty lines"));
-        throw syntaxError(qsTr("NMEA file has incorrect points format.\n"
-                               + "Supported formats: GPRMC, GPGGA, GPGLL, GPWPL."), lines);
-    }
+    if (points.length === 0)
+        throw nothingKnownError(text);
     return points;
 }
 
