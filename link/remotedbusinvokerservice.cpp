@@ -9,7 +9,10 @@ const QString RemoteDBusInvokerService::portForwardingRule
 
 RemoteDBusInvokerService::RemoteDBusInvokerService(QObject *parent)
     : QObject(parent)
-{}
+{
+    m_retryTimer.setSingleShot(true);
+    connect(&m_retryTimer, &QTimer::timeout, this, &RemoteDBusInvokerService::connectToEmulator);
+}
 
 RemoteDBusInvokerService::~RemoteDBusInvokerService()
 {
@@ -24,20 +27,35 @@ void RemoteDBusInvokerService::createWebSocket()
     QWebSocket *webSocket = &*m_webSocket;
     webSocket->setMaxAllowedIncomingFrameSize(maxReplySize);
     webSocket->setMaxAllowedIncomingMessageSize(maxReplySize);
-    connect(webSocket, &QWebSocket::connected, this, &RemoteDBusInvokerService::webSocketConnected);
+    connect(webSocket, &QWebSocket::connected, this, [this] {
+        m_sinceConnected.start();
+        Q_EMIT webSocketConnected();
+    });
     connect(webSocket, &QWebSocket::disconnected, this,
-            &RemoteDBusInvokerService::webSocketDisconnected);
-    connect(webSocket, &QWebSocket::disconnected, this,
-            &RemoteDBusInvokerService::connectToEmulator);
+            &RemoteDBusInvokerService::handleDisconnected);
     connect(webSocket, &QWebSocket::textMessageReceived, this,
             &RemoteDBusInvokerService::replyReceived);
 }
 
 void RemoteDBusInvokerService::connectToEmulator()
 {
+    m_retryTimer.stop();
     if (!m_webSocket)
         createWebSocket();
     m_webSocket->open(QUrl(QStringLiteral("ws://127.0.0.1:%1").arg(hostTcpPort)));
+}
+
+void RemoteDBusInvokerService::handleDisconnected()
+{
+    // A relay that takes connections only to close them is no better than one that refuses them.
+    const bool wasUsable
+        = m_sinceConnected.isValid() && m_sinceConnected.durationElapsed() >= retryInterval;
+    m_sinceConnected.invalidate();
+    Q_EMIT webSocketDisconnected();
+    if (wasUsable)
+        connectToEmulator();
+    else
+        m_retryTimer.start(retryInterval);
 }
 
 void RemoteDBusInvokerService::callDBusMethod(const QString &bus, const QString &service,

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QString>
+#include <QTimer>
 #include <QWebSocket>
 
+#include <chrono>
 #include <optional>
 
 namespace EmulationManagement::Internal {
@@ -12,7 +15,10 @@ namespace EmulationManagement::Internal {
  *
  * A relay inside the emulator performs D-Bus calls: each text frame of a WebSocket (RFC 6455) is
  * one request, each text frame that comes back one reply. Replies carry no request identifier.
- * Once opened, the link reconnects for as long as the object lives.
+ *
+ * Once opened, the link reconnects for as long as the object lives: at once when a connection was
+ * lost, and then every retryInterval. Without a pause, a loopback that refuses connections would be
+ * asked tens of thousands of times a second for as long as the emulator is off.
  */
 class RemoteDBusInvokerService : public QObject
 {
@@ -28,6 +34,8 @@ public:
     static constexpr quint64 maxReplySize = 64 << 20;
     /// Name of the SDK's port forwarding rule for the two.
     static const QString portForwardingRule;
+    /// From an attempt to connect that failed until the next one.
+    static constexpr std::chrono::milliseconds retryInterval{100};
 
     explicit RemoteDBusInvokerService(QObject *parent = nullptr);
     ~RemoteDBusInvokerService() override;
@@ -46,16 +54,20 @@ public:
 
 Q_SIGNALS:
     void webSocketConnected();
+    /// A connection was lost, or an attempt to connect failed.
     void webSocketDisconnected();
     /// A reply line of the relay, as it came.
     void replyReceived(const QString &reply);
 
 private:
     void createWebSocket();
+    void handleDisconnected();
 
     // Made with the first connection: the first socket of a process loads its TLS library, which
     // takes longer than all else that the plugin does in C++ when the IDE starts.
     std::optional<QWebSocket> m_webSocket;
+    QElapsedTimer m_sinceConnected; // invalid while there is no connection
+    QTimer m_retryTimer;
 };
 
 } // namespace EmulationManagement::Internal
