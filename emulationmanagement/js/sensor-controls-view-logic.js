@@ -3,8 +3,7 @@
 function replyFromEmulatorReceivedHandler(reply, errorDialog) {
     if (reply === "" || reply === "OK")
         return;
-    errorDialog.text = reply;
-    errorDialog.open();
+    errorDialog.show(reply);
     if (root.lastChangedSensorName === "")
         return;
     root.sensorsManager.setSensorEnabled(root.lastChangedSensorName, root.lastChangedSensorEnabled);

@@ -62,10 +62,9 @@ EmulationPage {
                 return;
             if (root.cameraManager.streamRunning)
                 root.cameraManager.stopVideoStream();
-            root.errorDialog.text = codecName === ""
+            root.errorDialog.show(codecName === ""
                 ? qsTr("Could not determine the video codec of the video file. Supported codecs: VP8 and VP9.")
-                : qsTr("Camera emulation does not support %1. Supported codecs: VP8 and VP9.").arg(codecName);
-            root.errorDialog.open();
+                : qsTr("Camera emulation does not support %1. Supported codecs: VP8 and VP9.").arg(codecName));
         }
     }
 

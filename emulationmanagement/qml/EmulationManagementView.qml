@@ -55,6 +55,13 @@ Rectangle {
     height: 600
     color: themeBackgroundColorNormal // qmllint disable unqualified
 
+    Window.onVisibilityChanged: {
+        if (Window.visibility !== Window.Hidden)
+            return;
+        errorDialog.close();
+        messageDialog.close();
+    }
+
     ErrorMessageDialog {
         id: errorDialog
     }

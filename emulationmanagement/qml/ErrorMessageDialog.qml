@@ -1,12 +1,74 @@
-import QtQuick.Dialogs
+import QtQuick
+import QtQuick.Controls
 
 import "../js/plain-text.js" as PlainText
 
-// Shows a text of the emulator or of a file as what it is.
-MessageDialog {
-    title: qsTr("Error")
-    buttons: MessageDialog.Ok
+// Tells what an emulator or a file answered. It is a part of the window, and not one of the
+// platform's dialogs, which keep their first text while they are open and take markup in it for
+// rich text.
+Dialog {
+    id: root
 
-    // The label of the dialog, which takes anything with tags for rich text, is out of reach.
-    onTextChanged: text = PlainText.shown(text)
+    // A page may repeat a call that is refused ten times a second. Milliseconds from a message to
+    // the same one that still belong to one refusal, which is told once.
+    readonly property int repetitionInterval: 1000
+    // When each message of the last repetitionInterval came, by its text.
+    property var lastTimes: ({})
+    property string text: ""
+
+    // Shows a message, also in the place of one that is still open.
+    function show(message: string) {
+        const shown = PlainText.shortened(message);
+        const now = Date.now();
+        const recent = {};
+        for (const [other, time] of Object.entries(lastTimes)) {
+            if (Math.abs(now - time) < repetitionInterval)
+                recent[other] = time;
+        }
+        const isRepetition = shown in recent;
+        recent[shown] = now;
+        lastTimes = recent;
+        if (isRepetition)
+            return;
+        text = shown;
+        open();
+    }
+
+    anchors.centerIn: Overlay.overlay
+    focus: true
+    height: Math.min(implicitHeight, (parent?.height ?? 0) - 20)
+    modal: true
+    parent: Overlay.overlay
+    title: qsTr("Error")
+    width: Math.min(480, (parent?.width ?? 0) - 20)
+
+    contentItem: ScrollView {
+        contentWidth: availableWidth
+        implicitHeight: label.implicitHeight
+
+        Label {
+            id: label
+
+            Accessible.role: Accessible.AlertMessage
+            text: root.text
+            textFormat: Text.PlainText
+            width: parent.width
+            wrapMode: Text.Wrap
+        }
+    }
+    footer: Item {
+        implicitHeight: okButton.implicitHeight + 2 * root.padding
+
+        Button {
+            id: okButton
+
+            anchors.centerIn: parent
+            focus: true
+            text: qsTr("OK")
+
+            Keys.onEnterPressed: clicked()
+            Keys.onReturnPressed: clicked()
+            onClicked: root.accept()
+        }
+    }
 }

@@ -68,9 +68,8 @@ EmulationPage {
             points = Nmea.loadNmeaLog(text);
         } catch (error) {
             clearTrack();
-            errorDialog.text = error.incorrectLine > 0
-                ? error.message + qsTr(", line: %1").arg(error.incorrectLine) : error.message;
-            errorDialog.open();
+            errorDialog.show(error.incorrectLine > 0
+                ? error.message + qsTr(", line: %1").arg(error.incorrectLine) : error.message);
             return;
         }
         const rows = TrackRows.tableRows(points, locale, latLongRoundingSize, altRoundingSize);

@@ -7,24 +7,12 @@
 
 #include <ravik/emulator.h>
 
-#include <QGuiApplication>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QSignalSpy>
 #include <QTest>
 
 using namespace PluginDriver;
-
-/// The window of the dialog that is open; null when none is.
-static QQuickWindow *dialogWindow()
-{
-    const QWindowList windows = QGuiApplication::allWindows();
-    for (QWindow *window : windows) {
-        if (window->isVisible() && window->inherits("QQuickPopupWindow"))
-            return qobject_cast<QQuickWindow *>(window);
-    }
-    return nullptr;
-}
 
 void RepliesTest::initTestCase()
 {
@@ -44,9 +32,8 @@ void RepliesTest::testErrorDialog_data()
     QTest::newRow("four fields") << "relay answer a:b:c:d" << "a:b:c:d";
     QTest::newRow("six fields") << "relay answer a:b:c::e:f" << "a:b:c::e:f";
     QTest::newRow("plain text") << "relay answer connection refused" << "connection refused";
-    QTest::newRow("markup")
-        << "relay answer a<br>&amp;<img src='http://127.0.0.1/a'>"
-        << QString("a<#br>&#amp;<#img src='http://127.0.0.1/a'>").replace('#', QChar(0x2060));
+    QTest::newRow("markup") << "relay answer a<br>&amp;<img src='http://127.0.0.1/a'>"
+                            << "a<br>&amp;<img src='http://127.0.0.1/a'>";
     QTest::newRow("enormous") << "relay repeat 64000000 x" << QString(999, 'x') + QChar(0x2026);
     QTest::newRow("millions of lines")
         << "relay repeat 8000000 \r" << QString(19, '\n') + QChar(0x2026);
@@ -75,8 +62,8 @@ void RepliesTest::testErrorDialog()
     waitFor("the dialog", [&] { return dialog->property("visible").toBool(); });
     QCOMPARE(dialog->property("title").toString(), "Error");
     QCOMPARE(dialog->property("text").toString(), text);
-    WindowDriver(dialogWindow()).clickButton("OK");
-    waitFor("the dialog to close", [] { return !dialogWindow(); });
+    WindowDriver(view()).clickButton("OK");
+    waitFor("the dialog to close", [&] { return !dialog->property("visible").toBool(); });
 }
 
 void RepliesTest::cleanupTestCase()

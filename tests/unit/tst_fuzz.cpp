@@ -9,9 +9,7 @@
 
 #include <QDir>
 #include <QFile>
-#include <QJSEngine>
 #include <QTest>
-#include <QTextDocument>
 
 #include <bit>
 #include <cmath>
@@ -239,29 +237,6 @@ private Q_SLOTS:
             QCOMPARE(manager.readGpsLatitude(), latitude);
         });
         QVERIFY(QDir(folder).removeRecursively());
-    }
-
-    // No dialog may take a text from outside for rich text.
-    void shownTexts()
-    {
-        QFile file(u":/emulationmanagement/js/plain-text.js"_s);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QJSEngine engine;
-        engine.evaluate(QString::fromUtf8(file.readAll()).remove(".pragma library"_L1));
-        QJSValue shown = engine.globalObject().property(u"shown"_s);
-        QVERIFY(shown.isCallable());
-        repeat([&] {
-            const QString text = QString::fromUtf8(mutated(
-                {"<b>bold</b>", "a &lt; b", "<?xml version='1.0'?><p>", "<!DOCTYPE html>",
-                 "org.x.Error <img src='http://127.0.0.1/'>"},
-                {"<", "&lt;", "\n", "\xe2\x81\xa0", " ", "<!", "/>", QByteArray(700, '<')}));
-            const QString once = shown.call({text}).toString();
-            QVERIFY2(!Qt::mightBeRichText(once), qPrintable(text));
-            QCOMPARE(shown.call({once}).toString(), once);
-            const QChar joiner(0x2060);
-            if (text.size() < 1000 && text.count(u'\n') < 19 && !text.contains(joiner))
-                QCOMPARE(QString(once).remove(joiner), text);
-        });
     }
 };
 
