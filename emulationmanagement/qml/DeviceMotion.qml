@@ -96,6 +96,15 @@ QtObject {
         }
     }
 
+    // Ends what a turn or a move adds to the readings, which stand from then on.
+    function comeToRest() {
+        previousRotation = rotation;
+        wrapped = [false, false, false];
+        earlierPosition = position;
+        previousPosition = position;
+        sample();
+    }
+
     onActiveChanged: {
         if (!active)
             return;

@@ -167,6 +167,10 @@ EmulationPage {
         else
             controlModifierPressed = false;
     }
+    onShownChanged: {
+        if (!shown && active)
+            motion.comeToRest(); // the timer ends with the window
+    }
     onControlModifierPressedChanged: rotationMode = !rotationMode
     // The sliders of the other mode take the focus with them when they are hidden.
     onRotationModeChanged: {
@@ -196,7 +200,7 @@ EmulationPage {
     Timer {
         interval: motion.timerInterval * 1000
         repeat: true
-        running: root.active
+        running: root.shown
 
         onTriggered: motion.sample()
     }
