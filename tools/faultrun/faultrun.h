@@ -17,10 +17,12 @@ QT_END_NAMESPACE
 class VirtualCameras;
 
 /*!
- * Faults and actions of the user at random, in quick succession: the IDE stays alive, its event
- * loop never stands still for long, and in the end everything works.
+ * Faults and actions of the user at random, in quick succession: the IDE stays alive and its event
+ * loop never stands still for long. In the end everything works, or the user quits in the middle of
+ * it all and the IDE ends by itself.
  *
- * FAULT_SEED repeats a run as far as timing allows, FAULT_SECONDS says how long it takes.
+ * FAULT_SEED repeats a run as far as timing allows, FAULT_SECONDS says how long it takes, and
+ * FAULT_QUIT that the user quits.
  */
 class FaultRun : public QObject
 {
@@ -33,7 +35,6 @@ public:
 private Q_SLOTS:
     void initTestCase();
     void testRandomFaults();
-    void cleanupTestCase();
 
 private:
     void actSoon();
@@ -43,6 +44,8 @@ private:
     void answerMessageBox();
     /// Takes all faults back that are not the emulator's own.
     void makeGood();
+    void checkThatAllWorks();
+    void quit();
 
     // faults
     void askEmulatorForFault();
