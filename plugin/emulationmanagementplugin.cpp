@@ -1,6 +1,7 @@
 #include "emulationmanagementplugin.h"
 
 #include "emulationmanagementconstants.h"
+#include "messageboxbuttons.h"
 #include "textfielddoublevalidator.h"
 #include "warningdialog.h"
 
@@ -52,6 +53,10 @@ bool EmulationManagementPlugin::initialize(const QStringList &arguments, QString
     m_gpsEmulationManager.setRdbusinvoker(&m_remoteDBusInvokerService);
     setupView();
     setupMenu();
+    connect(&m_openingProgress, &OpeningProgress::canceled, this,
+            &EmulationManagementPlugin::abandonOpening);
+    connect(&m_openingProgress, &OpeningProgress::timedOut, this,
+            &EmulationManagementPlugin::handleOpeningTimedOut);
     return true;
 }
 
@@ -64,16 +69,26 @@ void EmulationManagementPlugin::extensionsInitialized()
             &EmulationManagementPlugin::setUpEmulatorConnection);
     connect(m_sdk, &Ravik::Sdk::aboutToRemoveEmulator, this,
             &EmulationManagementPlugin::setUpEmulatorConnection);
+    // Once the emulator is out of the list, another one that is left takes its place.
+    connect(m_sdk, &Ravik::Sdk::aboutToRemoveEmulator, this,
+            &EmulationManagementPlugin::setUpEmulatorConnection, Qt::QueuedConnection);
     connect(m_sdk, &Ravik::Sdk::deviceModelsChanged, this,
             &EmulationManagementPlugin::setUpEmulatorConnection);
 }
 
 ExtensionSystem::IPlugin::ShutdownFlag EmulationManagementPlugin::aboutToShutdown()
 {
-    // The emulator may end with the IDE, which a message about the lost link would hold open.
-    disconnect(&m_remoteDBusInvokerService, nullptr, this, nullptr);
-    m_emulationManagementView.close();
+    prepareShutdown();
     return SynchronousShutdown;
+}
+
+void EmulationManagementPlugin::prepareShutdown()
+{
+    abandonOpening();
+    // The emulator may end with the IDE, which is no news then.
+    disconnect(&m_remoteDBusInvokerService, nullptr, this, nullptr);
+    m_messageBoxes.clear();
+    m_emulationManagementView.close();
 }
 
 void EmulationManagementPlugin::setupTranslations()
@@ -149,11 +164,12 @@ void EmulationManagementPlugin::setupView()
         QUrl(QStringLiteral("qrc:/emulationmanagement/qml/EmulationManagementView.qml")));
 
     connect(&m_emulationManagementView, &QWindow::visibleChanged, this, [this](bool visible) {
-        if (visible || !m_cameraEmulationManager.streamRunning())
-            return;
-        m_cameraEmulationManager.stopVideoStream();
-        m_cameraEmulationManager.stopCameraStream();
+        if (!visible)
+            handleViewHidden();
     });
+    // The IDE quits when its last window has closed, and this one counts.
+    connect(Core::ICore::instance(), &Core::ICore::coreAboutToClose, this,
+            &EmulationManagementPlugin::prepareShutdown);
 }
 
 void EmulationManagementPlugin::setupMenu()
@@ -206,12 +222,23 @@ void EmulationManagementPlugin::updateSensorsConfiguration(const QString &device
 void EmulationManagementPlugin::showMessageBox(const QString &text, const QString &informativeText,
                                                const QMessageBox::StandardButtons &buttons)
 {
-    QMessageBox box(QMessageBox::Information, tr("Emulation management plugin"), text, buttons,
-                    Core::ICore::mainWindow(), Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
-    box.setTextFormat(Qt::PlainText); // it may hold the emulator's name
-    box.setInformativeText(informativeText);
-    if (box.exec() == QMessageBox::Retry)
-        showEmulationManagementView();
+    auto *box = new QMessageBox(QMessageBox::Information, tr("Emulation management plugin"), text,
+                                buttons, Core::ICore::mainWindow(),
+                                Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
+    m_messageBoxes.add(box);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setWindowModality(Qt::ApplicationModal);
+    box->setTextFormat(Qt::PlainText); // it may hold the emulator's name
+    box->setInformativeText(informativeText);
+    translateButtons(box);
+    connect(box, &QDialog::finished, this, [this](int answer) {
+        if (m_emulationManagementView.isVisible())
+            m_emulationManagementView.bringToFront(); // the box has raised the IDE above it
+        if (answer == QMessageBox::Retry)
+            showEmulationManagementView();
+    });
+    // The caller may be in the middle of somebody else's signal.
+    QMetaObject::invokeMethod(box, &QWidget::show, Qt::QueuedConnection);
 }
 
 } // namespace EmulationManagement::Internal

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "emulationmanagementpackageschecker.h"
+#include "emulationmanagementview.h"
+#include "openingprogress.h"
 
 #include <camera/cameraemulationmanager.h>
 
@@ -16,8 +18,8 @@
 
 #include <QMap>
 #include <QMessageBox>
+#include <QObjectCleanupHandler>
 #include <QPointer>
-#include <QQuickView>
 #include <QVariant>
 
 namespace Ravik {
@@ -44,7 +46,12 @@ public:
     void extensionsInitialized() override;
     ShutdownFlag aboutToShutdown() override;
 
-    /// Makes the window appear, or tells the user what is in the way.
+    /*!
+     * Brings the window to the front, or tells the user what is in the way.
+     *
+     * Starts the emulator and checks its packages first where needed, which takes a while. Calls
+     * that come meanwhile do nothing.
+     */
     void showEmulationManagementView();
 
 Q_SIGNALS:
@@ -68,10 +75,19 @@ private:
     void setUpEmulatorConnection();
     /// Returns whether the window may be opened; adds missing forwardings to a machine that is off.
     bool setUpPortForwarding();
+    void startMachine();
     void checkEmulationPackages();
     void handlePackagesChecked(const QString &message, const QString &detailedText);
+    /// Stops waiting for the machine's start and for the package check.
+    void abandonOpening();
+    void handleOpeningTimedOut();
+    void openView();
+    void handleViewHidden();
     void handleConnectionLost();
+    /// Ends all that would keep the IDE from quitting, or show up while it quits.
+    void prepareShutdown();
     void updateSensorsConfiguration(const QString &deviceModelName);
+    /// Returns at once; the box is shown from the event loop.
     void showMessageBox(const QString &text, const QString &informativeText,
                         const QMessageBox::StandardButtons &buttons);
 
@@ -80,7 +96,7 @@ private:
     SensorsEmulationManager m_sensorsEmulationManager;
     Smartphone3DModelConfig m_smartphone3DModelConfig;
     CameraEmulationManager m_cameraEmulationManager;
-    QQuickView m_emulationManagementView;
+    EmulationManagementView m_emulationManagementView;
     Ravik::Sdk *m_sdk = nullptr;
     QPointer<Ravik::Emulator> m_currentEmulator;
     bool m_vmRunning = false;
@@ -88,6 +104,8 @@ private:
     bool m_startRequested = false;
     QMap<QString, QVariant> m_deviceSensorsConfigurations;
     EmulationManagementPackagesChecker m_packagesChecker;
+    OpeningProgress m_openingProgress{this};
+    QObjectCleanupHandler m_messageBoxes; // those that are open or about to be
 };
 
 } // namespace EmulationManagement::Internal

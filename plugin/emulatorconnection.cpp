@@ -59,6 +59,9 @@ void EmulationManagementPlugin::setUpEmulatorConnection()
         if (off) {
             m_emulationManagementView.hide();
             m_packagesChecked = false;
+            // A machine that was asked to start while it was stopping starts now.
+            if (!m_startRequested)
+                abandonOpening();
         }
         m_vmRunning = !off;
     });
@@ -72,11 +75,13 @@ void EmulationManagementPlugin::setUpEmulatorConnection()
 
 void EmulationManagementPlugin::showEmulationManagementView()
 {
+    if (m_openingProgress.isRunning())
+        return;
     if (!m_currentEmulator) {
         showMessageBox(tr("The emulation management plugin cannot be used. Please, close the "
                           "emulator if it is running and add %1 Emulator to the list of available "
                           "devices in Qt Creator settings.")
-                           .arg(Ravik::Sdk::osVariant()),
+                           .arg(Ravik::Sdk::osVariant(Ravik::TextStyle{})),
                        {}, QMessageBox::Ok);
         return;
     }
@@ -86,22 +91,66 @@ void EmulationManagementPlugin::showEmulationManagementView()
         m_emulationManagementView.hide();
         m_packagesChecked = false;
     }
-    // waits in an event loop, during which the emulator may be removed
-    if (!setUpPortForwarding() || !m_currentEmulator)
+    if (!m_packagesChecked)
+        m_openingProgress.start();
+    // waits in an event loop, during which the emulator may be removed or the opening cancelled
+    if (!setUpPortForwarding() || !m_currentEmulator) {
+        abandonOpening();
         return;
+    }
 
     if (!m_vmRunning) {
-        m_currentEmulator->virtualMachine()->connectTo({}, this, [](bool) {});
-        m_startRequested = true;
+        if (m_openingProgress.isRunning())
+            startMachine();
         return;
     }
     Q_EMIT emulationManagementViewShowed();
-    if (!m_packagesChecked) {
+    if (m_packagesChecked)
+        openView();
+    else
         checkEmulationPackages();
-        return;
-    }
-    m_cameraEmulationManager.setupCameraStreamPipeline();
-    m_emulationManagementView.show();
+}
+
+void EmulationManagementPlugin::startMachine()
+{
+    m_openingProgress.setStep(tr("Starting %1").arg(m_currentEmulator->name()));
+    m_startRequested = true;
+    m_currentEmulator->virtualMachine()->connectTo({}, this, [this](bool isReachable) {
+        if (!isReachable)
+            abandonOpening(); // the SDK tells why
+    });
+}
+
+void EmulationManagementPlugin::abandonOpening()
+{
+    m_startRequested = false;
+    disconnect(&m_packagesChecker, nullptr, nullptr, nullptr);
+    m_openingProgress.finish();
+}
+
+void EmulationManagementPlugin::handleOpeningTimedOut()
+{
+    abandonOpening();
+    const QString name = m_currentEmulator ? m_currentEmulator->name() : QString();
+    showMessageBox(tr("%1 has not become ready within %2 minutes. Please, try to use 'Emulation "
+                      "management…' again.")
+                       .arg(name)
+                       .arg(OpeningProgress::timeLimit.count()),
+                   {}, QMessageBox::Ok);
+}
+
+void EmulationManagementPlugin::openView()
+{
+    // A window that the user sees keeps its stream and its choices.
+    if (!m_emulationManagementView.isVisible())
+        m_cameraEmulationManager.setupCameraStreamPipeline();
+    m_emulationManagementView.bringToFront();
+}
+
+void EmulationManagementPlugin::handleViewHidden()
+{
+    m_cameraEmulationManager.stopVideoStream();
+    m_cameraEmulationManager.stopCameraStream();
 }
 
 bool EmulationManagementPlugin::setUpPortForwarding()
@@ -138,6 +187,7 @@ void EmulationManagementPlugin::checkEmulationPackages()
 {
     if (!m_currentEmulator)
         return;
+    m_openingProgress.setStep(tr("Checking the packages of %1").arg(m_currentEmulator->name()));
     connect(&m_packagesChecker, &EmulationManagementPackagesChecker::checkFinished, this,
             &EmulationManagementPlugin::handlePackagesChecked);
     m_packagesChecker.checkPackages(m_currentEmulator->virtualMachine()->sshParameters());
@@ -146,16 +196,14 @@ void EmulationManagementPlugin::checkEmulationPackages()
 void EmulationManagementPlugin::handlePackagesChecked(const QString &message,
                                                       const QString &detailedText)
 {
-    if (message.isEmpty()) {
-        m_packagesChecked = true;
-        m_remoteDBusInvokerService.connectToEmulator();
-        m_cameraEmulationManager.setupCameraStreamPipeline();
-        m_emulationManagementView.show();
-    } else {
+    abandonOpening(); // each check is answered once
+    if (!message.isEmpty()) {
         showMessageBox(message, detailedText, QMessageBox::Close);
+        return;
     }
-    // each check is answered once
-    disconnect(&m_packagesChecker, nullptr, nullptr, nullptr);
+    m_packagesChecked = true;
+    m_remoteDBusInvokerService.connectToEmulator();
+    openView();
 }
 
 void EmulationManagementPlugin::handleConnectionLost()

@@ -1,10 +1,21 @@
 #include "warningdialog.h"
 
+#include "messageboxbuttons.h"
+
 #include <coreplugin/icore.h>
 
 #include <QCheckBox>
+#include <QQuickItem>
+#include <QQuickWindow>
 
 namespace EmulationManagement::Internal {
+
+/// Of the item that the dialog was declared in.
+static QQuickWindow *windowOf(const WarningDialog &dialog)
+{
+    const auto *item = qobject_cast<QQuickItem *>(dialog.parent());
+    return item ? item->window() : nullptr;
+}
 
 QString WarningDialog::text() const
 {
@@ -46,8 +57,15 @@ void WarningDialog::show()
     auto *doNotShowAgain = new QCheckBox(tr("Do not show again"));
     box.setCheckBox(doNotShowAgain);
     doNotShowAgain->setVisible(m_withDoNotShowAgainCheckBox);
+    translateButtons(&box);
 
-    switch (box.exec()) {
+    const int answer = box.exec();
+    // The box has raised the IDE above the window that asks.
+    if (QQuickWindow *window = windowOf(*this); window && window->isVisible()) {
+        window->raise();
+        window->requestActivate();
+    }
+    switch (answer) {
     case QMessageBox::Ok:
     case QMessageBox::Apply:
         Q_EMIT accepted(m_withDoNotShowAgainCheckBox && doNotShowAgain->isChecked());

@@ -10,10 +10,16 @@
 #include <ravik/emulator.h>
 #include <ravik/virtualmachine.h>
 
+#include <coreplugin/icore.h>
+#include <coreplugin/progressmanager/progressmanager.h>
+
+#include <QApplication>
 #include <QFileInfo>
 #include <QPointer>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 #include <QUrl>
 
 #include <algorithm>
@@ -174,6 +180,111 @@ void ConnectionTest::testLinkLostWithoutTrack()
     QVERIFY(view()->isVisible());
 }
 
+void ConnectionTest::testWindowBroughtToFront()
+{
+    Journal emulatorJournal = journal();
+    openWindow(emulatorJournal);
+    QObject *camera = contextObject("cameraEmulationManager");
+    camera->setProperty("width", 77);
+    view()->setWindowStates(Qt::WindowMaximized);
+    view()->setWindowStates(Qt::WindowMaximized | Qt::WindowMinimized);
+    Core::ICore::mainWindow()->activateWindow();
+    waitFor("the IDE to be active", [] { return Core::ICore::mainWindow()->isActiveWindow(); });
+
+    chooseAction();
+    waitFor("the window to be active", [] { return view()->isActive(); });
+    QCOMPARE(view()->windowStates(), Qt::WindowMaximized);
+    QCOMPARE(camera->property("width"), 77);
+
+    view()->close();
+    chooseAction();
+    QCOMPARE(view()->windowStates(), Qt::WindowMaximized);
+    view()->setWindowStates(Qt::WindowNoState);
+}
+
+void ConnectionTest::testWindowGeometry()
+{
+    Journal emulatorJournal = journal();
+    openWindow(emulatorJournal);
+    const QRect available = view()->screen()->availableGeometry();
+    const QRect geometry = QRect(available.topLeft(), available.size() / 2).translated(20, 30);
+    view()->setGeometry(geometry);
+    view()->close();
+    view()->setGeometry(0, 0, 10, 10);
+    chooseAction();
+    QCOMPARE(view()->geometry(), geometry);
+
+    view()->setGeometry(QRect(available.center(), 2 * available.size()));
+    view()->close();
+    chooseAction();
+    QVERIFY(available.contains(view()->geometry()));
+}
+
+void ConnectionTest::testOpeningInProgress()
+{
+    static const Utils::Id opening("EmulationManagement.Opening");
+    QSignalSpy started(Core::ProgressManager::instance(), &Core::ProgressManager::taskStarted);
+    QSignalSpy finished(Core::ProgressManager::instance(),
+                        &Core::ProgressManager::allTasksFinished);
+    const MessageBoxAnswers answers(QMessageBox::Ok);
+    Journal emulatorJournal = journal();
+    const qsizetype start = emulatorJournal.position();
+
+    chooseAction();
+    chooseAction();
+    QCOMPARE(started.count(QVariantList{QVariant::fromValue(opening)}), 1);
+    Core::ProgressManager::cancelTasks(opening);
+    waitFor("the machine", [] { return machine()->state() == Ravik::VirtualMachine::Connected; });
+    waitFor("the progress to end", [&] { return !finished.isEmpty(); });
+    QVERIFY(!view()->isVisible());
+
+    chooseAction(); // now the packages are checked
+    auto *timeLimit
+        = contextObject("emulationManagementPlugin")->findChild<QTimer *>("openingTimeLimit");
+    QVERIFY(timeLimit->isActive());
+    timeLimit->start(std::chrono::milliseconds(0));
+    waitFor("the message", [&] { return answers.boxes().size() == 1; });
+    QVERIFY(answers.texts().constFirst().contains("has not become ready within 5 minutes"));
+    QVERIFY(!view()->isVisible());
+
+    finished.clear();
+    chooseAction();
+    waitFor("the window", [] { return view()->isVisible(); });
+    waitFor("the progress to end", [&] { return !finished.isEmpty(); });
+    emulatorJournal.waitForEvent("relay-connected", start);
+    QCOMPARE(answers.boxes().size(), 1);
+}
+
+// A box that is open holds nothing up.
+void ConnectionTest::testMessageLeftOpen()
+{
+    machine()->connectTo({}, this, [](bool) {});
+    waitFor("the machine", [] { return machine()->state() == Ravik::VirtualMachine::Connected; });
+    control("package without geoclue-emulator");
+    chooseAction();
+    waitFor("the message", [] { return QApplication::activeModalWidget(); });
+    const QPointer<QWidget> box = QApplication::activeModalWidget();
+    control("package with geoclue-emulator");
+    chooseAction();
+    waitFor("the window", [] { return view()->isVisible(); });
+
+    Core::ICore::mainWindow()->activateWindow();
+    box->close();
+    waitFor("the window to be in front again", [] { return view()->isActive(); });
+}
+
+void ConnectionTest::testNextEmulatorServed()
+{
+    sdk()->addEmulator({.name = "Second Emulator", .deviceModel = "Nimbra Lite"});
+    removeEmulator();
+    const MessageBoxAnswers answers(QMessageBox::Ok);
+    QCOMPARE(sensorsManager()->property("sensorsAvailability").toMap().keys(false),
+             (QStringList{"proximity", "tap"}));
+    chooseAction();
+    waitFor("the window", [] { return view()->isVisible(); });
+    QCOMPARE(answers.boxes().size(), 0);
+}
+
 void ConnectionTest::testMachineOnWithoutForwardings()
 {
     removeEmulator();
@@ -183,6 +294,7 @@ void ConnectionTest::testMachineOnWithoutForwardings()
 
     const MessageBoxAnswers answers(QMessageBox::Ok);
     chooseAction();
+    waitFor("the message", [&] { return !answers.boxes().isEmpty(); });
     QCOMPARE(answers.texts(),
              QStringList{QStringLiteral("The emulation management plugin cannot be used. Please, "
                                         "close Bare Emulator and try to use 'Emulation "
@@ -222,6 +334,7 @@ void ConnectionTest::testNoEmulator()
     removeEmulator();
     const MessageBoxAnswers answers(QMessageBox::Ok);
     chooseAction();
+    waitFor("the message", [&] { return !answers.boxes().isEmpty(); });
     QCOMPARE(answers.texts(),
              QStringList{"The emulation management plugin cannot be used. Please, close the "
                          "emulator if it is running and add Nimbra OS Emulator to the list of "

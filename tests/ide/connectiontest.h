@@ -15,6 +15,11 @@ private Q_SLOTS:
     void testMissingPackages();
     void testLinkLostWithTrack();
     void testLinkLostWithoutTrack();
+    void testWindowBroughtToFront();
+    void testWindowGeometry();
+    void testOpeningInProgress();
+    void testMessageLeftOpen();
+    void testNextEmulatorServed();
     void testMachineOnWithoutForwardings();
     void testDeviceModelChanged();
     void testNoEmulator();

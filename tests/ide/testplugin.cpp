@@ -6,8 +6,11 @@
 #include "languagetest.h"
 #include "locationtest.h"
 #include "persistencetest.h"
+#include "quitscenario.h"
 #include "repliestest.h"
 #include "startuptest.h"
+
+#include <coreplugin/icore.h>
 
 #include <faultrun.h>
 
@@ -26,4 +29,14 @@ bool TestPlugin::initialize(const QStringList &arguments, QString *errorString)
     addTest<PersistenceTest>();
     addTest<FaultRun>();
     return true;
+}
+
+void TestPlugin::extensionsInitialized()
+{
+    if (!qEnvironmentVariableIsSet("QUIT_SCENARIO"))
+        return;
+    connect(
+        Core::ICore::instance(), &Core::ICore::coreOpened, this,
+        [] { playQuitScenario(qgetenv("QUIT_SCENARIO"), qgetenv("QUIT_MANNER")); },
+        Qt::QueuedConnection);
 }

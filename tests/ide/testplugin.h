@@ -10,4 +10,5 @@ class TestPlugin final : public ExtensionSystem::IPlugin
 
 public:
     bool initialize(const QStringList &arguments, QString *errorString) override;
+    void extensionsInitialized() override;
 };

@@ -1,20 +1,47 @@
 #include "tourplugin.h"
 
+#include "menudriver.h"
 #include "pagepictures.h"
+#include "say.h"
 #include "tour.h"
+#include "waiting.h"
 
 #include <coreplugin/icore.h>
 
 #include <utils/filepath.h>
 
 #include <QCoreApplication>
+#include <QMainWindow>
+#include <QMenu>
+#include <QWindow>
 
 #include <cstdio>
 #include <cstdlib>
 
+#include <unistd.h>
+
+/// Quits the IDE as the user does, with the tool's window open. The process ends with a signal if
+/// that takes too long.
+static void quit()
+{
+    static constexpr unsigned limit = 5; // s
+    alarm(limit);
+    auto *mainWindow = qobject_cast<QMainWindow *>(Core::ICore::mainWindow());
+    if (qEnvironmentVariableIsSet("TOUR_CLOSE")) {
+        say(QStringLiteral("Closing the IDE's window"));
+        mainWindow->windowHandle()->close();
+        return;
+    }
+    say(QStringLiteral("Choosing File > Exit"));
+    mainWindow->activateWindow();
+    waitFor(QStringLiteral("the IDE's window to be active"),
+            [&] { return mainWindow->isActiveWindow(); });
+    MenuDriver::choose(MenuDriver::open(mainWindow, {QStringLiteral("File")}),
+                       QStringLiteral("Exit"));
+}
+
 static void runTour()
 {
-    int exitStatus = EXIT_SUCCESS;
     try {
         const QString journal
             = Core::ICore::userResourcePath("emulators/nimbra-os-emulator/journal.jsonl")
@@ -23,11 +50,11 @@ static void runTour()
             PagePictures(qEnvironmentVariable("TOUR_PAGES"), journal).take();
         else
             Tour(qEnvironmentVariable("TOUR_PICTURES"), journal).run();
+        quit();
     } catch (const std::exception &error) {
         std::printf("The tour failed: %s\n", error.what());
-        exitStatus = EXIT_FAILURE;
+        QCoreApplication::exit(EXIT_FAILURE);
     }
-    QCoreApplication::exit(exitStatus);
 }
 
 void TourPlugin::extensionsInitialized()

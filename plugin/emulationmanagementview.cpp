@@ -1,0 +1,76 @@
+#include "emulationmanagementview.h"
+
+#include <coreplugin/icore.h>
+
+#include <utils/qtcsettings.h>
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace EmulationManagement::Internal {
+
+static constexpr char geometryKey[] = "emulationmanagement/window_geometry";
+static constexpr char maximizedKey[] = "emulationmanagement/window_maximized";
+
+/// The window manager gives the IDE's window the frame that this one will have.
+static QMargins expectedFrame()
+{
+    const QWindow *mainWindow = Core::ICore::mainWindow()->windowHandle();
+    return mainWindow ? mainWindow->frameMargins() : QMargins();
+}
+
+void EmulationManagementView::bringToFront()
+{
+    if (!isVisible()) {
+        restoreGeometry();
+        // QWindow::show() would make a maximised window normal
+        setVisible(true);
+    } else if (windowStates() & Qt::WindowMinimized) {
+        setWindowStates(windowStates() & ~Qt::WindowMinimized);
+    }
+    raise();
+    requestActivate();
+}
+
+void EmulationManagementView::hideEvent(QHideEvent *event)
+{
+    saveGeometry();
+    QQuickView::hideEvent(event);
+}
+
+void EmulationManagementView::restoreGeometry()
+{
+    const Utils::QtcSettings *settings = Core::ICore::settings();
+    const QRect saved = settings->value(geometryKey).toRect();
+    const QScreen *savedScreen = QGuiApplication::screenAt(saved.center());
+    const QRect available
+        = (savedScreen ? savedScreen : screen())->availableGeometry() - expectedFrame();
+    if (saved.isValid() && savedScreen) {
+        QRect geometry(saved.topLeft(), saved.size().boundedTo(available.size()));
+        geometry.moveLeft(std::clamp(geometry.left(), available.left(),
+                                     available.right() + 1 - geometry.width()));
+        geometry.moveTop(std::clamp(geometry.top(), available.top(),
+                                    available.bottom() + 1 - geometry.height()));
+        setGeometry(geometry);
+    } else {
+        // the window manager finds a place
+        resize(size().boundedTo(available.size()));
+    }
+    if (settings->value(maximizedKey).toBool())
+        setWindowStates(Qt::WindowMaximized);
+}
+
+void EmulationManagementView::saveGeometry() const
+{
+    Utils::QtcSettings *settings = Core::ICore::settings();
+    const bool isMaximized = windowStates() & Qt::WindowMaximized;
+    settings->setValueWithDefault(maximizedKey, isMaximized, false);
+    // The size before it was maximised is not known: the one saved earlier is kept.
+    if (!isMaximized && settings->value(geometryKey).toRect() != geometry())
+        settings->setValue(geometryKey, geometry());
+}
+
+} // namespace EmulationManagement::Internal

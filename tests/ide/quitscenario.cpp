@@ -1,0 +1,98 @@
+#include "quitscenario.h"
+
+#include <plugindriver.h>
+#include <waiting.h>
+
+#include <coreplugin/actionmanager/actionmanager.h>
+#include <coreplugin/actionmanager/command.h>
+#include <coreplugin/coreconstants.h>
+#include <coreplugin/icore.h>
+
+#include <ravik/virtualmachine.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QHash>
+#include <QQmlListReference>
+#include <QQuickItem>
+#include <QQuickView>
+#include <QUrl>
+#include <QWidget>
+
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+
+#include <unistd.h>
+
+using namespace PluginDriver;
+
+static constexpr unsigned quitLimit = 10; // s
+
+static void openTool()
+{
+    Journal journal(dataFolder(emulator()) + "/journal.jsonl");
+    openWindow(journal);
+}
+
+static void playTrack()
+{
+    static constexpr qsizetype gpsPage = 3;
+    openTool();
+    QObject *page = QQmlListReference(view()->rootObject(), "pagesIds").at(gpsPage);
+    QMetaObject::invokeMethod(page, "openFile",
+                              QUrl::fromLocalFile(QStringLiteral(TEST_DATA "/gga.nmea")));
+    waitFor("the track", [] { return gpsManager()->property("trackLoaded").toBool(); });
+    QMetaObject::invokeMethod(gpsManager(), "startTrack");
+}
+
+static void playVideo()
+{
+    openTool();
+    QMetaObject::invokeMethod(contextObject("cameraEmulationManager"), "startVideoStream",
+                              QStringLiteral(MEDIA_FOLDER "/vp8.webm"));
+}
+
+static void checkPackages()
+{
+    machine()->connectTo({}, machine(), [](bool) {});
+    waitFor("the machine", [] { return machine()->state() == Ravik::VirtualMachine::Connected; });
+    chooseAction();
+}
+
+static void showError()
+{
+    openTool();
+    auto *dialog = view()->rootObject()->property("errorDialog").value<QObject *>();
+    QMetaObject::invokeMethod(dialog, "show", QStringLiteral("It is broken"));
+    waitFor("the dialog", [&] { return dialog->property("visible").toBool(); });
+}
+
+static void loseLink()
+{
+    playTrack();
+    control("relay close");
+    waitFor("the message", [] { return QApplication::activeModalWidget() != nullptr; });
+}
+
+void playQuitScenario(const QByteArray &name, const QByteArray &manner)
+{
+    static const QHash<QByteArray, std::function<void()>> preparations = {
+        {"values", openTool},     {"track", playTrack},       {"video", playVideo},
+        {"check", checkPackages}, {"starting", chooseAction}, {"error", showError},
+        {"message", loseLink},
+    };
+    try {
+        emulator(); // listed a little later than the IDE opens
+        preparations.value(name)();
+    } catch (const WaitingFailed &failure) {
+        std::fprintf(stderr, "%s\n", failure.what());
+        std::_Exit(EXIT_FAILURE);
+    }
+    QMetaObject::invokeMethod(sensorsManager(), "setAlsLuxValue", 1234);
+    alarm(quitLimit);
+    if (manner == "menu")
+        Core::ActionManager::command(Core::Constants::EXIT)->action()->trigger();
+    else
+        Core::ICore::mainWindow()->close();
+}
