@@ -146,7 +146,7 @@ void CameraTour::refuseVideoFile()
     chooseFile(QStringLiteral("motion-jpeg.mkv"));
     m_journal.waitForEvent(QStringLiteral("video-ended"), start);
     m_takePicture(QStringLiteral("camera-video-refused"));
-    openDialog().clickButton(QStringLiteral("OK"));
+    m_driver.clickButton(QStringLiteral("OK"));
 }
 
 void CameraTour::leavePage()
