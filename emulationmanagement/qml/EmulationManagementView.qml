@@ -64,6 +64,8 @@ Rectangle {
 
     ErrorMessageDialog {
         id: errorDialog
+
+        palette: root.palette
     }
 
     MessageDialog {

@@ -66,6 +66,15 @@ void RepliesTest::testErrorDialog()
     waitFor("the dialog to close", [&] { return !dialog->property("visible").toBool(); });
 }
 
+void RepliesTest::testErrorDialogClosesWithTheWindow()
+{
+    auto *dialog = view()->rootObject()->property("errorDialog").value<QObject *>();
+    QMetaObject::invokeMethod(dialog, "show", QStringLiteral("It is broken"));
+    QVERIFY(dialog->property("visible").toBool());
+    view()->close();
+    waitFor("the dialog to close", [&] { return !dialog->property("visible").toBool(); });
+}
+
 void RepliesTest::cleanupTestCase()
 {
     stopMachine();

@@ -11,5 +11,6 @@ private Q_SLOTS:
     void initTestCase();
     void testErrorDialog_data();
     void testErrorDialog();
+    void testErrorDialogClosesWithTheWindow();
     void cleanupTestCase();
 };

@@ -131,6 +131,21 @@ Item {
             view.errorDialog.close();
         }
 
+        function test_errorDialogFollowsMessages() {
+            const dialog = view.errorDialog;
+            dialog.show("one");
+            dialog.show("two");
+            compare(dialog.text, "two");
+            keyClick(Qt.Key_Escape);
+            tryCompare(dialog, "visible", false);
+            dialog.show("one"); // a call that is refused again and again
+            verify(!dialog.visible);
+            dialog.show("three");
+            tryCompare(dialog, "opened", true);
+            keyClick(Qt.Key_Return);
+            tryCompare(dialog, "visible", false);
+        }
+
         // An error takes back the last switch of a sensor, and that once.
         function test_refusedSwitch() {
             const error = "enableSensor:als::org.vexa.Error:no";
