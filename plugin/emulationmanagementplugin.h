@@ -22,6 +22,8 @@
 #include <QPointer>
 #include <QVariant>
 
+#include <functional>
+
 namespace Ravik {
 class Emulator;
 class Sdk;
@@ -75,7 +77,9 @@ private:
     void setUpEmulatorConnection();
     /// Returns whether the window may be opened; adds missing forwardings to a machine that is off.
     bool setUpPortForwarding();
-    void startMachine();
+    /// Has the SDK start the machine, or wait until it is reachable if it runs; the package check
+    /// follows then.
+    void startMachine(const std::function<void()> &handleFailure);
     void checkEmulationPackages();
     void handlePackagesChecked(const QString &message, const QString &detailedText);
     /// Stops waiting for the machine's start and for the package check.

@@ -101,7 +101,7 @@ void EmulationManagementPlugin::showEmulationManagementView()
 
     if (!m_vmRunning) {
         if (m_openingProgress.isRunning())
-            startMachine();
+            startMachine([] {}); // the SDK tells why a start has failed
         return;
     }
     Q_EMIT emulationManagementViewShowed();
@@ -111,14 +111,17 @@ void EmulationManagementPlugin::showEmulationManagementView()
         checkEmulationPackages();
 }
 
-void EmulationManagementPlugin::startMachine()
+void EmulationManagementPlugin::startMachine(const std::function<void()> &handleFailure)
 {
     m_openingProgress.setStep(tr("Starting %1").arg(m_currentEmulator->name()));
     m_startRequested = true;
-    m_currentEmulator->virtualMachine()->connectTo({}, this, [this](bool isReachable) {
-        if (!isReachable)
-            abandonOpening(); // the SDK tells why
-    });
+    m_currentEmulator->virtualMachine()->connectTo({}, this,
+                                                   [this, handleFailure](bool isReachable) {
+                                                       if (isReachable || !m_startRequested)
+                                                           return;
+                                                       abandonOpening();
+                                                       handleFailure();
+                                                   });
 }
 
 void EmulationManagementPlugin::abandonOpening()
@@ -196,9 +199,19 @@ void EmulationManagementPlugin::checkEmulationPackages()
 void EmulationManagementPlugin::handlePackagesChecked(const QString &message,
                                                       const QString &detailedText)
 {
-    abandonOpening(); // each check is answered once
-    if (!message.isEmpty()) {
+    disconnect(&m_packagesChecker, nullptr, nullptr, nullptr); // each check is answered once
+    const auto showMessage = [this, message, detailedText] {
         showMessageBox(message, detailedText, QMessageBox::Close);
+    };
+    // A machine that somebody else has just started cannot be asked yet.
+    if (!message.isEmpty() && m_currentEmulator
+        && m_currentEmulator->virtualMachine()->state() != reachableState) {
+        startMachine(showMessage);
+        return;
+    }
+    abandonOpening();
+    if (!message.isEmpty()) {
+        showMessage();
         return;
     }
     m_packagesChecked = true;

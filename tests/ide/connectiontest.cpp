@@ -255,6 +255,17 @@ void ConnectionTest::testOpeningInProgress()
     QCOMPARE(answers.boxes().size(), 1);
 }
 
+void ConnectionTest::testMachineJustStarted()
+{
+    const MessageBoxAnswers answers(QMessageBox::Close);
+    machine()->connectTo({}, this, [](bool) {});
+    waitFor("the process", [] { return !machine()->isOff(nullptr, nullptr); });
+    QVERIFY(machine()->state() != Ravik::VirtualMachine::Connected);
+    chooseAction();
+    waitFor("the window", [] { return view()->isVisible(); });
+    QCOMPARE(answers.boxes().size(), 0);
+}
+
 // A box that is open holds nothing up.
 void ConnectionTest::testMessageLeftOpen()
 {

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void testWindowBroughtToFront();
     void testWindowGeometry();
     void testOpeningInProgress();
+    void testMachineJustStarted();
     void testMessageLeftOpen();
     void testNextEmulatorServed();
     void testMachineOnWithoutForwardings();
