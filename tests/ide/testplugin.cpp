@@ -3,6 +3,7 @@
 #include "cameratest.h"
 #include "connectiontest.h"
 #include "dialogstest.h"
+#include "faultrun.h"
 #include "languagetest.h"
 #include "locationtest.h"
 #include "persistencetest.h"
@@ -11,8 +12,6 @@
 #include "startuptest.h"
 
 #include <coreplugin/icore.h>
-
-#include <faultrun.h>
 
 bool TestPlugin::initialize(const QStringList &arguments, QString *errorString)
 {
