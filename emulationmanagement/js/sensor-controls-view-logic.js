@@ -3,7 +3,7 @@
 function replyFromEmulatorReceivedHandler(reply, errorDialog) {
     if (reply === "" || reply === "OK")
         return;
-    errorDialog.show(reply);
+    errorDialog.showOnce(reply);
     if (root.lastChangedSensorName === "")
         return;
     root.sensorsManager.setSensorEnabled(root.lastChangedSensorName, root.lastChangedSensorEnabled);

@@ -18,20 +18,24 @@ Dialog {
 
     // Shows a message, also in the place of one that is still open.
     function show(message: string) {
-        const shown = PlainText.shortened(message);
+        text = PlainText.shortened(message);
+        open();
+    }
+
+    // Shows a message unless it repeats a recent one.
+    function showOnce(message: string) {
+        const key = PlainText.shortened(message);
         const now = Date.now();
         const recent = {};
         for (const [other, time] of Object.entries(lastTimes)) {
             if (Math.abs(now - time) < repetitionInterval)
                 recent[other] = time;
         }
-        const isRepetition = shown in recent;
-        recent[shown] = now;
+        const isRepetition = key in recent;
+        recent[key] = now;
         lastTimes = recent;
-        if (isRepetition)
-            return;
-        text = shown;
-        open();
+        if (!isRepetition)
+            show(message);
     }
 
     anchors.centerIn: Overlay.overlay

@@ -133,14 +133,14 @@ Item {
 
         function test_errorDialogFollowsMessages() {
             const dialog = view.errorDialog;
-            dialog.show("one");
-            dialog.show("two");
+            dialog.showOnce("one");
+            dialog.showOnce("two");
             compare(dialog.text, "two");
             keyClick(Qt.Key_Escape);
             tryCompare(dialog, "visible", false);
-            dialog.show("one"); // a call that is refused again and again
+            dialog.showOnce("one"); // a call that is refused again and again
             verify(!dialog.visible);
-            dialog.show("three");
+            dialog.showOnce("three");
             tryCompare(dialog, "opened", true);
             keyClick(Qt.Key_Return);
             tryCompare(dialog, "visible", false);
