@@ -1,5 +1,7 @@
 #include "gpsemulationmanager.h"
 
+#include <cmath>
+
 namespace EmulationManagement::Internal {
 
 namespace {
@@ -23,6 +25,11 @@ QString altitudeText(double metres)
     return QString::number(metres, 'f', altitudeDecimals);
 }
 
+double numberOr(double value, double replacement)
+{
+    return std::isnan(value) ? replacement : value;
+}
+
 // What a point of a track lacks, or what is no number, counts as 0.
 double numberOf(const QVariantMap &point, const QString &key)
 {
@@ -31,7 +38,7 @@ double numberOf(const QVariantMap &point, const QString &key)
         return 0;
     // the page gives texts, which a variant would convert by a detour
     const auto *text = get_if<QString>(&*value);
-    return text ? text->toDouble() : value->toDouble();
+    return numberOr(text ? text->toDouble() : value->toDouble(), 0);
 }
 
 QString doubleArgument(const QString &value)
@@ -132,13 +139,19 @@ void GPSEmulationManager::setupGPSData()
 
 void GPSEmulationManager::setLocalPosition(double latitude, double longitude, double altitude)
 {
-    m_currentPosition->setValues(latitude, longitude, altitude);
+    // The page passes "1,234.00" of its table, which is not a number: that coordinate stays.
+    m_currentPosition->setValues(numberOr(latitude, m_currentPosition->latitude()),
+                                 numberOr(longitude, m_currentPosition->longitude()),
+                                 numberOr(altitude, m_currentPosition->altitude()));
     m_settings.saveGpsValues(m_currentPosition->latitude(), m_currentPosition->longitude(),
                              m_currentPosition->altitude());
 }
 
 void GPSEmulationManager::setPosition(double latitude, double longitude, double altitude)
 {
+    latitude = numberOr(latitude, m_currentPosition->latitude());
+    longitude = numberOr(longitude, m_currentPosition->longitude());
+    altitude = numberOr(altitude, m_currentPosition->altitude());
     callDBusMethod(
         QStringLiteral("setPosition"),
         QStringLiteral("double:%1 double:%2 double:%3")
@@ -148,6 +161,8 @@ void GPSEmulationManager::setPosition(double latitude, double longitude, double 
 
 void GPSEmulationManager::setLatitude(double latitude)
 {
+    if (std::isnan(latitude))
+        return;
     callDBusMethod(QStringLiteral("setLatitude"), doubleArgument(coordinateText(latitude)));
     m_currentPosition->setLatitude(latitude);
     m_settings.saveGpsLatitude(latitude);
@@ -155,6 +170,8 @@ void GPSEmulationManager::setLatitude(double latitude)
 
 void GPSEmulationManager::setLongitude(double longitude)
 {
+    if (std::isnan(longitude))
+        return;
     callDBusMethod(QStringLiteral("setLongitude"), doubleArgument(coordinateText(longitude)));
     m_currentPosition->setLongitude(longitude);
     m_settings.saveGpsLongitude(longitude);
@@ -162,6 +179,8 @@ void GPSEmulationManager::setLongitude(double longitude)
 
 void GPSEmulationManager::setAltitude(double altitude)
 {
+    if (std::isnan(altitude))
+        return;
     callDBusMethod(QStringLiteral("setAltitude"), doubleArgument(altitudeText(altitude)));
     m_currentPosition->setAltitude(altitude);
     m_settings.saveGpsAltitude(altitude);

@@ -14,7 +14,8 @@ namespace EmulationManagement::Internal {
  * Sends positions and tracks to the emulator's location service and keeps what was sent.
  *
  * Each call changes the local state as soon as it is handed on, whatever the emulator answers.
- * Values are not checked: the page bounds them. Every set notifies, also when nothing changed.
+ * Values are not checked: the page bounds them. A coordinate that is not a number leaves the one
+ * before as it is. Every set notifies, also when nothing changed.
  */
 class GPSEmulationManager : public EmulationManager
 {

@@ -11,6 +11,8 @@
 
 #include <utils/qtcsettings.h>
 
+#include <QtNumeric>
+
 namespace EmulationManagement::Internal {
 
 const QString SettingsManager::groupName = QStringLiteral("emulationmanagement");
@@ -56,7 +58,11 @@ SettingsManager::SettingsManager(QObject *parent)
 
 void SettingsManager::setValue(const QString &key, const QVariant &value)
 {
-    m_settings->setValue(groupedKey(key), value);
+    if (value.typeId() == QMetaType::Double && qIsNaN(value.toDouble()))
+        return;
+    const Utils::Key settingsKey = groupedKey(key);
+    if (m_settings->value(settingsKey) != value)
+        m_settings->setValue(settingsKey, value);
 }
 
 QVariant SettingsManager::value(const QString &key, const QVariant &defaultValue) const

@@ -53,6 +53,7 @@ public:
 
     explicit SettingsManager(QObject *parent = nullptr);
 
+    /// Writes a value that differs from the saved one. What is not a number is not saved.
     void setValue(const QString &key, const QVariant &value);
     [[nodiscard]] QVariant value(const QString &key, const QVariant &defaultValue) const;
 

@@ -18,6 +18,11 @@ static constexpr const char *calls[] = {
     " > 1.5 -179.5 3.5 false false 1 7 false > ",
     "setAltitude(1234567.891) > setAltitude double:1234567.89"
     " > 1.5 2.5 1234567.891 false false 1 7 false > ",
+    // what is not a number leaves what was set before
+    "setLocalPosition(1, 2, NaN) >  > 1 2 3.5 false false 1 7 false > ",
+    "setPosition(NaN, NaN, 0) > setPosition double:1.5000000 double:2.5000000 double:0.00"
+    " > 1.5 2.5 0 false false 1 7 false > ",
+    "setAltitude(NaN) >  > 1.5 2.5 3.5 false false 1 7 false > ",
     "startTrack() > startTrack  > 1.5 2.5 3.5 false false 1 7 false > ",
     "pauseTrack() > pauseTrack  > 1.5 2.5 3.5 false false 1 7 false > ",
     "stopTrack() > stopTrack  > 1.5 2.5 3.5 false false 1 0 false > index",
@@ -96,7 +101,7 @@ private Q_SLOTS:
             << u"{latitude: '-1.5', longitude: '2e1', altitude: '3', interval: '2000'}"_s
             << u"-1.5000000,20.0000000,3.00,2000"_s;
         QTest::newRow("texts that are no C numbers")
-            << u"{latitude: '1,000.00', longitude: '1,5', altitude: 'abc', interval: ''}"_s
+            << u"{latitude: '1,000.00', longitude: '1,5', altitude: 'nan', interval: ''}"_s
             << u"0.0000000,0.0000000,0.00,0"_s;
         QTest::newRow("missing keys") << u"{longitude: 1}"_s << u"0.0000000,1.0000000,0.00,0"_s;
         QTest::newRow("the longest plain interval, and a longer one")

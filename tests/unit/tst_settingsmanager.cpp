@@ -74,6 +74,7 @@ static void saveEverything()
     manager.save3DModelRotationValues(17.5, 18.5, 19.5);
     manager.save3DModelPositionValues(20.5, 21.5, 22.5);
     manager.saveDoNotShowAgainResetSensorsDialog(true);
+    manager.saveGpsAltitude(qQNaN()); // is not
 }
 
 class SettingsManagerTest : public QObject
@@ -95,12 +96,20 @@ private Q_SLOTS:
         settings.reopen();
         for (const Entry &entry : entries)
             QVERIFY2(read(entry.read) == entry.saved, entry.read);
+        QFile file(settings.fileName());
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.seek(file.size()));
+        file.write("; lost when the settings are written");
+        file.close();
+        settings.reopen();
+        saveEverything();
+        settings.reopen();
 
         // other versions read the same file
-        QFile file(settings.fileName());
         QVERIFY(file.open(QIODevice::ReadOnly));
         QList<QByteArray> lines = file.readAll().trimmed().split('\n');
         QCOMPARE(lines.takeFirst(), "[emulationmanagement]");
+        QCOMPARE(lines.takeLast(), "; lost when the settings are written");
         for (const Entry &entry : entries) {
             const QByteArray start = QByteArray(entry.key) + '=';
             QVERIFY2(lines.removeIf([&](const QByteArray &line) { return line.startsWith(start); }),
