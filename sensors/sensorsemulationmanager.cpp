@@ -1,5 +1,7 @@
 #include "sensorsemulationmanager.h"
 
+#include <link/remotedbusinvokerservice.h>
+
 #include <QStringTokenizer>
 
 #include <cmath>
@@ -64,9 +66,15 @@ SensorsEmulationManager::SensorsEmulationManager(QObject *parent)
         m_sensorsEnabledStates.insert(sensor->name(), false);
         m_sensors.insert(sensor->name(), sensor);
     }
+    readSensorsValues();
     initSensorsAvailability();
     connect(this, &EmulationManager::emulatorConnected, this,
             &SensorsEmulationManager::setupSensors);
+    connect(this, &EmulationManager::rdbusinvokerChanged, this, [this] {
+        // a crash of the IDE after that costs nothing
+        connect(rdbusinvoker(), &RemoteDBusInvokerService::webSocketDisconnected, this,
+                &SensorsEmulationManager::saveCurrentSensorsValues, Qt::UniqueConnection);
+    });
 }
 
 SensorsEmulationManager::~SensorsEmulationManager()
@@ -99,14 +107,12 @@ void SensorsEmulationManager::processDBusMethodsReturnValues(const QStringList &
     if (values.at(0) != u"enabled")
         return;
     const QString name = firstArgument(values.at(1));
-    const bool enabled = QVariant(values.at(2)).toBool();
-    if (m_sensorsAvailability.value(name).toBool()) {
-        m_sensorsEnabledStates.insert(name, enabled);
-    } else {
+    if (name.isEmpty())
+        return;
+    const bool available = m_sensorsAvailability.value(name).toBool();
+    if (!available)
         disableSensor(name);
-        m_sensorsEnabledStates.insert(name, false);
-    }
-    Q_EMIT sensorsEnabledStatesChanged();
+    noteSensorState(name, available && QVariant(values.at(2)).toBool());
 }
 
 AccelerometerModel *SensorsEmulationManager::accelerometer() const
@@ -175,7 +181,7 @@ void SensorsEmulationManager::initSensorsAvailability()
 void SensorsEmulationManager::setSensorAvailable(const QString &name, bool available)
 {
     m_sensorsAvailability.insert(name, available);
-    setSensorEnabled(name, available);
+    noteSensorState(name, available);
     if (available)
         enableSensor(name);
     else
@@ -189,7 +195,7 @@ void SensorsEmulationManager::makeAllSensorsAvailable()
     const QStringList names = m_sensorsAvailability.keys();
     for (const QString &name : names) {
         enableSensor(name);
-        setSensorEnabled(name, true);
+        noteSensorState(name, true);
     }
 }
 
@@ -210,7 +216,16 @@ void SensorsEmulationManager::checkSensorState(const QString &sensorName)
 
 void SensorsEmulationManager::setSensorEnabled(const QString &name, bool enabled)
 {
+    if (!enabled)
+        m_switchedOffByUser.insert(name);
+    noteSensorState(name, enabled);
+}
+
+void SensorsEmulationManager::noteSensorState(const QString &name, bool enabled)
+{
     m_sensorsEnabledStates.insert(name, enabled);
+    if (enabled)
+        m_switchedOffByUser.remove(name);
     Q_EMIT sensorsEnabledStatesChanged();
 }
 
@@ -405,37 +420,69 @@ void SensorsEmulationManager::setDefaultValues()
 void SensorsEmulationManager::setupSensors()
 {
     if (m_sensorsSetUp) {
+        const QSet<QString> switchedOff = m_switchedOffByUser;
         const QMap<QString, QVariant> availability = m_sensorsAvailability;
         for (auto sensor = availability.cbegin(); sensor != availability.cend(); ++sensor)
             setSensorAvailable(sensor.key(), sensor.value().toBool());
+        for (const QString &name : switchedOff) {
+            if (!availability.value(name).toBool())
+                continue;
+            disableSensor(name);
+            setSensorEnabled(name, false);
+        }
     } else {
         const QStringList names = m_sensorsEnabledStates.keys();
         for (const QString &name : names)
             checkSensorState(name);
         m_sensorsSetUp = true;
     }
+    saveCurrentSensorsValues(); // what was set without an emulator is restored, too
     restoreSensorsValues();
     Q_EMIT sensorsInitialized();
 }
 
+void SensorsEmulationManager::readSensorsValues()
+{
+    m_accelerometer->setValues(m_settings.readAccelerometerX(), m_settings.readAccelerometerY(),
+                               m_settings.readAccelerometerZ());
+    m_magnetometer->setValues(m_settings.readMagnetometerX(), m_settings.readMagnetometerY(),
+                              m_settings.readMagnetometerZ());
+    m_magneticField->setValues(m_settings.readMagneticFieldX(), m_settings.readMagneticFieldY(),
+                               m_settings.readMagneticFieldZ());
+    m_magnetometer->setCalibrationLevel(m_settings.readMagnetometerCalibLevel());
+    m_compass->setCalibrationLevel(m_magnetometer->calibrationLevel());
+    m_gyroscope->setValues(m_settings.readGyroscopeX(), m_settings.readGyroscopeY(),
+                           m_settings.readGyroscopeZ());
+    m_als->setLux(m_settings.readAlsLuxValue());
+    m_proximity->setReflectance(m_settings.readProximitySensorReflectanceValue());
+    const TapModel::TapDirection tapDirection = m_settings.readTapSensorValue();
+    if (TapModel::isTapDirection(tapDirection))
+        m_tap->setTapDirection(tapDirection);
+    updateAzimuth();
+    updateOrientation();
+    m_savedSensorsValues = currentSensorsValues();
+}
+
 void SensorsEmulationManager::restoreSensorsValues()
 {
-    setAccelerometerValues(m_settings.readAccelerometerX(), m_settings.readAccelerometerY(),
-                           m_settings.readAccelerometerZ());
-    setMagnetometerValues(m_settings.readMagnetometerX(), m_settings.readMagnetometerY(),
-                          m_settings.readMagnetometerZ());
-    setMagneticFieldValues(m_settings.readMagneticFieldX(), m_settings.readMagneticFieldY(),
-                           m_settings.readMagneticFieldZ());
-    setMagnetometerCalibrationLevel(m_settings.readMagnetometerCalibLevel());
-    setGyroscopeValues(m_settings.readGyroscopeX(), m_settings.readGyroscopeY(),
-                       m_settings.readGyroscopeZ());
-    setAlsLuxValue(m_settings.readAlsLuxValue());
-    setProximitySensorReflectanceValue(m_settings.readProximitySensorReflectanceValue());
-    setTapSensorValue(m_settings.readTapSensorValue());
+    // another IDE may have saved other values since this one started
+    readSensorsValues();
+    setAccelerometerValues(m_accelerometer->x(), m_accelerometer->y(), m_accelerometer->z());
+    setMagnetometerValues(m_magnetometer->x(), m_magnetometer->y(), m_magnetometer->z());
+    setMagnetometerCalibrationLevel(m_magnetometer->calibrationLevel());
+    setGyroscopeValues(m_gyroscope->x(), m_gyroscope->y(), m_gyroscope->z());
+    setAlsLuxValue(m_als->lux());
+    setProximitySensorReflectanceValue(m_proximity->reflectance());
+    // a saved direction that is none was not read
+    if (TapModel::isTapDirection(m_settings.readTapSensorValue()))
+        setTapSensorValue(m_tap->tapDirection());
 }
 
 void SensorsEmulationManager::saveCurrentSensorsValues()
 {
+    const QVariantList values = currentSensorsValues();
+    if (values == m_savedSensorsValues)
+        return;
     m_settings.saveAccelerometerValues(m_accelerometer->x(), m_accelerometer->y(),
                                        m_accelerometer->z());
     m_settings.saveAlsLuxValue(m_als->lux());
@@ -447,6 +494,19 @@ void SensorsEmulationManager::saveCurrentSensorsValues()
     m_settings.saveMagnetometerCalibLevel(m_magnetometer->calibrationLevel());
     m_settings.saveProximitySensorReflectanceValue(m_proximity->reflectance());
     m_settings.saveTapSensorValue(m_tap->tapDirection());
+    m_savedSensorsValues = values;
+}
+
+QVariantList SensorsEmulationManager::currentSensorsValues() const
+{
+    return {m_accelerometer->x(),       m_accelerometer->y(),
+            m_accelerometer->z(),       m_als->lux(),
+            m_gyroscope->x(),           m_gyroscope->y(),
+            m_gyroscope->z(),           m_magneticField->x(),
+            m_magneticField->y(),       m_magneticField->z(),
+            m_magnetometer->x(),        m_magnetometer->y(),
+            m_magnetometer->z(),        m_magnetometer->calibrationLevel(),
+            m_proximity->reflectance(), int(m_tap->tapDirection())};
 }
 
 void SensorsEmulationManager::updateAzimuth()

@@ -15,6 +15,7 @@
 
 #include <QHash>
 #include <QMap>
+#include <QSet>
 #include <QVariant>
 
 namespace EmulationManagement::Internal {
@@ -25,6 +26,9 @@ namespace EmulationManagement::Internal {
  * A setter makes the D-Bus call first and then updates the model and what is derived from it,
  * whether or not an emulator is connected. Values are not checked: the pages bound them. Units are
  * those of the models.
+ *
+ * The models start with the saved values. The settings are their copy, and are written only when a
+ * value has changed since they were last read or written.
  *
  * Two maps by sensor name tell which sensors the device has (availability) and which are switched
  * on in the emulator (enabled states). The magnetic field is in neither: it stays on the host.
@@ -52,7 +56,7 @@ class SensorsEmulationManager : public EmulationManager
 
 public:
     explicit SensorsEmulationManager(QObject *parent = nullptr);
-    /// Saves the models' values.
+    /// Saves the values.
     ~SensorsEmulationManager() override;
 
     QString bus() const override;
@@ -85,7 +89,10 @@ public:
     Q_INVOKABLE void disableSensor(const QString &sensorName);
     /// Asks the emulator whether a sensor is switched on; the answer changes the enabled states.
     Q_INVOKABLE void checkSensorState(const QString &sensorName);
-    /// Notes that a sensor is switched on or off, without telling the emulator.
+    /*!
+     * Notes that the user switched a sensor on or off, without telling the emulator. What was
+     * switched off is switched off again after each reconnection.
+     */
     Q_INVOKABLE void setSensorEnabled(const QString &name, bool enabled);
 
     Q_INVOKABLE void setAccelerometerValues(int x, int y, int z);
@@ -119,6 +126,9 @@ public:
     /// Sends the default of every sensor. The magnetic field keeps its values.
     Q_INVOKABLE void setDefaultValues();
 
+    /// Saves the models' values. Does nothing while they are those that were saved last.
+    void saveCurrentSensorsValues();
+
 Q_SIGNALS:
     void sensorsEnabledStatesChanged();
     /// The saved values were restored and sent to a newly connected emulator.
@@ -127,8 +137,10 @@ Q_SIGNALS:
 
 private:
     void setupSensors();
+    void readSensorsValues();
     void restoreSensorsValues();
-    void saveCurrentSensorsValues();
+    [[nodiscard]] QVariantList currentSensorsValues() const;
+    void noteSensorState(const QString &name, bool enabled);
     void updateAzimuth();
     void updateOrientation();
 
@@ -146,6 +158,8 @@ private:
     SettingsManager m_settings;
     QMap<QString, QVariant> m_sensorsAvailability;
     bool m_sensorsSetUp = false; // the emulator was asked for its states once
+    QSet<QString> m_switchedOffByUser;
+    QVariantList m_savedSensorsValues; // as the settings hold them
 };
 
 } // namespace EmulationManagement::Internal

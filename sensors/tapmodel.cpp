@@ -1,10 +1,17 @@
 #include "tapmodel.h"
 
+#include <QMetaEnum>
+
 namespace EmulationManagement::Internal {
 
 TapModel::TapModel(QObject *parent)
     : SensorModel(parent)
 {}
+
+bool TapModel::isTapDirection(int value)
+{
+    return QMetaEnum::fromType<TapDirection>().valueToKey(value) != nullptr;
+}
 
 QString TapModel::name() const
 {

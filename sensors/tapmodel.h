@@ -29,6 +29,8 @@ public:
 
     explicit TapModel(QObject *parent = nullptr);
 
+    [[nodiscard]] static bool isTapDirection(int value);
+
     QString name() const override;
     void setDefaultValues();
 

@@ -36,6 +36,15 @@ void PersistenceTest::testSet()
     driver.type(fields.at(1), "-2.5");
     driver.type(fields.at(2), "1.001");
     emulatorJournal.waitForCall("setAccelerometerZ int32:1001", 0);
+
+    control("relay close");
+    waitFor("the values in the file, which an IDE that crashes leaves", [] {
+        QFile file(Core::ICore::settings()->fileName());
+        return file.open(QIODevice::ReadOnly) && file.readAll().contains("accelerometer_z=1001");
+    });
+    const qsizetype start = emulatorJournal.position();
+    control("relay open");
+    emulatorJournal.waitForCall("setAccelerometerValues int32:123 int32:-2500 int32:1001", start);
 }
 
 void PersistenceTest::testRestored()

@@ -2,7 +2,8 @@
 
 #include <QObject>
 
-/// Values outlive the IDE: the first test runs in one IDE, the second in the next.
+/// Values outlive a lost link and the IDE: the first test runs in one IDE, the second in a later
+/// one.
 class PersistenceTest : public QObject
 {
     Q_OBJECT

@@ -128,7 +128,8 @@ private Q_SLOTS:
                 name = name.left(name.indexOf(u'|'));
                 const QString value = fields.at(2).toLower();
                 const bool on = !value.isEmpty() && value != "0"_L1 && value != "false"_L1;
-                states[name] = on && manager->sensorsAvailability().value(name).toBool();
+                if (!name.isEmpty())
+                    states[name] = on && manager->sensorsAvailability().value(name).toBool();
             }
             QCOMPARE(manager->sensorsEnabledStates(), states);
         });

@@ -143,12 +143,13 @@ private Q_SLOTS:
         Fixture fixture;
         SettingsManager().saveAccelerometerValues(1, 2, 3);
         SettingsManager().saveMagneticFieldValues(4.5, 5.5, -6.5);
+        SettingsManager().setValue(SettingsManager::tapKey, 42); // is no direction: nothing is sent
         const QString restored
             = u";setAccelerometerValues int32:1 int32:2 int32:3;"
               "setMagnetometerValues double:4.3e-05 double:0 double:0;"
               "setMagnetometerCalibrationLevel int32:0;"
               "setGyroscopeValues double:0 double:0 double:1.14592;setAlsValue int32:100;"
-              "setProximitySensorValue int32:5;setTapSensorValue int32:-1"_s;
+              "setProximitySensorValue int32:5"_s;
         QSignalSpy initialized(&fixture.manager, &SensorsEmulationManager::sensorsInitialized);
 
         // the first connection asks for the states
@@ -156,15 +157,27 @@ private Q_SLOTS:
         QCOMPARE(fixture.takeRequests(), callForEach(u"enabled"_s) + restored);
         QCOMPARE(fixture.manager.magneticField()->z(), -6.5);
 
-        // later ones push the host's availability
+        // later ones push the host's availability, the user's switches and what was set last
         fixture.manager.setSensorAvailable(u"compass"_s, false);
-        QCOMPARE(fixture.takeRequests(), u"disableSensor string:compass"_s);
-        QVERIFY(fixture.reconnect());
+        for (const QString &name : {u"compass"_s, u"tap"_s, u"als"_s})
+            fixture.manager.setSensorEnabled(name, false);
+        fixture.manager.setSensorEnabled(u"als"_s, true);
+        fixture.manager.setTapSensorValue(TapModel::X_Pos);
+        QCOMPARE(fixture.takeRequests(),
+                 u"disableSensor string:compass;setTapSensorValue int32:3"_s);
+        Q_EMIT fixture.manager.emulatorConnected();
         const QString pushed
             = callForEach(u"enableSensor"_s)
                   .replace(u"enableSensor string:compass"_s, u"disableSensor string:compass"_s);
-        QCOMPARE(fixture.takeRequests(), pushed + restored);
+        QCOMPARE(fixture.takeRequests(), pushed + u";disableSensor string:tap"_s + restored
+                                             + u";setTapSensorValue int32:3"_s);
+        QCOMPARE(fixture.manager.sensorsEnabledStates().keys(false),
+                 (QStringList{u"compass"_s, u"tap"_s}));
         QCOMPARE(initialized.size(), 2);
+
+        fixture.manager.setAlsLuxValue(7);
+        fixture.relay.stop(); // the IDE may crash without a link
+        QTRY_COMPARE(SettingsManager().readAlsLuxValue(), 7);
     }
 
     // Random replies are tried elsewhere.
@@ -179,7 +192,7 @@ private Q_SLOTS:
             fixture.relay.reply(line);
         QTRY_COMPARE(replies.size(), 2);
         QCOMPARE(fixture.manager.sensorsEnabledStates().keys(true), QStringList{u"als"_s});
-        QCOMPARE(fixture.takeRequests(), u"disableSensor string:tap;disableSensor string:"_s);
+        QCOMPARE(fixture.takeRequests(), u"disableSensor string:tap"_s);
     }
 
     void everythingAvailable()
@@ -198,6 +211,7 @@ private Q_SLOTS:
     void valuesOutliveTheManager()
     {
         Fixture fixture;
+        auto idle = std::make_unique<SensorsEmulationManager>();
         auto earlier = std::make_unique<SensorsEmulationManager>();
         earlier->setRdbusinvoker(&fixture.link);
         earlier->setAccelerometerValues(-700, 20, 600);
@@ -210,6 +224,7 @@ private Q_SLOTS:
         earlier->setTapSensorValue(TapModel::Y_Neg);
         const QStringList values = valuesOf(*earlier);
         earlier.reset();
+        idle.reset(); // and what it read at its start is not written
         QVERIFY(fixture.reconnect());
         QCOMPARE(valuesOf(fixture.manager), values);
     }
