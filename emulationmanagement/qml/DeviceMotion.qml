@@ -43,7 +43,8 @@ QtObject {
     }
 
     function isEnabled(sensorName: string): bool {
-        return sensorsManager.sensorsEnabledStates[sensorName] ?? false;
+        return isAvailable(sensorName)
+            && (sensorsManager.sensorsEnabledStates[sensorName] ?? false);
     }
 
     function updateAccelerometerValues() {
@@ -110,7 +111,8 @@ QtObject {
             return;
         updateAccelerometerValues();
         gyroscope = [0, 0, 0];
-        sensorsManager.setGyroscopeValues(...gyroscope);
+        if (isAvailable("gyroscope"))
+            sensorsManager.setGyroscopeValues(...gyroscope);
         updateMagnetometerValues();
     }
 }

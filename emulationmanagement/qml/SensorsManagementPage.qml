@@ -27,43 +27,57 @@ EmulationPage {
     readonly property list<string> sensorNames: [
         "accelerometer", "compass", "orientation", "magnetometer", "gyroscope", "als", "proximity",
         "tap"]
+    // What the user ticked and has not applied, by sensor name.
+    property var pendingStates: ({})
     // What the boxes show, by sensor name.
-    property var checkedStates: ({})
+    readonly property var checkedStates: {
+        const states = {};
+        for (const name of sensorNames)
+            states[name] = isAvailable(name) && (pendingStates[name] ?? isEnabled(name));
+        return states;
+    }
 
     // A sensor was switched; before that it was on or not.
     signal sensorSwitched(sensorName: string, wasEnabled: bool)
 
-    function reset() {
-        const states = {};
-        for (const name of sensorNames)
-            states[name] = sensorsManager.sensorsEnabledStates[name] ?? false;
-        checkedStates = states;
+    function isAvailable(sensorName: string): bool {
+        return sensorsManager.sensorsAvailability[sensorName] ?? false;
     }
 
-    function apply() {
-        const states = checkedStates;
+    function isEnabled(sensorName: string): bool {
+        return isAvailable(sensorName)
+            && (sensorsManager.sensorsEnabledStates[sensorName] ?? false);
+    }
+
+    function reset() {
+        pendingStates = {};
+    }
+
+    function apply(states: var) {
         for (const name of sensorNames) {
-            if (states[name])
+            const on = states[name] && isAvailable(name);
+            if (on)
                 sensorsManager.enableSensor(name);
             else
                 sensorsManager.disableSensor(name);
-            sensorSwitched(name, sensorsManager.sensorsEnabledStates[name] ?? false);
-            sensorsManager.setSensorEnabled(name, states[name]);
+            sensorSwitched(name, isEnabled(name));
+            sensorsManager.setSensorEnabled(name, on);
         }
         reset();
     }
 
     function hasChanges(): bool {
-        return sensorNames.some(
-            name => checkedStates[name] !== (sensorsManager.sensorsEnabledStates[name] ?? false));
+        return sensorNames.some(name => checkedStates[name] !== isEnabled(name));
     }
 
     function exitPage(continuation: var) {
         if (!hasChanges()) {
+            reset();
             continuation();
             return;
         }
         warningDialog.continuation = continuation;
+        warningDialog.states = checkedStates;
         warningDialog.show();
     }
 
@@ -85,10 +99,10 @@ EmulationPage {
 
                         checked: root.checkedStates[modelData] ?? false
                         text: root.titles[modelData]
-                        visible: root.sensorsManager.sensorsAvailability[modelData] ?? false
+                        visible: root.isAvailable(modelData)
 
-                        onToggled: root.checkedStates = Dependencies.statesAfterSwitch(
-                            root.checkedStates, modelData, checked)
+                        onToggled: root.pendingStates = Dependencies.statesAfterSwitch(
+                            root.pendingStates, modelData, checked)
                     }
                 }
             }
@@ -105,7 +119,7 @@ EmulationPage {
 
             Button {
                 text: qsTr("Apply")
-                onClicked: root.apply()
+                onClicked: root.apply(root.checkedStates)
             }
 
             Button {
@@ -115,30 +129,18 @@ EmulationPage {
         }
     }
 
-    Component.onCompleted: reset()
-
-    Connections {
-        target: root.sensorsManager
-
-        function onSensorsAvailabilityChanged() {
-            root.reset();
-        }
-
-        function onSensorsEnabledStatesChanged() {
-            root.reset();
-        }
-    }
-
     WarningDialog {
         id: warningDialog
 
         property var continuation
+        // What was ticked when the question was asked; the emulator's answers go on arriving.
+        property var states
 
         standardButtons: MessageDialog.Discard | MessageDialog.Apply // qmllint disable missing-type
         text: qsTr("The sensor configuration has been changed. Apply or discard changes?")
 
         onAccepted: {
-            root.apply();
+            root.apply(states);
             continuation(); // qmllint disable use-proper-function
         }
         onRejected: {

@@ -42,6 +42,7 @@ QStringList Host::questions() const
 QMessageBox::StandardButton Host::ask(const QString &question)
 {
     m_questions.append(question);
+    receive(m_meanwhile);
     return m_answer;
 }
 
@@ -58,6 +59,7 @@ void Host::reset()
     m_questions.clear();
     m_answer = QMessageBox::NoButton;
     m_doNotShowAgain = false;
+    m_meanwhile.clear();
 }
 
 void Host::receive(const QString &reply)

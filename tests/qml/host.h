@@ -30,6 +30,7 @@ class Host : public QObject
     Q_OBJECT
     Q_PROPERTY(QMessageBox::StandardButton answer MEMBER m_answer)
     Q_PROPERTY(bool doNotShowAgain MEMBER m_doNotShowAgain)
+    Q_PROPERTY(QString meanwhile MEMBER m_meanwhile)
     Q_PROPERTY(QStringList questions READ questions)
 
 public:
@@ -62,6 +63,7 @@ private:
     QStringList m_questions;
     QMessageBox::StandardButton m_answer = QMessageBox::NoButton;
     bool m_doNotShowAgain = false;
+    QString m_meanwhile; // a line of the relay that comes while a question is open
 };
 
 } // namespace EmulationManagement::Internal

@@ -79,17 +79,26 @@ Item {
                  checked: "M"},
                 {tag: "source goes with the compass", on: "Compass", off: ["Compass"],
                  checked: "AM"},
+                {tag: "missing source switched on", missing: "magnetometer", off: [],
+                 on: "Compass", checked: "AC", applied: "accelerometer compass"},
             ];
         }
 
         function test_dependencies(row: var) {
             for (const name of Object.keys(sensorsEmulationManager.sensorsEnabledStates))
                 sensorsEmulationManager.setSensorEnabled(name, false);
+            if (row.missing)
+                host.setSensorAvailable(row.missing, false);
             compare(checked(), "");
             click(row.on);
             row.off.forEach(click);
             compare(checked(), row.checked);
             compare(enabled(), "");
+            compare(find("Magnetometer").visible, !row.missing);
+            if (row.applied) {
+                click("Apply");
+                compare(enabled(), row.applied);
+            }
         }
 
         function test_applyAndReset() {
@@ -98,14 +107,14 @@ Item {
             click("Reset");
             compare(checked(), "ACOMGLPT");
             click("Tap Sensor");
+            host.receive("enabled:proximity:0::");
+            compare(checked(), "ACOMGL"); // the tap sensor keeps what was chosen
+            host.receive("enabled:proximity:1::");
             compare(enabled(), before);
             click("Apply");
             compare(enabled(), before.replace(" tap", ""));
-
-            host.receive("disableSensor:tap::org.vexa.Busy:It is busy");
-            compare(enabled(), before);
+            host.receive("enabled:tap:1::");
             compare(checked(), "ACOMGLPT");
-            view.errorDialog.close();
         }
 
         function test_leaving_data(): var {
@@ -113,29 +122,23 @@ Item {
                 {tag: "changes are lost", answer: apply, enabled: false, left: true},
                 {tag: "discarded changes are applied", answer: discard, enabled: true, left: true},
                 {tag: "page is left without an answer", answer: 0, enabled: true, left: false},
+                {tag: "a reply unticks what is applied", answer: apply, enabled: false, left: true,
+                 meanwhile: "enabled:gyroscope:1::"},
+                {tag: "a reply ticks what is applied", answer: apply, enabled: false, left: true,
+                 meanwhile: "enabled:tap:0::"},
             ];
         }
 
         function test_leaving(row: var) {
             host.answer = row.answer;
+            host.meanwhile = row.meanwhile ?? "";
             click("Gyroscope");
             click("GPS Management");
             compare(host.questions,
                     ["The sensor configuration has been changed. Apply or discard changes?"]);
             compare(sensorsEmulationManager.sensorsEnabledStates.gyroscope, row.enabled);
+            compare(sensorsEmulationManager.sensorsEnabledStates.tap, true);
             compare(page().active, !row.left);
-        }
-
-        function test_leavingWithoutChanges() {
-            click("GPS Management");
-            compare(host.questions, []);
-            verify(!page().active);
-        }
-
-        function test_availability() {
-            host.setSensorAvailable("proximity", false);
-            verify(!find("Proximity Sensor").visible);
-            compare(checked(), "ACOMGLT");
         }
     }
 }

@@ -156,10 +156,14 @@ Item {
             sensorsEmulationManager.setSensorEnabled(row.tag, false);
             verify(label.visible && !label.enabled);
             host.setSensorAvailable(row.tag, false);
+            sensorsEmulationManager.setSensorEnabled(row.tag, true); // whatever the emulator says
+            sensorsEmulationManager.setGyroscopeX(1);
             verify(!label.visible);
             const before = sent(row.tag);
             page.rotate([30, 30, 30]);
             motion.sample();
+            page.active = false;
+            page.active = true;
             compare(sent(row.tag), before);
         }
 
