@@ -16,9 +16,8 @@ Rectangle {
         gpsManagementPage,
         cameraManagementPage,
     ]
-    // The sensor that was switched last, and the state to go back to if the emulator refuses.
+    // The sensor that "Apply" switched last, until the emulator refuses a call.
     property string lastChangedSensorName: ""
-    property bool lastChangedSensorEnabled: false
     readonly property var sensorsManager: sensorsEmulationManager // qmllint disable unqualified
     readonly property color separatorColor: themeSeparatorColor // qmllint disable unqualified
     // Gives the window a palette, which follows the IDE's theme. Controls and dialogs that are made
@@ -162,10 +161,7 @@ Rectangle {
 
             anchors.fill: parent
 
-            onSensorSwitched: (sensorName, wasEnabled) => {
-                root.lastChangedSensorName = sensorName;
-                root.lastChangedSensorEnabled = wasEnabled;
-            }
+            onSensorSwitched: sensorName => root.lastChangedSensorName = sensorName
         }
 
         SensorsValuesPage {

@@ -37,8 +37,7 @@ EmulationPage {
         return states;
     }
 
-    // A sensor was switched; before that it was on or not.
-    signal sensorSwitched(sensorName: string, wasEnabled: bool)
+    signal sensorSwitched(sensorName: string)
 
     function isAvailable(sensorName: string): bool {
         return sensorsManager.sensorsAvailability[sensorName] ?? false;
@@ -60,7 +59,7 @@ EmulationPage {
                 sensorsManager.enableSensor(name);
             else
                 sensorsManager.disableSensor(name);
-            sensorSwitched(name, isEnabled(name));
+            sensorSwitched(name);
             sensorsManager.setSensorEnabled(name, on);
         }
         reset();

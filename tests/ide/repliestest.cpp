@@ -75,6 +75,31 @@ void RepliesTest::testErrorDialogClosesWithTheWindow()
     waitFor("the dialog to close", [&] { return !dialog->property("visible").toBool(); });
 }
 
+// The emulator is asked what is on, and that once: it may refuse to say.
+void RepliesTest::testRefusedApply()
+{
+    Journal journal(dataFolder(emulator()) + "/journal.jsonl");
+    const WindowDriver driver(view());
+    driver.clickButton("Sensors Management");
+    for (const QString &method : {QString("disableSensor"), QString("enabled")}) {
+        if (dialogWindow())
+            WindowDriver(dialogWindow()).clickButton("OK");
+        waitFor("the dialog to close", [] { return !dialogWindow(); });
+        control("fail " + method + " org.vexa.Error.Busy It cannot do " + method);
+        const qsizetype start = journal.position();
+        QSignalSpy replies(sensorsManager(), SIGNAL(replyFromEmulatorReceived(QString)));
+        driver.clickButton("Gyroscope");
+        driver.clickButton("Apply");
+        const auto questions
+            = [&] { return journal.callsSince(start).filter("enabled string:").size(); };
+        waitFor("as many answers as sensors and questions",
+                [&] { return replies.size() >= 16 && questions() >= 8; });
+        QCOMPARE(questions(), 8);
+        QCOMPARE(sensorsManager()->property("sensorsEnabledStates").toMap().value("gyroscope"),
+                 method == "disableSensor");
+    }
+}
+
 void RepliesTest::cleanupTestCase()
 {
     stopMachine();

@@ -11,6 +11,7 @@ private Q_SLOTS:
     void initTestCase();
     void testErrorDialog_data();
     void testErrorDialog();
+    void testRefusedApply();
     void testErrorDialogClosesWithTheWindow();
     void cleanupTestCase();
 };

@@ -145,23 +145,5 @@ Item {
             keyClick(Qt.Key_Return);
             tryCompare(dialog, "visible", false);
         }
-
-        // An error takes back the last switch of a sensor, and that once.
-        function test_refusedSwitch() {
-            const error = "enableSensor:als::org.vexa.Error:no";
-            sensorsEmulationManager.setSensorEnabled("als", false);
-            view.lastChangedSensorName = "als";
-            view.lastChangedSensorEnabled = true;
-            host.receive("enableSensor:als:::");
-            compare(sensorsEmulationManager.sensorsEnabledStates.als, false);
-            host.receive(error);
-            compare(sensorsEmulationManager.sensorsEnabledStates.als, true);
-            compare(view.lastChangedSensorName, "");
-
-            const states = sensorsEmulationManager.sensorsEnabledStates;
-            host.receive(error);
-            compare(sensorsEmulationManager.sensorsEnabledStates, states);
-            view.errorDialog.close();
-        }
     }
 }
