@@ -18,4 +18,11 @@ public:
      * decimals() characters after its point is Acceptable, all else Invalid.
      */
     State validate(QString &input, int &pos) const override;
+
+Q_SIGNALS:
+    /// A text was Invalid. A field drops the key or the paste that would have led to it.
+    void refused() const;
+
+private:
+    [[nodiscard]] bool isAcceptable(const QString &input) const;
 };

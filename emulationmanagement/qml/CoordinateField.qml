@@ -2,16 +2,14 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 
-import org.plova 1.0
-
 // A field for one number of a position. What is no number gives way to the last one that was.
 RowLayout {
     id: root
 
     property string label: ""
-    property alias minValue: validator.bottom
-    property alias maxValue: validator.top
-    property alias decimals: validator.decimals
+    property alias minValue: textField.minValue
+    property alias maxValue: textField.maxValue
+    property alias decimals: textField.decimals
     required property var locale
 
     property string lastNumber: "0"
@@ -37,26 +35,17 @@ RowLayout {
         text: root.label
     }
 
-    TextField {
+    NumberField {
         id: textField
 
         Accessible.name: root.label
         Layout.fillWidth: true
         Layout.maximumWidth: 20 * metrics.averageCharacterWidth + leftPadding + rightPadding
-        horizontalAlignment: TextInput.AlignRight
-        selectByMouse: true
         text: "0"
-        validator: TextFieldDoubleValidator {
-            id: validator
-
-            notation: DoubleValidator.StandardNotation
-        }
 
         onAccepted: root.submitted(root.value())
         onActiveFocusChanged: {
-            if (activeFocus)
-                selectAll();
-            else
+            if (!activeFocus)
                 root.keepNumber();
         }
 

@@ -2,8 +2,6 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 
-import org.plova 1.0
-
 // A slider with a field for the same number. The control's value is in the model's unit; what the
 // user sees and types is that value divided by resultValueMultiplier.
 RowLayout {
@@ -72,27 +70,23 @@ RowLayout {
         onMoved: root.submit(value)
     }
 
-    TextField {
+    NumberField {
         id: textField
 
         Accessible.name: root.label
         // room for a sign, three digits, three decimals and the cursor
         Layout.preferredWidth: metrics.advanceWidth("-000.000 ") + leftPadding + rightPadding
-        horizontalAlignment: TextInput.AlignRight
-        selectByMouse: true
+        decimals: root.numberRoundingSize
+        integer: root.integer
+        maxValue: root.maxValue
+        minValue: root.minValue
         text: root.valueText
-        validator: TextFieldDoubleValidator {
-            bottom: root.minValue
-            top: root.maxValue
-            decimals: root.numberRoundingSize
-            notation: DoubleValidator.StandardNotation
-        }
 
         onAccepted: root.submitText()
         onActiveFocusChanged: {
             if (activeFocus)
-                selectAll();
-            else if (acceptableInput)
+                return;
+            if (acceptableInput)
                 root.submitText();
             else
                 text = root.valueText;

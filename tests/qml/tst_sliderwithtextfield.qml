@@ -102,16 +102,21 @@ Item {
             return [
                 {tag: "above the range", text: "3.5", left: "3."},
                 {tag: "below the range", text: "-3.001", left: "-3.00"},
-                {tag: "too many decimals", text: "1.2345", left: "1.234"},
-                {tag: "fraction of a whole number", text: "2.5", left: "25",
-                 properties: {integer: true, numberRoundingSize: 0, maxValue: 30}},
+                {tag: "comma dropped without a sign", text: "1,5", left: "15",
+                 properties: {maxValue: 30}},
             ];
         }
 
         function test_refusedKeys(row: var) {
             const control = create(row.properties);
+            type(control, "1");
+            verify(!control.field.refused);
             type(control, row.text);
             compare(control.field.text, row.left);
+            verify(Find.find(control.field, item => item.visible && item.border?.width === 2));
+            const range = `from ${control.minValue} to ${control.maxValue}`;
+            verify(Find.find(Window.contentItem, item => item instanceof Label
+                                                         && item.text.includes(range)));
         }
 
         function test_unusableText_data(): var {
