@@ -36,6 +36,7 @@ SensorControls {
                 id: lux
 
                 Layout.fillWidth: true
+                accessibleName: root.title
                 integer: true
                 maxValue: 3000
                 minValue: -1

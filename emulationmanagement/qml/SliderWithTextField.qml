@@ -10,6 +10,7 @@ RowLayout {
     // What stands before the slider, and how wide it is at least, for sliders below each other.
     property string label: ""
     property real labelWidth: 0
+    property string accessibleName: label
     property bool integer: false
     property double minValue: 0.0
     property double maxValue: 1.0
@@ -43,11 +44,13 @@ RowLayout {
     }
 
     function submitText() {
-        submit(Number.fromLocaleString(numberLocale, textField.text));
+        // a text that was not changed stands for all digits of the value, also those not shown
+        submit(textField.text === valueText
+               ? slider.value : Number.fromLocaleString(numberLocale, textField.text));
         textField.text = valueText;
     }
 
-    Accessible.name: label
+    Accessible.name: accessibleName
     spacing: 6
 
     Label {
@@ -59,21 +62,48 @@ RowLayout {
     Slider {
         id: slider
 
-        Accessible.name: root.label
+        // A press beside the middle of the handle moves the slider, which counts only once the
+        // pointer moves on. Until then this is where the press moved it, else NaN.
+        property double pressedPosition: NaN
+
+        function followValue() {
+            value = Qt.binding(() => root.value / root.resultValueMultiplier);
+        }
+
+        Accessible.name: root.accessibleName
         Layout.fillWidth: true
         Layout.minimumWidth: 60
         from: root.minValue
-        to: root.maxValue
+        snapMode: Slider.SnapAlways
         stepSize: root.stepSize
-        value: root.value / root.resultValueMultiplier
+        to: root.maxValue
 
-        onMoved: root.submit(value)
+        Component.onCompleted: followValue()
+        onMoved: {
+            if (pointer.isHandleClicked)
+                pressedPosition = position;
+            if (position === pressedPosition) {
+                followValue();
+                return;
+            }
+            pressedPosition = NaN;
+            root.submit(value);
+        }
+        onPressedChanged: pressedPosition = NaN
+
+        PointHandler {
+            id: pointer
+
+            readonly property point pressPosition: point.pressPosition
+            readonly property bool isHandleClicked: active && point.position === pressPosition
+                && slider.handle.contains(slider.mapToItem(slider.handle, pressPosition))
+        }
     }
 
     NumberField {
         id: textField
 
-        Accessible.name: root.label
+        Accessible.name: root.accessibleName
         // room for a sign, three digits, three decimals and the cursor
         Layout.preferredWidth: metrics.advanceWidth("-000.000 ") + leftPadding + rightPadding
         decimals: root.numberRoundingSize
@@ -84,7 +114,7 @@ RowLayout {
 
         onAccepted: root.submitText()
         onActiveFocusChanged: {
-            if (activeFocus)
+            if (activeFocus || text === root.valueText)
                 return;
             if (acceptableInput)
                 root.submitText();

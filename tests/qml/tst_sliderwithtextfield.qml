@@ -92,6 +92,7 @@ Item {
             type(control, row.text);
             compare(control.sent, []);
             confirm(row.by);
+            elsewhere.forceActiveFocus();
             compare(control.sent.length, 1);
             fuzzyCompare(control.sent[0], row.value, Math.abs(row.value) * 1e-9);
             compare(control.value, control.sent[0]);
@@ -123,16 +124,21 @@ Item {
             return [
                 {tag: "empty text sent", text: ""},
                 {tag: "lone sign sent", text: "-"},
+                {tag: "untouched text sent", by: Qt.Key_Tab, value: 1500.4},
             ];
         }
 
         function test_unusableText(row: var) {
-            const control = create({value: 1500});
-            type(control, row.text);
-            keyClick(Qt.Key_Return);
+            const value = row.value ?? 1500;
+            const control = create({value});
+            if (row.text === undefined)
+                control.field.forceActiveFocus();
+            else
+                type(control, row.text);
+            keyClick(row.by ?? Qt.Key_Return);
             elsewhere.forceActiveFocus();
             compare(control.field.text, "1.500");
-            compare(control.value, 1500);
+            compare(control.value, value);
             compare(control.sent, []);
         }
 
@@ -145,13 +151,16 @@ Item {
             ];
         }
 
-        // What is sent is what the field shows, at every stop on the way.
+        // What is sent is what the field shows, at every stop on the way, and where the handle is.
         function test_drag(row: var) {
             const control = create(row.properties);
-            for (const dx of [41, 37, -23]) {
+            for (const dx of [91, 87, -73]) {
                 control.sent = [];
                 drag(control, dx);
                 verify(control.sent.length > 0);
+                verify(control.sent.every((value, i) => value !== control.sent[i - 1]));
+                fuzzyCompare(control.slider.valueAt(control.slider.position),
+                             control.value / control.resultValueMultiplier, 1e-9);
                 fuzzyCompare(control.value,
                              Number(control.field.text) * control.resultValueMultiplier, 1e-9);
                 compare(control.sent.pop(), control.value);
@@ -160,9 +169,22 @@ Item {
             }
         }
 
+        function test_handleClicked() {
+            const control = create({value: 1500.4});
+            const slider = control.slider;
+            const x = slider.handle.x + slider.handle.width / 2;
+            for (const dx of [-4, 0, 4]) {
+                mouseClick(slider, x + dx, slider.height / 2);
+                compare([control.sent, control.value, control.field.text], [[], 1500.4, "1.500"]);
+            }
+            mouseDrag(slider, x - 4, slider.height / 2, -1, 0);
+            compare(control.sent.length, 1);
+            keyClick(Qt.Key_Right); // a key is no click
+            compare(control.sent.length, 2);
+        }
+
         function test_changedFromOutside_data(): var {
             return [
-                {tag: "ignored at first", before: () => {}},
                 {tag: "ignored after typing", before: control => {
                     type(control, "1.5");
                     keyClick(Qt.Key_Return);
@@ -197,9 +219,6 @@ Item {
                                                   && item.visible), text);
             control.calculatedValue = -0.0004;
             verify(Find.find(control, item => item.text === "0.000 m/s²"), "minus zero");
-            control.showCalculatedValue = false;
-            verify(!Find.find(control, item => item instanceof Label && item.visible
-                                               && item.text.includes("m/s²")));
         }
     }
 }
