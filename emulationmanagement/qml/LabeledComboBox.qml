@@ -20,13 +20,13 @@ RowLayout {
         text: root.label
     }
 
-    ComboBox {
+    ChoiceBox {
         id: comboBox
 
         Accessible.name: root.label
         Layout.fillWidth: true
 
-        onActivated: index => root.chosen(index)
+        onChosen: index => root.chosen(index)
 
         Binding on currentIndex {
             value: root.index

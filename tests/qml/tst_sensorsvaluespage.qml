@@ -142,6 +142,20 @@ Item {
             compare(row.result(), row.value);
         }
 
+        function test_doubleClick() {
+            const manager = sensorsEmulationManager;
+            for (const tap of [-1, 8]) { // the list opens above its box, and over it
+                manager.setTapSensorValue(tap);
+                for (const sensor of ["tap", "als", "orientation"]) {
+                    const box = Find.find(page.sensor(sensor), item => item instanceof ComboBox);
+                    mouseDoubleClickSequence(box);
+                    compare([manager.tap.tapDirection, manager.als.lux, manager.accelerometer.z],
+                            [tap, 100, 1000], sensor);
+                    tryVerify(() => !box.popup.visible);
+                }
+            }
+        }
+
         // Also when the page is too small for that: what has the focus is scrolled into view.
         function test_tabOrder_data(): var {
             return [
