@@ -154,6 +154,7 @@ void EmulationManagementPlugin::handleViewHidden()
 {
     m_cameraEmulationManager.stopVideoStream();
     m_cameraEmulationManager.stopCameraStream();
+    m_sensorsEmulationManager.saveCurrentSensorsValues();
 }
 
 bool EmulationManagementPlugin::setUpPortForwarding()
