@@ -79,12 +79,12 @@ void RepliesTest::testErrorDialogClosesWithTheWindow()
 void RepliesTest::testRefusedApply()
 {
     Journal journal(dataFolder(emulator()) + "/journal.jsonl");
+    auto *dialog = view()->rootObject()->property("errorDialog").value<QObject *>();
     const WindowDriver driver(view());
     driver.clickButton("Sensors Management");
     for (const QString &method : {QString("disableSensor"), QString("enabled")}) {
-        if (dialogWindow())
-            WindowDriver(dialogWindow()).clickButton("OK");
-        waitFor("the dialog to close", [] { return !dialogWindow(); });
+        QMetaObject::invokeMethod(dialog, "close");
+        waitFor("the dialog to close", [&] { return !dialog->property("visible").toBool(); });
         control("fail " + method + " org.vexa.Error.Busy It cannot do " + method);
         const qsizetype start = journal.position();
         QSignalSpy replies(sensorsManager(), SIGNAL(replyFromEmulatorReceived(QString)));
