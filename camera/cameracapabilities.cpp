@@ -69,23 +69,26 @@ void addAvailableResolution(QVariantList *resolutions, const QStringList &framer
                                     {u"framerates"_s, framerates}});
 }
 
-SourceProperty retrieveCameraDeviceProperty(GstDevice *device)
+CameraSource retrieveCameraSource(GstDevice *device)
 {
+    CameraSource source;
     const ObjectReference<GstElement> element = owned(gst_device_create_element(device, nullptr));
     if (!element)
-        return {};
+        return source;
+    if (GstElementFactory *factory = gst_element_get_factory(element.get()))
+        source.factory = QString::fromUtf8(GST_OBJECT_NAME(factory));
     guint count = 0;
     const std::unique_ptr<GParamSpec *, decltype(&g_free)> properties(
         g_object_class_list_properties(G_OBJECT_GET_CLASS(element.get()), &count), &g_free);
-    QString path;
     for (const GParamSpec *property : std::span(properties.get(), count)) {
         const QLatin1StringView name(property->name);
-        if (name == "device"_L1 || name == "device-index"_L1)
-            return {.name = name, .value = serializedProperty(element.get(), property)};
-        if (name == "device-path"_L1)
-            path = serializedProperty(element.get(), property);
+        const bool goesFirst = name == "device"_L1 || name == "device-index"_L1;
+        if (!goesFirst && name != "device-path"_L1)
+            continue;
+        source.property = name;
+        source.value = serializedProperty(element.get(), property);
+        if (goesFirst)
+            break;
     }
-    if (path.isEmpty())
-        return {};
-    return {.name = u"device-path"_s, .value = path};
+    return source;
 }

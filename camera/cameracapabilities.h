@@ -5,11 +5,12 @@
 #include <QStringList>
 #include <QVariantList>
 
-/// What tells a source element which camera to open: one of its properties.
-struct SourceProperty
+/// The element that gives a camera's pictures, and the property that tells it which camera to open.
+struct CameraSource
 {
-    QString name;  ///< "device", "device-index", "device-path", or empty
-    QString value; ///< in GStreamer's text form
+    QString factory; ///< of the element; empty if it has none
+    QString property; ///< "device", "device-index", "device-path", or empty
+    QString value; ///< of the property, in GStreamer's text form
 };
 
 /*!
@@ -28,5 +29,5 @@ struct SourceProperty
 void addAvailableResolution(QVariantList *resolutions, const QStringList &framerates,
                             const QString &width, const QString &height);
 
-/// The property that selects this device. "device" and "device-index" go before "device-path".
-[[nodiscard]] SourceProperty retrieveCameraDeviceProperty(GstDevice *device);
+/// What opens this device. "device" and "device-index" go before "device-path".
+[[nodiscard]] CameraSource retrieveCameraSource(GstDevice *device);

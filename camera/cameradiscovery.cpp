@@ -24,7 +24,6 @@ void CameraEmulationManager::startDeviceMonitor()
     const MiniObjectReference<GstCaps> caps(gst_caps_new_empty_simple("video/x-raw"));
     gst_device_monitor_add_filter(m_deviceMonitor.get(), "Video/Source", caps.get());
     gst_device_monitor_start(m_deviceMonitor.get());
-    initCameraGstPluginName();
 }
 
 void CameraEmulationManager::stopDeviceMonitor()
@@ -35,22 +34,15 @@ void CameraEmulationManager::stopDeviceMonitor()
     m_deviceMonitor.reset();
 }
 
-void CameraEmulationManager::initCameraGstPluginName()
-{
-    const auto devices = devicesOf(m_deviceMonitor.get());
-    if (devices.empty())
-        return;
-    const ObjectReference<GstElement> element
-        = owned(gst_device_create_element(devices.front().get(), nullptr));
-    if (element)
-        m_sourcePluginName
-            = QString::fromUtf8(GST_OBJECT_NAME(gst_element_get_factory(element.get())));
-}
-
-void CameraEmulationManager::initCameraStreamAvailableSettings()
+void CameraEmulationManager::listCameras()
 {
     for (const ObjectReference<GstDevice> &device : devicesOf(m_deviceMonitor.get()))
         addCameraSettings(device.get());
+}
+
+void CameraEmulationManager::setupCameraStreamPipeline()
+{
+    listCameras();
     if (!m_cameras.isEmpty())
         selectFirstCamera();
     setCameraStreamSettings();
@@ -64,9 +56,9 @@ void CameraEmulationManager::selectFirstCamera()
 void CameraEmulationManager::addCameraSettings(GstDevice *device)
 {
     const MiniObjectReference<GstCaps> caps(gst_device_get_caps(device));
-    m_cameras.insert(takeText(gst_device_get_display_name(device)),
-                     {.resolutions = availableResolutions(caps.get()),
-                      .source = retrieveCameraDeviceProperty(device)});
+    m_cameras.insert(
+        takeText(gst_device_get_display_name(device)),
+        {.resolutions = availableResolutions(caps.get()), .source = retrieveCameraSource(device)});
     Q_EMIT camerasChanged();
     Q_EMIT resolutionsChanged();
     Q_EMIT frameratesChanged();
@@ -77,6 +69,8 @@ void CameraEmulationManager::removeCameraSettings(const QString &name)
     const bool isSelected = name == m_cameraName;
     if (isSelected && m_streamRunning)
         stopCameraStream();
+    if (name == m_appliedCameraName)
+        m_appliedCameraName.clear(); // plugged in again it may be opened in another way
     m_cameras.remove(name);
     Q_EMIT camerasChanged();
     if (m_cameras.isEmpty() || !isSelected)
@@ -89,11 +83,9 @@ void CameraEmulationManager::updateCamerasList()
 {
     if (m_streamRunning)
         stopCameraStream();
-    releaseCameraPipeline();
     stopDeviceMonitor();
     m_cameras.clear();
     startDeviceMonitor();
-    initCameraStreamElements();
     setupCameraStreamPipeline();
 }
 

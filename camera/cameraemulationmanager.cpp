@@ -12,7 +12,7 @@ CameraEmulationManager::CameraEmulationManager(QObject *parent)
     gst_init(nullptr, nullptr);
     startDeviceMonitor();
     constructVideoStreamPipeline();
-    initCameraStreamElements();
+    constructCameraStreamPipeline();
     connect(this, &CameraEmulationManager::videoStreamStopped, this,
             &CameraEmulationManager::restartVideoStream);
     m_restartTimer.setSingleShot(true);
@@ -22,7 +22,7 @@ CameraEmulationManager::CameraEmulationManager(QObject *parent)
 CameraEmulationManager::~CameraEmulationManager()
 {
     gst_element_set_state(m_videoPipeline.get(), GST_STATE_NULL);
-    releaseCameraPipeline();
+    gst_element_set_state(m_cameraPipeline.get(), GST_STATE_NULL);
     stopDeviceMonitor();
 }
 

@@ -86,6 +86,8 @@ public:
     /// file goes on although streamRunning() becomes false.
     Q_INVOKABLE void updateCamerasList();
 
+    /// Ends any stream, then starts one of the camera that was taken over last, or of the selected
+    /// one if that is not there any more.
     Q_INVOKABLE void startCameraStream();
     Q_INVOKABLE void stopCameraStream();
     /*!
@@ -99,8 +101,8 @@ public:
     Q_INVOKABLE void setCameraStreamSettings();
 
 public Q_SLOTS:
-    /// Plays the video file from its start, unless it was stopped. A file that came to its end at
-    /// once, for it has no pictures, waits a little.
+    /// Plays the video file from its start, unless it was stopped. A file without pictures, which
+    /// comes to its end at once, waits a little.
     void restartVideoStream();
 
 Q_SIGNALS:
@@ -123,16 +125,7 @@ private:
     struct Camera
     {
         QVariantList resolutions;
-        SourceProperty source;
-    };
-
-    struct CameraElements
-    {
-        ObjectReference<GstElement> source; // none as long as no camera was found
-        ObjectReference<GstElement> capsFilter;
-        ObjectReference<GstElement> jpegEncoder;
-        ObjectReference<GstElement> rtpPayloader;
-        ObjectReference<GstElement> udpSink;
+        CameraSource source;
     };
 
     void setStreamRunning(bool running);
@@ -141,18 +134,14 @@ private:
     // cameradiscovery.cpp
     void startDeviceMonitor();
     void stopDeviceMonitor();
-    void initCameraGstPluginName();
-    void initCameraStreamAvailableSettings();
+    void listCameras();
     void addCameraSettings(GstDevice *device);
     void removeCameraSettings(const QString &name);
     static int onDeviceListChanged(GstBus *bus, GstMessage *message, void *manager);
 
     // pipelines.cpp
     void constructVideoStreamPipeline();
-    void initCameraStreamElements();
-    void setUpCameraPipelineElementsProperties();
-    void linkCameraStreamElements();
-    void releaseCameraPipeline();
+    void constructCameraStreamPipeline();
     void playVideo();
 
     // codeccheck.cpp
@@ -165,13 +154,12 @@ private:
     int m_height = -1;
     int m_resolutionIndex = 0;
     QString m_cameraName;
-    QString m_sourcePluginName;
     ObjectReference<GstElement> m_videoPipeline;
     ObjectReference<GstElement> m_fileSource;
     QString m_videoFile;
     QElapsedTimer m_sinceVideoStart;
     QTimer m_restartTimer;
     ObjectReference<GstElement> m_cameraPipeline;
-    CameraElements m_cameraElements;
+    QString m_appliedCameraName; // what the camera's pipeline was made for
     bool m_streamRunning = false;
 };

@@ -15,6 +15,16 @@ static constexpr int jpegQuality = 50;
 // Shorter than any film: only a file without pictures would come to its end again and again.
 static constexpr std::chrono::milliseconds shortestLoop = 100ms;
 
+struct OutputNames
+{
+    const char *jpegEncoder;
+    const char *rtpPayloader;
+    const char *udpSink;
+};
+
+static constexpr OutputNames videoOutput{"jpegencVS", "m_rtpjpegpayVS", "udpsinkVS"};
+static constexpr OutputNames cameraOutput{"jpegencCam", "rtpjpegpayCam", "udpsinkCam"};
+
 static ObjectReference<GstElement> createElement(const char *factory, const char *name)
 {
     return owned(gst_element_factory_make(factory, name));
@@ -37,8 +47,7 @@ static ObjectReference<GstElement> createPipeline(const char *name)
     return pipeline;
 }
 
-/// Without a look at the state before: that could wait for ever for the first frame of a file that
-/// has none.
+/// Does not query the state before: that waits for ever for the first frame of a file without any.
 static void stop(const ObjectReference<GstElement> &pipeline)
 {
     gst_element_set_state(pipeline.get(), GST_STATE_NULL);
@@ -49,11 +58,23 @@ static void play(const ObjectReference<GstElement> &pipeline)
     gst_element_set_state(pipeline.get(), GST_STATE_PLAYING);
 }
 
-static void setUpOutput(GstElement *jpegEncoder, GstElement *udpSink)
+/// Adds what both pipelines end with. Returns the encoder, or null where GStreamer lacks its good
+/// plugins: no stream will play then.
+static GstElement *addOutput(GstElement *pipeline, const OutputNames &names)
 {
-    g_object_set(jpegEncoder, "quality", jpegQuality, nullptr);
-    g_object_set(udpSink, "host", CameraEmulationManager::localhost, "port",
+    const auto jpegEncoder = createElement("jpegenc", names.jpegEncoder);
+    const auto rtpPayloader = createElement("rtpjpegpay", names.rtpPayloader);
+    const auto udpSink = createElement("udpsink", names.udpSink);
+    if (!jpegEncoder || !rtpPayloader || !udpSink)
+        return nullptr;
+
+    g_object_set(jpegEncoder.get(), "quality", jpegQuality, nullptr);
+    g_object_set(udpSink.get(), "host", CameraEmulationManager::localhost, "port",
                  CameraEmulationManager::udpPort, nullptr);
+    gst_bin_add_many(GST_BIN(pipeline), jpegEncoder.get(), rtpPayloader.get(), udpSink.get(),
+                     nullptr);
+    gst_element_link_many(jpegEncoder.get(), rtpPayloader.get(), udpSink.get(), nullptr);
+    return jpegEncoder.get();
 }
 
 /// Of the pads of a file, the first that carries pictures is linked; later ones fail to.
@@ -79,59 +100,37 @@ void CameraEmulationManager::constructVideoStreamPipeline()
     m_videoPipeline = createPipeline("video-stream-pipeline");
     m_fileSource = createElement("filesrc", "filesrc");
     const auto decodeBin = createElement("decodebin", "decodebin");
-    const auto jpegEncoder = createElement("jpegenc", "jpegencVS");
-    const auto rtpPayloader = createElement("rtpjpegpay", "m_rtpjpegpayVS");
-    const auto udpSink = createElement("udpsink", "udpsinkVS");
-    if (!m_fileSource || !decodeBin || !jpegEncoder || !rtpPayloader || !udpSink)
+    GstElement *jpegEncoder = addOutput(m_videoPipeline.get(), videoOutput);
+    if (!m_fileSource || !decodeBin || !jpegEncoder)
         return; // GStreamer lacks its base or good plugins: no file will play
 
-    setUpOutput(jpegEncoder.get(), udpSink.get());
-    gst_bin_add_many(GST_BIN(m_videoPipeline.get()), m_fileSource.get(), decodeBin.get(),
-                     jpegEncoder.get(), rtpPayloader.get(), udpSink.get(), nullptr);
+    gst_bin_add_many(GST_BIN(m_videoPipeline.get()), m_fileSource.get(), decodeBin.get(), nullptr);
     gst_element_link(m_fileSource.get(), decodeBin.get());
-    gst_element_link_many(jpegEncoder.get(), rtpPayloader.get(), udpSink.get(), nullptr);
-    g_signal_connect(decodeBin.get(), "pad-added", G_CALLBACK(onDecodeBinPadAdded),
-                     jpegEncoder.get());
+    g_signal_connect(decodeBin.get(), "pad-added", G_CALLBACK(onDecodeBinPadAdded), jpegEncoder);
+    const ObjectReference<GstElement> udpSink(
+        gst_bin_get_by_name(GST_BIN(m_videoPipeline.get()), videoOutput.udpSink));
     const ObjectReference<GstPad> sinkPad(gst_element_get_static_pad(udpSink.get(), "sink"));
     gst_pad_add_probe(sinkPad.get(), GST_PAD_PROBE_TYPE_EVENT_DOWNSTREAM, onEventReceived, this,
                       nullptr);
 }
 
-void CameraEmulationManager::initCameraStreamElements()
+void CameraEmulationManager::constructCameraStreamPipeline()
 {
+    m_appliedCameraName = m_cameraName;
+    if (m_cameraPipeline)
+        stop(m_cameraPipeline);
     m_cameraPipeline = createPipeline("camera-stream-pipeline");
-    m_cameraElements = {
-        .source = createElement(m_sourcePluginName.toUtf8().constData(), "sourcePluginCam"),
-        .capsFilter = createElement("capsfilter", "capsfilterCam"),
-        .jpegEncoder = createElement("jpegenc", "jpegencCam"),
-        .rtpPayloader = createElement("rtpjpegpay", "rtpjpegpayCam"),
-        .udpSink = createElement("udpsink", "udpsinkCam"),
-    };
-}
+    const CameraSource camera = m_cameras.value(m_cameraName).source;
+    const auto source = createElement(camera.factory.toUtf8().constData(), "sourcePluginCam");
+    const auto capsFilter = createElement("capsfilter", "capsfilterCam");
+    GstElement *jpegEncoder = addOutput(m_cameraPipeline.get(), cameraOutput);
+    if (!source || !capsFilter || !jpegEncoder)
+        return; // no camera is selected, or GStreamer lacks plugins: no camera will stream
 
-void CameraEmulationManager::releaseCameraPipeline()
-{
-    stop(m_cameraPipeline);
-    m_cameraPipeline.reset();
-    m_cameraElements = {};
-}
-
-void CameraEmulationManager::setupCameraStreamPipeline()
-{
-    initCameraStreamAvailableSettings();
-    setUpCameraPipelineElementsProperties();
-    linkCameraStreamElements();
-}
-
-void CameraEmulationManager::setUpCameraPipelineElementsProperties()
-{
-    const auto &[source, capsFilter, jpegEncoder, rtpPayloader, udpSink] = m_cameraElements;
-    const SourceProperty device = m_cameras.value(m_cameraName).source;
-    // of one factory for all cameras, which may lack the property; it reads what was serialised
-    if (source && !device.name.isEmpty() && !device.value.isEmpty())
-        gst_util_set_object_arg(G_OBJECT(source.get()), device.name.toUtf8().constData(),
-                                device.value.toUtf8().constData());
-
+    // reads what was serialised
+    if (!camera.property.isEmpty() && !camera.value.isEmpty())
+        gst_util_set_object_arg(G_OBJECT(source.get()), camera.property.toUtf8().constData(),
+                                camera.value.toUtf8().constData());
     QString text = u"video/x-raw"_s;
     if (m_width >= 0 && m_height >= 0)
         text += u",width=%1,height=%2"_s.arg(m_width).arg(m_height);
@@ -139,34 +138,19 @@ void CameraEmulationManager::setUpCameraPipelineElementsProperties()
         text += u",framerate=%1"_s.arg(m_framerate);
     const MiniObjectReference<GstCaps> caps(gst_caps_from_string(text.toUtf8().constData()));
     g_object_set(capsFilter.get(), "caps", caps.get(), nullptr);
-    setUpOutput(jpegEncoder.get(), udpSink.get());
-}
 
-void CameraEmulationManager::linkCameraStreamElements()
-{
-    const auto &[source, capsFilter, jpegEncoder, rtpPayloader, udpSink] = m_cameraElements;
-    GstBin *pipeline = GST_BIN(m_cameraPipeline.get());
-    if (GST_BIN_NUMCHILDREN(pipeline) > 0)
-        return; // the window was shown before
-    for (GstElement *element :
-         {source.get(), capsFilter.get(), jpegEncoder.get(), rtpPayloader.get(), udpSink.get()}) {
-        if (element)
-            gst_bin_add(pipeline, element);
-    }
-    if (source)
-        gst_element_link(source.get(), capsFilter.get());
-    gst_element_link_many(capsFilter.get(), jpegEncoder.get(), rtpPayloader.get(), udpSink.get(),
-                          nullptr);
+    gst_bin_add_many(GST_BIN(m_cameraPipeline.get()), source.get(), capsFilter.get(), nullptr);
+    gst_element_link_many(source.get(), capsFilter.get(), jpegEncoder, nullptr);
 }
 
 void CameraEmulationManager::setCameraStreamSettings()
 {
     if (m_streamRunning) {
         stopCameraStream();
-        setUpCameraPipelineElementsProperties();
+        constructCameraStreamPipeline();
         startCameraStream();
     } else {
-        setUpCameraPipelineElementsProperties();
+        constructCameraStreamPipeline();
     }
     Q_EMIT cameraStreamSettingsApplied();
 }
@@ -175,6 +159,13 @@ void CameraEmulationManager::startCameraStream()
 {
     stop(m_videoPipeline);
     stop(m_cameraPipeline);
+    // What was applied last may be unplugged by now, or nothing at all.
+    if (!m_cameras.isEmpty() && !m_cameras.contains(m_appliedCameraName)) {
+        if (!m_cameras.contains(m_cameraName))
+            selectFirstCamera();
+        constructCameraStreamPipeline();
+        Q_EMIT cameraStreamSettingsApplied();
+    }
     play(m_cameraPipeline);
     setStreamRunning(true);
 }

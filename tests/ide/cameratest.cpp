@@ -13,11 +13,16 @@ static QObject *manager()
     return contextObject("cameraEmulationManager");
 }
 
+static void plug(VirtualCameras *cameras, const QByteArray &name)
+{
+    cameras->set({name + "|device=/dev/a|video/x-raw,width=64,height=48,framerate=30/1"});
+    waitFor("the camera", [] { return !manager()->property("cameras").toList().isEmpty(); });
+}
+
 void CameraTest::testPlugging()
 {
     VirtualCameras cameras;
-    cameras.set({"Camera | device=/dev/a | video/x-raw,width=64,height=48,framerate=30/1"});
-    waitFor("the camera", [] { return !manager()->property("cameras").toList().isEmpty(); });
+    plug(&cameras, "Camera");
     cameras.set({});
     waitFor("the camera to go", [] { return manager()->property("cameras").toList().isEmpty(); });
 }
@@ -25,20 +30,23 @@ void CameraTest::testPlugging()
 void CameraTest::testEndOfStream()
 {
     Journal journal(dataFolder(emulator()) + "/journal.jsonl");
-    const auto startVideo = [&] {
-        const qsizetype start = journal.position();
-        QMetaObject::invokeMethod(manager(), "startVideoStream", QString(MEDIA_FOLDER "/vp8.webm"));
+    qsizetype start = 0;
+    const auto startStream = [&](const char *method, const auto &...arguments) {
+        start = journal.position();
+        QMetaObject::invokeMethod(manager(), method, arguments...);
         journal.waitForEvent("video-started", start);
-        return start;
     };
     openWindow(journal);
-    const qsizetype start = startVideo();
+    startStream("startVideoStream", QString(MEDIA_FOLDER "/vp8.webm"));
     view()->close();
     QVERIFY(!manager()->property("streamRunning").toBool());
     journal.waitForEvent("video-ended", start);
 
     chooseAction();
-    startVideo();
+    VirtualCameras cameras;
+    plug(&cameras, "Later");
+    manager()->setProperty("cameraName", "Later");
+    startStream("startCameraStream");
     stopMachine();
     QVERIFY(!manager()->property("streamRunning").toBool());
 }

@@ -71,7 +71,7 @@ class CameraDiscoveryTest : public QObject
 private Q_SLOTS:
     void capabilities()
     {
-        QByteArrayList lines;
+        QByteArrayList lines{"0 | factory=none | " RAW};
         for (const auto &camera : cameras)
             lines << QByteArray(camera.name) + "|device=" + camera.name[0] + '|' + camera.caps;
         m_cameras.set(lines);

@@ -124,7 +124,8 @@ private Q_SLOTS:
             return number + '|' + QByteArray(property).replace("%1", number)
                    + "|video/x-raw,height=48,framerate=30/1,width=" + width;
         };
-        m_cameras.set({camera("1", "64"), camera("2", "80")});
+        // the first one's source has no property, and so another factory
+        m_cameras.set({"0||video/x-raw,width=96,height=48", camera("1", "64"), camera("2", "80")});
         CameraEmulationManager manager;
         manager.setupCameraStreamPipeline();
         manager.setCameraName(u"2"_s);
@@ -202,20 +203,27 @@ private Q_SLOTS:
         QVERIFY(arrives({160, 120}));
     }
 
-    void withoutCamera()
+    void firstCamera_data()
+    {
+        QTest::addColumn<QString>("selected");
+        QTest::newRow("selected") << u"Rear"_s;
+        QTest::newRow("not selected") << QString();
+        QTest::newRow("another was selected") << u"Front"_s;
+    }
+
+    // A camera that is plugged in after a start without any can be started.
+    void firstCamera()
     {
         m_cameras.set({});
         CameraEmulationManager manager;
         manager.setupCameraStreamPipeline();
-        manager.setupCameraStreamPipeline();
         manager.startCameraStream();
         QVERIFY(manager.streamRunning());
-        manager.startVideoStream(media(u"vp8.webm"_s));
-        QVERIFY(arrives(videoSize));
-
+        manager.stopCameraStream();
         m_cameras.set({rear});
         QTRY_COMPARE(manager.cameras().size(), 1);
-        manager.updateCamerasList();
+        QFETCH(const QString, selected);
+        manager.setCameraName(selected);
         manager.startCameraStream();
         QVERIFY(arrives({96, 80}));
     }

@@ -195,6 +195,13 @@ bool registerVirtualCameraSources(GstPlugin *plugin)
 
 GstElement *createVirtualCameraSource(const VirtualCamera &camera, const char *name)
 {
+    const std::pair<std::string, std::string> noFactory("factory", "none");
+    if (camera.properties == std::vector{noFactory}) {
+        static const GType type = g_type_register_static_simple(
+            GST_TYPE_BIN, "VirtualCameraSource", sizeof(GstBinClass), nullptr, sizeof(GstBin),
+            nullptr, GTypeFlags(0));
+        return GST_ELEMENT(g_object_new(type, "name", name, nullptr));
+    }
     const auto has = [&camera](const char *property) {
         return !property || std::ranges::any_of(camera.properties, [property](const auto &own) {
             return own.first == property;

@@ -13,5 +13,6 @@
  */
 bool registerVirtualCameraSources(GstPlugin *plugin);
 
-/// A new source that is set to this camera, or null if no factory has its properties.
+/// A new source that is set to this camera, or null if no factory has its properties. Without pads
+/// and without a factory where the camera has "factory=none" instead of properties.
 GstElement *createVirtualCameraSource(const VirtualCamera &camera, const char *name);
