@@ -43,9 +43,9 @@ void CameraEmulationManager::listCameras()
 void CameraEmulationManager::setupCameraStreamPipeline()
 {
     listCameras();
-    if (!m_cameras.isEmpty())
+    if (!m_cameras.isEmpty() && !m_cameras.contains(m_cameraName))
         selectFirstCamera();
-    setCameraStreamSettings();
+    applySelection(m_playing == Source::Camera);
 }
 
 void CameraEmulationManager::selectFirstCamera()
@@ -67,7 +67,7 @@ void CameraEmulationManager::addCameraSettings(GstDevice *device)
 void CameraEmulationManager::removeCameraSettings(const QString &name)
 {
     const bool isSelected = name == m_cameraName;
-    if (isSelected && m_streamRunning)
+    if (m_playing == Source::Camera && (isSelected || name == m_appliedCameraName))
         stopCameraStream();
     if (name == m_appliedCameraName)
         m_appliedCameraName.clear(); // plugged in again it may be opened in another way
@@ -76,17 +76,23 @@ void CameraEmulationManager::removeCameraSettings(const QString &name)
     if (m_cameras.isEmpty() || !isSelected)
         return;
     selectFirstCamera();
-    setCameraStreamSettings();
+    applySelection(false);
 }
 
 void CameraEmulationManager::updateCamerasList()
 {
-    if (m_streamRunning)
+    if (m_playing == Source::Camera)
         stopCameraStream();
     stopDeviceMonitor();
     m_cameras.clear();
     startDeviceMonitor();
-    setupCameraStreamPipeline();
+    listCameras();
+    // Where the main loop does not dispatch GLib's context, only this tells that no camera is left.
+    if (m_cameras.isEmpty())
+        Q_EMIT camerasChanged();
+    else
+        selectFirstCamera();
+    applySelection(false);
 }
 
 int CameraEmulationManager::onDeviceListChanged(GstBus *bus, GstMessage *message, void *manager)
@@ -113,7 +119,7 @@ int CameraEmulationManager::onDeviceListChanged(GstBus *bus, GstMessage *message
     } else if (!isKnown) {
         self->addCameraSettings(device);
         if (self->m_cameras.size() == 1)
-            self->setCameraStreamSettings();
+            self->applySelection(self->m_playing == Source::Camera);
     }
     return G_SOURCE_CONTINUE;
 }

@@ -21,20 +21,18 @@ CameraEmulationManager::CameraEmulationManager(QObject *parent)
 
 CameraEmulationManager::~CameraEmulationManager()
 {
-    gst_element_set_state(m_videoPipeline.get(), GST_STATE_NULL);
-    gst_element_set_state(m_cameraPipeline.get(), GST_STATE_NULL);
+    stopPipelines();
     stopDeviceMonitor();
 }
 
 bool CameraEmulationManager::streamRunning() const
 {
-    return m_streamRunning;
+    return m_playing != Source::None;
 }
 
-void CameraEmulationManager::setStreamRunning(bool running)
+bool CameraEmulationManager::videoStreamRunning() const
 {
-    m_streamRunning = running;
-    Q_EMIT streamRunningChanged();
+    return m_playing == Source::VideoFile;
 }
 
 QStringList CameraEmulationManager::cameras() const

@@ -26,6 +26,7 @@ class CameraEmulationManager : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(bool streamRunning READ streamRunning NOTIFY streamRunningChanged)
+    Q_PROPERTY(bool videoStreamRunning READ videoStreamRunning NOTIFY streamRunningChanged)
     Q_PROPERTY(QStringList framerates READ framerates NOTIFY frameratesChanged)
     Q_PROPERTY(QVariantList resolutions READ resolutions NOTIFY resolutionsChanged)
     Q_PROPERTY(QStringList cameras READ cameras NOTIFY camerasChanged)
@@ -46,8 +47,10 @@ public:
     explicit CameraEmulationManager(QObject *parent = nullptr);
     ~CameraEmulationManager() override;
 
-    /// True from a start of either stream, successful or not, until a stop.
+    /// True from a start of either stream, whether GStreamer can play it or not, until it ends.
     [[nodiscard]] bool streamRunning() const;
+    /// True while the stream that runs is one of a video file.
+    [[nodiscard]] bool videoStreamRunning() const;
 
     /// Names of the host's cameras in ascending order; those of one name share an entry.
     [[nodiscard]] QStringList cameras() const;
@@ -78,24 +81,28 @@ public:
     /// Selects a camera and the first of its sizes.
     void setCameraName(const QString &name);
 
-    /// Called whenever the window is about to be shown with the emulator at hand. Lists the cameras
-    /// and selects the first.
+    /// Called whenever the window is about to be shown with the emulator at hand. Lists the
+    /// cameras, selects the first unless the selected one is there, and takes over the selection.
     void setupCameraStreamPipeline();
 
-    /// Looks for cameras afresh and selects the first. Stops a stream of a camera; one of a video
-    /// file goes on although streamRunning() becomes false.
+    /// Looks for cameras afresh and selects the first. Ends a stream of a camera; one of a video
+    /// file goes on, so that no camera is switched on unasked.
     Q_INVOKABLE void updateCamerasList();
 
     /// Ends any stream, then starts one of the camera that was taken over last, or of the selected
     /// one if that is not there any more.
     Q_INVOKABLE void startCameraStream();
+    /// Ends a stream of a camera.
     Q_INVOKABLE void stopCameraStream();
     /*!
      * Ends any stream, then plays a local file over and over if it holds VP8 or VP9, which takes up
-     * to two seconds to find out. No path only ends the streams, and streamRunning() stays.
+     * to two seconds to find out. No path only ends the streams.
      */
     Q_INVOKABLE void startVideoStream(const QString &filePath);
+    /// Ends a stream of a video file.
     Q_INVOKABLE void stopVideoStream();
+    /// Ends any stream. Nothing is sent from then on.
+    Q_INVOKABLE void stopStreams();
     /// Takes over the selected camera, size and rate. A running stream, also one of a video file,
     /// becomes one of the camera.
     Q_INVOKABLE void setCameraStreamSettings();
@@ -122,13 +129,14 @@ Q_SIGNALS:
     void videoFileCodecChecked(bool success, const QString &codecName);
 
 private:
+    enum class Source { None, Camera, VideoFile };
+
     struct Camera
     {
         QVariantList resolutions;
         CameraSource source;
     };
 
-    void setStreamRunning(bool running);
     void selectFirstCamera();
 
     // cameradiscovery.cpp
@@ -142,6 +150,8 @@ private:
     // pipelines.cpp
     void constructVideoStreamPipeline();
     void constructCameraStreamPipeline();
+    void applySelection(bool restart);
+    void stopPipelines();
     void playVideo();
 
     // codeccheck.cpp
@@ -154,6 +164,8 @@ private:
     int m_height = -1;
     int m_resolutionIndex = 0;
     QString m_cameraName;
+    // the only home of what the pipelines do: streamRunning() and videoStreamRunning() tell it
+    Source m_playing = Source::None;
     ObjectReference<GstElement> m_videoPipeline;
     ObjectReference<GstElement> m_fileSource;
     QString m_videoFile;
@@ -161,5 +173,4 @@ private:
     QTimer m_restartTimer;
     ObjectReference<GstElement> m_cameraPipeline;
     QString m_appliedCameraName; // what the camera's pipeline was made for
-    bool m_streamRunning = false;
 };

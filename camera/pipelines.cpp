@@ -117,8 +117,6 @@ void CameraEmulationManager::constructVideoStreamPipeline()
 void CameraEmulationManager::constructCameraStreamPipeline()
 {
     m_appliedCameraName = m_cameraName;
-    if (m_cameraPipeline)
-        stop(m_cameraPipeline);
     m_cameraPipeline = createPipeline("camera-stream-pipeline");
     const CameraSource camera = m_cameras.value(m_cameraName).source;
     const auto source = createElement(camera.factory.toUtf8().constData(), "sourcePluginCam");
@@ -127,7 +125,7 @@ void CameraEmulationManager::constructCameraStreamPipeline()
     if (!source || !capsFilter || !jpegEncoder)
         return; // no camera is selected, or GStreamer lacks plugins: no camera will stream
 
-    // reads what was serialised
+    // takes the text form of any type of property
     if (!camera.property.isEmpty() && !camera.value.isEmpty())
         gst_util_set_object_arg(G_OBJECT(source.get()), camera.property.toUtf8().constData(),
                                 camera.value.toUtf8().constData());
@@ -143,61 +141,80 @@ void CameraEmulationManager::constructCameraStreamPipeline()
     gst_element_link_many(source.get(), capsFilter.get(), jpegEncoder, nullptr);
 }
 
+void CameraEmulationManager::stopPipelines()
+{
+    stop(m_cameraPipeline);
+    stop(m_videoPipeline);
+    m_playing = Source::None;
+    m_restartTimer.stop();
+}
+
+void CameraEmulationManager::applySelection(bool restart)
+{
+    if (restart)
+        stopStreams();
+    constructCameraStreamPipeline();
+    if (restart)
+        startCameraStream();
+    Q_EMIT cameraStreamSettingsApplied();
+}
+
 void CameraEmulationManager::setCameraStreamSettings()
 {
-    if (m_streamRunning) {
-        stopCameraStream();
-        constructCameraStreamPipeline();
-        startCameraStream();
-    } else {
-        constructCameraStreamPipeline();
-    }
-    Q_EMIT cameraStreamSettingsApplied();
+    applySelection(streamRunning());
 }
 
 void CameraEmulationManager::startCameraStream()
 {
-    stop(m_videoPipeline);
-    stop(m_cameraPipeline);
+    stopPipelines();
     // What was applied last may be unplugged by now, or nothing at all.
     if (!m_cameras.isEmpty() && !m_cameras.contains(m_appliedCameraName)) {
         if (!m_cameras.contains(m_cameraName))
             selectFirstCamera();
-        constructCameraStreamPipeline();
-        Q_EMIT cameraStreamSettingsApplied();
+        applySelection(false);
     }
     play(m_cameraPipeline);
-    setStreamRunning(true);
+    m_playing = Source::Camera;
+    Q_EMIT streamRunningChanged();
 }
 
 void CameraEmulationManager::stopCameraStream()
 {
-    stop(m_cameraPipeline);
-    setStreamRunning(false);
+    if (m_playing == Source::Camera)
+        stopPipelines();
+    Q_EMIT streamRunningChanged();
 }
 
 void CameraEmulationManager::startVideoStream(const QString &filePath)
 {
-    stop(m_cameraPipeline);
-    stop(m_videoPipeline);
-    if (filePath.isEmpty() || !checkVideoFileForCodec(filePath))
-        return;
-    m_videoFile = filePath;
-    g_object_set(m_fileSource.get(), "location", filePath.toLocal8Bit().constData(), nullptr);
-    playVideo();
-    setStreamRunning(true);
+    stopPipelines();
+    if (!filePath.isEmpty() && checkVideoFileForCodec(filePath)) {
+        m_videoFile = filePath;
+        g_object_set(m_fileSource.get(), "location", filePath.toLocal8Bit().constData(), nullptr);
+        playVideo();
+        m_playing = Source::VideoFile;
+    }
+    // also without a new stream: the one before has ended
+    Q_EMIT streamRunningChanged();
 }
 
 void CameraEmulationManager::stopVideoStream()
 {
-    stop(m_videoPipeline);
-    setStreamRunning(false);
+    if (m_playing == Source::VideoFile)
+        stopPipelines();
+    Q_EMIT streamRunningChanged();
+}
+
+void CameraEmulationManager::stopStreams()
+{
+    stopPipelines();
+    Q_EMIT streamRunningChanged();
 }
 
 void CameraEmulationManager::restartVideoStream()
 {
     // stopped while the news of the file's end was on its way here
-    if (GST_STATE_TARGET(m_videoPipeline.get()) == GST_STATE_NULL)
+    if (m_playing != Source::VideoFile)
         return;
     const auto loop
         = std::chrono::floor<std::chrono::milliseconds>(m_sinceVideoStart.durationElapsed());

@@ -8,7 +8,10 @@ EmulationPage {
     id: root
 
     readonly property var cameraManager: cameraEmulationManager // qmllint disable unqualified
+    readonly property bool hasCamera: cameraManager.cameras.length > 0
     required property ErrorMessageDialog errorDialog
+    // The source that is chosen. It follows what plays, and otherwise whether there are cameras.
+    property bool videoFileChosen: !hasCamera
     // not the dialog's, which changes also when the dialog is cancelled
     property url videoFileUrl
     property string videoFilePath: localPath(videoFileUrl)
@@ -30,28 +33,52 @@ EmulationPage {
         currentFramerate = cameraManager.framerate;
     }
 
+    function chooseSource(videoFile: bool) {
+        videoFileChosen = videoFile;
+        if (videoFile && videoFilePath === "")
+            stopStream();
+        else if (cameraManager.streamRunning)
+            startStream();
+    }
+
     function startStream() {
-        if (videoFileButton.checked)
+        if (videoFileChosen)
             cameraManager.startVideoStream(videoFilePath);
         else
             cameraManager.startCameraStream();
     }
 
     function stopStream() {
-        if (videoFileButton.checked)
-            cameraManager.stopVideoStream();
-        else
-            cameraManager.stopCameraStream();
+        cameraManager.stopStreams();
     }
 
     function exitPage(continuation: var) {
         continuation();
-        if (cameraManager.streamRunning)
-            stopStream();
+        stopStream();
+    }
+
+    function showError(text: string) {
+        errorDialog.text = text;
+        errorDialog.open();
+    }
+
+    onHasCameraChanged: {
+        if (!cameraManager.videoStreamRunning)
+            videoFileChosen = !hasCamera;
+    }
+
+    onShownChanged: {
+        if (!shown)
+            fileDialog.close(); // accepted later it would start a stream
     }
 
     Connections {
         target: root.cameraManager
+
+        function onStreamRunningChanged() {
+            if (root.cameraManager.streamRunning)
+                root.videoFileChosen = root.cameraManager.videoStreamRunning || !root.hasCamera;
+        }
 
         function onCameraStreamSettingsApplied() {
             root.setupCurrentCameraStreamValues();
@@ -60,23 +87,9 @@ EmulationPage {
         function onVideoFileCodecChecked(success: bool, codecName: string) {
             if (success)
                 return;
-            if (root.cameraManager.streamRunning)
-                root.cameraManager.stopVideoStream();
-            root.errorDialog.show(codecName === ""
+            root.showError(codecName === ""
                 ? qsTr("Could not determine the video codec of the video file. Supported codecs: VP8 and VP9.")
                 : qsTr("Camera emulation does not support %1. Supported codecs: VP8 and VP9.").arg(codecName));
-        }
-    }
-
-    FileDialog {
-        id: fileDialog
-
-        title: qsTr("Open Video File")
-        nameFilters: [qsTr("Video files (*.webm *.mkv)")]
-
-        onAccepted: {
-            root.videoFileUrl = currentFile;
-            root.cameraManager.startVideoStream(root.videoFilePath);
         }
     }
 
@@ -103,34 +116,18 @@ EmulationPage {
                     spacing: root.spacing
 
                     RadioButton {
-                        id: hostCameraButton
-
-                        checked: enabled
-                        enabled: root.cameraManager.cameras.length > 0
+                        checked: !root.videoFileChosen
+                        enabled: root.hasCamera
                         text: qsTr("Host camera")
 
-                        onCheckedChanged: {
-                            if (checked && root.cameraManager.streamRunning)
-                                root.cameraManager.startCameraStream();
-                        }
-                        // not a binding of the other button, which would be evaluated by those
-                        // that its handler changes
-                        onEnabledChanged: videoFileButton.checked = !enabled
+                        onToggled: root.chooseSource(false)
                     }
 
                     RadioButton {
-                        id: videoFileButton
-
+                        checked: root.videoFileChosen
                         text: qsTr("Video file")
 
-                        onCheckedChanged: {
-                            if (!checked)
-                                return;
-                            if (root.videoFilePath === "")
-                                root.cameraManager.stopCameraStream();
-                            else if (root.cameraManager.streamRunning)
-                                root.cameraManager.startVideoStream(root.videoFilePath);
-                        }
+                        onToggled: root.chooseSource(true)
                     }
                 }
             }
@@ -142,11 +139,11 @@ EmulationPage {
                 currentFramerate: root.currentFramerate
                 currentResolution: root.currentResolution
                 spacing: root.spacing
-                visible: hostCameraButton.checked
+                visible: !root.videoFileChosen
             }
 
             RowLayout {
-                visible: videoFileButton.checked
+                visible: root.videoFileChosen
 
                 Label {
                     text: qsTr("Video file")
@@ -168,7 +165,7 @@ EmulationPage {
             RowLayout {
                 Button {
                     enabled: !root.cameraManager.streamRunning
-                             && (!videoFileButton.checked || root.videoFilePath !== "")
+                             && (!root.videoFileChosen || root.videoFilePath !== "")
                     text: qsTr("Start stream")
                     onClicked: root.startStream()
                 }
@@ -188,6 +185,18 @@ EmulationPage {
                     onClicked: root.cameraManager.updateCamerasList()
                 }
             }
+        }
+    }
+
+    FileDialog {
+        id: fileDialog
+
+        nameFilters: [qsTr("Video files (*.webm *.mkv)")]
+        title: qsTr("Open Video File")
+
+        onAccepted: {
+            root.videoFileUrl = currentFile;
+            root.cameraManager.startVideoStream(root.videoFilePath);
         }
     }
 }

@@ -38,6 +38,7 @@ void CameraTest::testEndOfStream()
     };
     openWindow(journal);
     startStream("startVideoStream", QString(MEDIA_FOLDER "/vp8.webm"));
+    QMetaObject::invokeMethod(manager(), "updateCamerasList");
     view()->close();
     QVERIFY(!manager()->property("streamRunning").toBool());
     journal.waitForEvent("video-ended", start);

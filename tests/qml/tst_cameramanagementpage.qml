@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls
+import QtQuick.Dialogs
 import QtTest
 
 import "qrc:/emulationmanagement/qml"
@@ -88,10 +89,12 @@ Item {
             compare(state(), "VS V");
             click("Start stream");
             host.setCameras([rear]);
-            tryCompare(comboBox("Camera"), "visible", true);
-            compare(state(), "HVS H"); // taken over
+            tryVerify(() => state() === "HVS V"); // what plays goes on
             host.setCameras([]);
             tryVerify(() => state() === "VS V");
+            click("Stop");
+            host.setCameras([rear]);
+            tryVerify(() => state() === "HVS H"); // taken over
         }
 
         function test_settings() {
@@ -149,6 +152,17 @@ Item {
             compare(entry.contentItem.text, entry.text);
             compare(entry.contentItem.textFormat, Text.PlainText);
             comboBox("Camera").popup.close();
+        }
+
+        // What it opens would start to stream.
+        function test_fileDialogGoesWithThePage() {
+            open([]);
+            click("…");
+            const dialog = Array.from(page.data).find(object => object instanceof FileDialog);
+            tryCompare(dialog, "visible", true);
+            view.visible = false;
+            compare(dialog.visible, false);
+            view.visible = true;
         }
 
         function test_localPath() {

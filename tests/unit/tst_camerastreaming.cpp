@@ -72,12 +72,37 @@ private Q_SLOTS:
         QVERIFY(arrives({160, 120}));
         QCOMPARE(changed.size(), 3);
 
-        manager.startVideoStream({}); // ends the stream and says nothing
-        QVERIFY(ends());
-        QVERIFY(manager.streamRunning());
-        QCOMPARE(changed.size(), 3);
-        manager.stopCameraStream();
+        manager.startVideoStream({}); // only ends the stream
         QVERIFY(!manager.streamRunning());
+        QCOMPARE(changed.size(), 4);
+        QVERIFY(ends());
+    }
+
+    // Cameras that come, go or are looked for switch none on while a video file plays.
+    void videoGoesOn()
+    {
+        m_cameras.set({});
+        CameraEmulationManager manager;
+        manager.setupCameraStreamPipeline();
+        manager.startVideoStream(media(u"vp8.webm"_s));
+        const auto goesOn = [&] { return manager.streamRunning() && arrives(videoSize); };
+        m_cameras.set({front});
+        QTRY_COMPARE(manager.cameras().size(), 1);
+        QVERIFY(goesOn());
+        m_cameras.set({front, rear});
+        QTRY_COMPARE(manager.cameras().size(), 2);
+        manager.updateCamerasList();
+        QVERIFY(goesOn());
+        m_cameras.set({rear});
+        QTRY_COMPARE(manager.cameraName(), u"Rear"_s); // the selected one was unplugged
+        QVERIFY(goesOn());
+        manager.setupCameraStreamPipeline();
+        QVERIFY(goesOn());
+        manager.stopCameraStream();
+        QVERIFY(goesOn());
+        manager.stopStreams();
+        QVERIFY(!manager.streamRunning());
+        QVERIFY(ends());
     }
 
     void settings()
@@ -101,7 +126,7 @@ private Q_SLOTS:
 
         // the window is shown again
         manager.setupCameraStreamPipeline();
-        QVERIFY(arrives({160, 120}));
+        QCOMPARE(manager.cameraName(), u"Rear"_s);
         manager.updateCamerasList();
         QVERIFY(!manager.streamRunning());
         QVERIFY(ends());
@@ -219,7 +244,7 @@ private Q_SLOTS:
         manager.setupCameraStreamPipeline();
         manager.startCameraStream();
         QVERIFY(manager.streamRunning());
-        manager.stopCameraStream();
+        manager.stopStreams();
         m_cameras.set({rear});
         QTRY_COMPARE(manager.cameras().size(), 1);
         QFETCH(const QString, selected);
