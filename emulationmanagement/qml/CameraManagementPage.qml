@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Dialogs
@@ -21,7 +23,7 @@ EmulationPage {
     property string currentFramerate: ""
 
     readonly property int spacing: 15
-    readonly property int minimumContentWidth: 620
+    readonly property int minimumContentWidth: 620 - 2 * spacing
 
     function localPath(url: url): string {
         return decodeURIComponent(url.toString().replace(/^(file:\/{2})/, ""));
@@ -62,6 +64,8 @@ EmulationPage {
         errorDialog.open();
     }
 
+    margin: spacing
+
     onHasCameraChanged: {
         if (!cameraManager.videoStreamRunning)
             videoFileChosen = !hasCamera;
@@ -93,19 +97,11 @@ EmulationPage {
         }
     }
 
-    PageScrollView {
+    content: PageScrollView {
         id: scrollView
 
-        anchors.fill: parent
-        contentWidth: Math.max(root.minimumContentWidth, availableWidth)
-        contentHeight: content.implicitHeight + 2 * root.spacing
-
         ColumnLayout {
-            id: content
-
-            x: root.spacing
-            y: root.spacing
-            width: scrollView.contentWidth - 2 * root.spacing
+            width: Math.max(root.minimumContentWidth, scrollView.availableWidth)
             spacing: root.spacing
 
             GroupBox {

@@ -8,6 +8,7 @@ Item {
     // What fills the page, made when it is shown first: the IDE loads the pages when it starts, in
     // a window that may never be opened.
     property Component content: null
+    property int margin: 12
     readonly property bool shown: visible && Window.visibility !== Window.Hidden
 
     // Finishes the page's own work before another page is shown, then calls continuation.
@@ -27,7 +28,7 @@ Item {
 
         active: false
         anchors.fill: parent
-        anchors.margins: 12
+        anchors.margins: root.margin
         sourceComponent: root.content
     }
 }

@@ -46,6 +46,7 @@ Item {
             tryVerify(() => manager.cameras.length === cameras.length);
             view = createTemporaryObject(component, root);
             page = view.pagesIds[4];
+            verify(!comboBox("Camera")); // made when it is first shown
             click("Camera Management");
         }
 
