@@ -13,6 +13,7 @@ RowLayout {
     property string currentResolution: ""
     property string currentFramerate: ""
 
+
     uniformCellSizes: true
 
     component FieldLabel: Label {
@@ -23,6 +24,22 @@ RowLayout {
         Layout.fillWidth: true
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
+    }
+
+    // Shows what is selected, also when the list or the selection changes.
+    component SelectionBox: ComboBox {
+        property int selectedIndex: -1
+
+        signal chosen(index: int)
+
+        Layout.fillWidth: true
+
+        onActivated: index => {
+            chosen(index);
+            currentIndex = selectedIndex;
+        }
+        onModelChanged: currentIndex = selectedIndex // a new model begins at its first entry
+        onSelectedIndexChanged: currentIndex = selectedIndex
     }
 
     GroupBox {
@@ -75,14 +92,14 @@ RowLayout {
                 text: qsTr("Camera")
             }
 
-            ComboBox {
+            SelectionBox {
                 id: cameraBox
 
                 Accessible.name: qsTr("Camera")
-                Layout.fillWidth: true
                 implicitWidth: Application.font.pixelSize
                     * Math.max(...root.cameraManager.cameras.map(name => name.length), 0)
                 model: root.cameraManager.cameras
+                selectedIndex: root.cameraManager.cameras.indexOf(root.cameraManager.cameraName)
 
                 // a device's name is neither markup nor has it a shortcut
                 delegate: MenuItem {
@@ -106,32 +123,32 @@ RowLayout {
                     }
                 }
 
-                onActivated: index => root.cameraManager.cameraName = root.cameraManager.cameras[index]
+                onChosen: index => root.cameraManager.cameraName = root.cameraManager.cameras[index]
             }
 
             Label {
                 text: qsTr("Resolution")
             }
 
-            ComboBox {
+            SelectionBox {
                 Accessible.name: qsTr("Resolution")
-                Layout.fillWidth: true
                 model: root.cameraManager.resolutions
+                selectedIndex: root.cameraManager.resolutionIndex
                 textRole: "string"
 
-                onActivated: index => root.cameraManager.resolutionIndex = index
+                onChosen: index => root.cameraManager.resolutionIndex = index
             }
 
             Label {
                 text: qsTr("Framerate")
             }
 
-            ComboBox {
+            SelectionBox {
                 Accessible.name: qsTr("Framerate")
-                Layout.fillWidth: true
                 model: root.cameraManager.framerates
+                selectedIndex: root.cameraManager.framerates.indexOf(root.cameraManager.framerate)
 
-                onActivated: index => root.cameraManager.framerate = root.cameraManager.framerates[index]
+                onChosen: index => root.cameraManager.framerate = root.cameraManager.framerates[index]
             }
 
             Button {

@@ -70,6 +70,11 @@ Item {
                                            && item.Accessible.name === title);
         }
 
+        function selection(): string {
+            return ["Camera", "Resolution", "Framerate"]
+                .map(title => comboBox(title).displayText).join(" ");
+        }
+
         function choose(title: string, index: int) {
             comboBox(title).currentIndex = index;
             comboBox(title).activated(index);
@@ -96,6 +101,14 @@ Item {
             click("Stop");
             host.setCameras([rear]);
             tryVerify(() => state() === "HVS H"); // taken over
+            compare(selection(), "  ");
+            choose("Camera", 0);
+            compare(selection(), "Rear 80x60 5/1");
+            host.setCameras([front, rear]);
+            tryVerify(() => manager.cameras.length === 2);
+            compare(selection(), "Rear 80x60 5/1");
+            host.setCameras([front]);
+            tryVerify(() => selection() === "Front 640x480 30/1");
         }
 
         function test_settings() {
@@ -109,7 +122,7 @@ Item {
             choose("Framerate", 1);
             compare(manager.framerate, "15/1");
             choose("Camera", 1);
-            compare(comboBox("Resolution").displayText, "80x60");
+            compare(selection(), "Rear 80x60 5/1");
             compare(current(), "Front 640x480 30/1");
             click("Start stream");
             choose("Camera", 0);
