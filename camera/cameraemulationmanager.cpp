@@ -17,6 +17,7 @@ CameraEmulationManager::CameraEmulationManager(QObject *parent)
             &CameraEmulationManager::restartVideoStream);
     m_restartTimer.setSingleShot(true);
     connect(&m_restartTimer, &QTimer::timeout, this, &CameraEmulationManager::restartVideoStream);
+    connect(&m_meter, &StreamMeter::measured, this, &CameraEmulationManager::streamMeasured);
 }
 
 CameraEmulationManager::~CameraEmulationManager()
@@ -33,6 +34,16 @@ bool CameraEmulationManager::streamRunning() const
 bool CameraEmulationManager::videoStreamRunning() const
 {
     return m_playing == Source::VideoFile;
+}
+
+int CameraEmulationManager::streamFramesPerSecond() const
+{
+    return m_meter.framesPerSecond();
+}
+
+QSize CameraEmulationManager::streamSize() const
+{
+    return m_meter.size();
 }
 
 QStringList CameraEmulationManager::cameras() const

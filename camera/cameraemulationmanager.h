@@ -2,10 +2,12 @@
 
 #include "cameracapabilities.h"
 #include "gstreferences.h"
+#include "streammeter.h"
 
 #include <QElapsedTimer>
 #include <QMap>
 #include <QObject>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 #include <QTimer>
@@ -17,7 +19,8 @@
  *
  * Follows the cameras that are plugged in and out, and keeps what the user selects of them. A
  * selection reaches the stream only with setCameraStreamSettings(). Setters notify also when
- * nothing changed. Failures within GStreamer are not reported: the stream then sends nothing.
+ * nothing changed. Failures within GStreamer are not reported: the stream then sends nothing, which
+ * streamFramesPerSecond() tells.
  *
  * The main loop must dispatch GLib's default context, as Qt's does on Linux, for changes of the
  * cameras to be noticed.
@@ -27,6 +30,8 @@ class CameraEmulationManager : public QObject
     Q_OBJECT
     Q_PROPERTY(bool streamRunning READ streamRunning NOTIFY streamRunningChanged)
     Q_PROPERTY(bool videoStreamRunning READ videoStreamRunning NOTIFY streamRunningChanged)
+    Q_PROPERTY(int streamFramesPerSecond READ streamFramesPerSecond NOTIFY streamMeasured)
+    Q_PROPERTY(QSize streamSize READ streamSize NOTIFY streamMeasured)
     Q_PROPERTY(QStringList framerates READ framerates NOTIFY frameratesChanged)
     Q_PROPERTY(QVariantList resolutions READ resolutions NOTIFY resolutionsChanged)
     Q_PROPERTY(QStringList cameras READ cameras NOTIFY camerasChanged)
@@ -51,6 +56,10 @@ public:
     [[nodiscard]] bool streamRunning() const;
     /// True while the stream that runs is one of a video file.
     [[nodiscard]] bool videoStreamRunning() const;
+
+    /// What leaves, see StreamMeter.
+    [[nodiscard]] int streamFramesPerSecond() const;
+    [[nodiscard]] QSize streamSize() const;
 
     /// Names of the host's cameras in ascending order; those of one name share an entry.
     [[nodiscard]] QStringList cameras() const;
@@ -114,6 +123,7 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void streamRunningChanged();
+    void streamMeasured();
     void frameratesChanged();
     void resolutionsChanged();
     void camerasChanged();
@@ -151,6 +161,7 @@ private:
     void constructVideoStreamPipeline();
     void constructCameraStreamPipeline();
     void applySelection(bool restart);
+    void setPlaying(Source source);
     void stopPipelines();
     void playVideo();
 
@@ -164,6 +175,7 @@ private:
     int m_height = -1;
     int m_resolutionIndex = 0;
     QString m_cameraName;
+    StreamMeter m_meter; // outlives the pipelines
     // the only home of what the pipelines do: streamRunning() and videoStreamRunning() tell it
     Source m_playing = Source::None;
     ObjectReference<GstElement> m_videoPipeline;

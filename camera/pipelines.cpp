@@ -60,7 +60,7 @@ static void play(const ObjectReference<GstElement> &pipeline)
 
 /// Adds what both pipelines end with. Returns the encoder, or null where GStreamer lacks its good
 /// plugins: no stream will play then.
-static GstElement *addOutput(GstElement *pipeline, const OutputNames &names)
+static GstElement *addOutput(GstElement *pipeline, const OutputNames &names, StreamMeter *meter)
 {
     const auto jpegEncoder = createElement("jpegenc", names.jpegEncoder);
     const auto rtpPayloader = createElement("rtpjpegpay", names.rtpPayloader);
@@ -74,6 +74,7 @@ static GstElement *addOutput(GstElement *pipeline, const OutputNames &names)
     gst_bin_add_many(GST_BIN(pipeline), jpegEncoder.get(), rtpPayloader.get(), udpSink.get(),
                      nullptr);
     gst_element_link_many(jpegEncoder.get(), rtpPayloader.get(), udpSink.get(), nullptr);
+    meter->countFramesOf(udpSink.get());
     return jpegEncoder.get();
 }
 
@@ -100,7 +101,7 @@ void CameraEmulationManager::constructVideoStreamPipeline()
     m_videoPipeline = createPipeline("video-stream-pipeline");
     m_fileSource = createElement("filesrc", "filesrc");
     const auto decodeBin = createElement("decodebin", "decodebin");
-    GstElement *jpegEncoder = addOutput(m_videoPipeline.get(), videoOutput);
+    GstElement *jpegEncoder = addOutput(m_videoPipeline.get(), videoOutput, &m_meter);
     if (!m_fileSource || !decodeBin || !jpegEncoder)
         return; // GStreamer lacks its base or good plugins: no file will play
 
@@ -121,7 +122,7 @@ void CameraEmulationManager::constructCameraStreamPipeline()
     const CameraSource camera = m_cameras.value(m_cameraName).source;
     const auto source = createElement(camera.factory.toUtf8().constData(), "sourcePluginCam");
     const auto capsFilter = createElement("capsfilter", "capsfilterCam");
-    GstElement *jpegEncoder = addOutput(m_cameraPipeline.get(), cameraOutput);
+    GstElement *jpegEncoder = addOutput(m_cameraPipeline.get(), cameraOutput, &m_meter);
     if (!source || !capsFilter || !jpegEncoder)
         return; // no camera is selected, or GStreamer lacks plugins: no camera will stream
 
@@ -147,6 +148,16 @@ void CameraEmulationManager::stopPipelines()
     stop(m_videoPipeline);
     m_playing = Source::None;
     m_restartTimer.stop();
+    m_meter.stop();
+}
+
+void CameraEmulationManager::setPlaying(Source source)
+{
+    m_playing = source;
+    const bool isCamera = source == Source::Camera;
+    GstElement *pipeline = isCamera ? m_cameraPipeline.get() : m_videoPipeline.get();
+    const char *jpegEncoder = isCamera ? cameraOutput.jpegEncoder : videoOutput.jpegEncoder;
+    m_meter.start(ObjectReference<GstElement>(gst_bin_get_by_name(GST_BIN(pipeline), jpegEncoder)));
 }
 
 void CameraEmulationManager::applySelection(bool restart)
@@ -174,7 +185,7 @@ void CameraEmulationManager::startCameraStream()
         applySelection(false);
     }
     play(m_cameraPipeline);
-    m_playing = Source::Camera;
+    setPlaying(Source::Camera);
     Q_EMIT streamRunningChanged();
 }
 
@@ -192,7 +203,7 @@ void CameraEmulationManager::startVideoStream(const QString &filePath)
         m_videoFile = filePath;
         g_object_set(m_fileSource.get(), "location", filePath.toLocal8Bit().constData(), nullptr);
         playVideo();
-        m_playing = Source::VideoFile;
+        setPlaying(Source::VideoFile);
     }
     // also without a new stream: the one before has ended
     Q_EMIT streamRunningChanged();

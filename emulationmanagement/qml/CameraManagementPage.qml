@@ -64,6 +64,15 @@ EmulationPage {
         errorDialog.open();
     }
 
+    // What leaves for the emulator, as the sender counts it.
+    function streamStatus(framesPerSecond: int, size: size): string {
+        if (framesPerSecond < 0)
+            return "";
+        return framesPerSecond === 0
+            ? qsTr("no pictures")
+            : qsTr("%1 frames/s, %2x%3").arg(framesPerSecond).arg(size.width).arg(size.height);
+    }
+
     margin: spacing
 
     onHasCameraChanged: {
@@ -172,8 +181,10 @@ EmulationPage {
                     onClicked: root.stopStream()
                 }
 
-                Item {
+                Label {
                     Layout.fillWidth: true
+                    text: root.streamStatus(root.cameraManager.streamFramesPerSecond,
+                                            root.cameraManager.streamSize)
                 }
 
                 Button {

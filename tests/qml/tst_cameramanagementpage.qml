@@ -125,6 +125,7 @@ Item {
             compare(selection(), "Rear 80x60 5/1");
             compare(current(), "Front 640x480 30/1");
             click("Start stream");
+            tryVerify(() => Find.find(page, item => /^\d+ frames\/s, 640x480$/.test(item.text)));
             choose("Camera", 0);
             compare(running.count, 1);
             click("Set settings");

@@ -223,9 +223,15 @@ private Q_SLOTS:
         QSignalSpy stopped(&manager, &CameraEmulationManager::videoStreamStopped);
         manager.startVideoStream(media(u"vp9-444.mkv"_s));
         QVERIFY(!QTest::qWaitFor([&] { return stopped.size() > 5; }, 300)); // no busy loop
+        QCOMPARE(manager.streamFramesPerSecond(), -1); // not known yet
+        QTRY_COMPARE(manager.streamFramesPerSecond(), 0);
         manager.startVideoStream(media(u"vp9-444.mkv"_s));
         manager.startCameraStream();
         QVERIFY(arrives({160, 120}));
+        QTRY_VERIFY(std::abs(manager.streamFramesPerSecond() - 30) <= 3);
+        QCOMPARE(manager.streamSize(), QSize(160, 120));
+        manager.stopStreams();
+        QCOMPARE(manager.streamFramesPerSecond(), -1);
     }
 
     void firstCamera_data()
