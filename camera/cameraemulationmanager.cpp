@@ -2,6 +2,8 @@
 
 #include <gst/gst.h>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 const QString CameraEmulationManager::portForwardingRule = u"emulationmanagementudp"_s;
@@ -44,6 +46,11 @@ int CameraEmulationManager::streamFramesPerSecond() const
 QSize CameraEmulationManager::streamSize() const
 {
     return m_meter.size();
+}
+
+bool CameraEmulationManager::isStreamable(QSize size)
+{
+    return std::max(size.width(), size.height()) <= maximumSideLength;
 }
 
 QStringList CameraEmulationManager::cameras() const

@@ -32,6 +32,7 @@ class CameraEmulationManager : public QObject
     Q_PROPERTY(bool videoStreamRunning READ videoStreamRunning NOTIFY streamRunningChanged)
     Q_PROPERTY(int streamFramesPerSecond READ streamFramesPerSecond NOTIFY streamMeasured)
     Q_PROPERTY(QSize streamSize READ streamSize NOTIFY streamMeasured)
+    Q_PROPERTY(int maximumSideLength MEMBER maximumSideLength CONSTANT)
     Q_PROPERTY(QStringList framerates READ framerates NOTIFY frameratesChanged)
     Q_PROPERTY(QVariantList resolutions READ resolutions NOTIFY resolutionsChanged)
     Q_PROPERTY(QStringList cameras READ cameras NOTIFY camerasChanged)
@@ -48,6 +49,8 @@ public:
     static constexpr char localhost[] = "127.0.0.1";
     /// Name of the SDK's port forwarding rule for it.
     static const QString portForwardingRule;
+    /// The largest width and height, in pixels, that RTP/JPEG has room for (RFC 2435, 3.1.5).
+    static constexpr int maximumSideLength = 2040;
 
     explicit CameraEmulationManager(QObject *parent = nullptr);
     ~CameraEmulationManager() override;
@@ -98,8 +101,8 @@ public:
     /// file goes on, so that no camera is switched on unasked.
     Q_INVOKABLE void updateCamerasList();
 
-    /// Ends any stream, then starts one of the camera that was taken over last, or of the selected
-    /// one if that is not there any more.
+    /// Ends any stream, then starts one of the camera that was taken over last; if there is none
+    /// any more, or its size cannot be streamed, of the selected one.
     Q_INVOKABLE void startCameraStream();
     /// Ends a stream of a camera.
     Q_INVOKABLE void stopCameraStream();
@@ -113,7 +116,7 @@ public:
     /// Ends any stream. Nothing is sent from then on.
     Q_INVOKABLE void stopStreams();
     /// Takes over the selected camera, size and rate. A running stream, also one of a video file,
-    /// becomes one of the camera.
+    /// becomes one of the camera. A size that cannot be streamed changes nothing.
     Q_INVOKABLE void setCameraStreamSettings();
 
 public Q_SLOTS:
@@ -137,6 +140,9 @@ Q_SIGNALS:
     void cameraStreamSettingsApplied();
     /// The verdict on a file that is to be played. The name is empty if the file tells none.
     void videoFileCodecChecked(bool success, const QString &codecName);
+    /// A stream was not started, or its settings not taken over: its pictures are too large, see
+    /// maximumSideLength.
+    void streamSizeRefused(QSize size);
 
 private:
     enum class Source { None, Camera, VideoFile };
@@ -147,6 +153,7 @@ private:
         CameraSource source;
     };
 
+    static bool isStreamable(QSize size);
     void selectFirstCamera();
 
     // cameradiscovery.cpp
@@ -166,7 +173,7 @@ private:
     void playVideo();
 
     // codeccheck.cpp
-    bool checkVideoFileForCodec(const QString &path);
+    bool checkVideoFile(const QString &path);
 
     ObjectReference<GstDeviceMonitor> m_deviceMonitor;
     QMap<QString, Camera> m_cameras;
@@ -185,4 +192,5 @@ private:
     QTimer m_restartTimer;
     ObjectReference<GstElement> m_cameraPipeline;
     QString m_appliedCameraName; // what the camera's pipeline was made for
+    QSize m_appliedSize;
 };

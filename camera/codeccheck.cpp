@@ -11,6 +11,12 @@ using namespace Qt::StringLiterals;
 
 static constexpr GstClockTime timeout = 2 * GST_SECOND;
 
+struct VideoStream
+{
+    QString codec; ///< "VP8 video" for example; empty if the file tells none
+    QSize size;
+};
+
 static QString codecOf(GstDiscovererStreamInfo *stream)
 {
     gchar *codec = nullptr;
@@ -19,8 +25,8 @@ static QString codecOf(GstDiscovererStreamInfo *stream)
     return takeText(codec);
 }
 
-/// The name of the first video codec that a file tells, "VP8 video" for example, or nothing.
-static QString videoCodecOf(const QString &path)
+/// The first video stream of a file that tells its codec.
+static VideoStream videoStreamOf(const QString &path)
 {
     // opening a pipe would wait for ever for a writer
     if (!QFileInfo(path).isFile())
@@ -35,18 +41,24 @@ static QString videoCodecOf(const QString &path)
     if (!info)
         return {};
 
-    QString codec;
+    VideoStream result;
     GList *streams = gst_discoverer_info_get_video_streams(info.get());
-    for (const GList *entry = streams; entry && codec.isEmpty(); entry = entry->next)
-        codec = codecOf(static_cast<GstDiscovererStreamInfo *>(entry->data));
+    for (const GList *entry = streams; entry && result.codec.isEmpty(); entry = entry->next) {
+        const auto *stream = static_cast<GstDiscovererVideoInfo *>(entry->data);
+        result = {.codec = codecOf(static_cast<GstDiscovererStreamInfo *>(entry->data)),
+                  .size = QSize(int(gst_discoverer_video_info_get_width(stream)),
+                                int(gst_discoverer_video_info_get_height(stream)))};
+    }
     gst_discoverer_stream_info_list_free(streams);
-    return codec;
+    return result;
 }
 
-bool CameraEmulationManager::checkVideoFileForCodec(const QString &path)
+bool CameraEmulationManager::checkVideoFile(const QString &path)
 {
-    const QString codec = videoCodecOf(path);
-    const bool success = codec.contains("VP8"_L1) || codec.contains("VP9"_L1);
-    Q_EMIT videoFileCodecChecked(success, codec);
-    return success;
+    const VideoStream stream = videoStreamOf(path);
+    const bool success = stream.codec.contains("VP8"_L1) || stream.codec.contains("VP9"_L1);
+    Q_EMIT videoFileCodecChecked(success, stream.codec);
+    if (success && !isStreamable(stream.size))
+        Q_EMIT streamSizeRefused(stream.size);
+    return success && isStreamable(stream.size);
 }

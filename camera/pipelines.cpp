@@ -118,6 +118,7 @@ void CameraEmulationManager::constructVideoStreamPipeline()
 void CameraEmulationManager::constructCameraStreamPipeline()
 {
     m_appliedCameraName = m_cameraName;
+    m_appliedSize = {m_width, m_height};
     m_cameraPipeline = createPipeline("camera-stream-pipeline");
     const CameraSource camera = m_cameras.value(m_cameraName).source;
     const auto source = createElement(camera.factory.toUtf8().constData(), "sourcePluginCam");
@@ -172,21 +173,30 @@ void CameraEmulationManager::applySelection(bool restart)
 
 void CameraEmulationManager::setCameraStreamSettings()
 {
-    applySelection(streamRunning());
+    if (isStreamable({m_width, m_height}))
+        applySelection(streamRunning());
+    else
+        Q_EMIT streamSizeRefused({m_width, m_height});
 }
 
 void CameraEmulationManager::startCameraStream()
 {
     stopPipelines();
-    // What was applied last may be unplugged by now, or nothing at all.
-    if (!m_cameras.isEmpty() && !m_cameras.contains(m_appliedCameraName)) {
+    // What was applied last may be unplugged by now, too large, or nothing at all.
+    if (!m_cameras.isEmpty()
+        && (!m_cameras.contains(m_appliedCameraName) || !isStreamable(m_appliedSize))) {
         if (!m_cameras.contains(m_cameraName))
             selectFirstCamera();
         applySelection(false);
     }
-    play(m_cameraPipeline);
-    setPlaying(Source::Camera);
+    const bool isAccepted = isStreamable(m_appliedSize);
+    if (isAccepted) {
+        play(m_cameraPipeline);
+        setPlaying(Source::Camera);
+    }
     Q_EMIT streamRunningChanged();
+    if (!isAccepted)
+        Q_EMIT streamSizeRefused(m_appliedSize);
 }
 
 void CameraEmulationManager::stopCameraStream()
@@ -199,7 +209,7 @@ void CameraEmulationManager::stopCameraStream()
 void CameraEmulationManager::startVideoStream(const QString &filePath)
 {
     stopPipelines();
-    if (!filePath.isEmpty() && checkVideoFileForCodec(filePath)) {
+    if (!filePath.isEmpty() && checkVideoFile(filePath)) {
         m_videoFile = filePath;
         g_object_set(m_fileSource.get(), "location", filePath.toLocal8Bit().constData(), nullptr);
         playVideo();

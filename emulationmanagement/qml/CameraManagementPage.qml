@@ -104,6 +104,11 @@ EmulationPage {
                 ? qsTr("Could not determine the video codec of the video file. Supported codecs: VP8 and VP9.")
                 : qsTr("Camera emulation does not support %1. Supported codecs: VP8 and VP9.").arg(codecName));
         }
+
+        function onStreamSizeRefused(size: size) {
+            root.showError(qsTr("Camera emulation does not support the size %1x%2. The largest one is %3x%3.")
+                .arg(size.width).arg(size.height).arg(root.cameraManager.maximumSideLength));
+        }
     }
 
     content: PageScrollView {

@@ -13,6 +13,8 @@ RowLayout {
     property string currentResolution: ""
     property string currentFramerate: ""
 
+    readonly property bool isTooLarge: Math.max(cameraManager.width, cameraManager.height)
+                                       > cameraManager.maximumSideLength
 
     uniformCellSizes: true
 
@@ -149,6 +151,15 @@ RowLayout {
                 selectedIndex: root.cameraManager.framerates.indexOf(root.cameraManager.framerate)
 
                 onChosen: index => root.cameraManager.framerate = root.cameraManager.framerates[index]
+            }
+
+            Label {
+                Layout.columnSpan: 2
+                Layout.fillWidth: true
+                text: qsTr("Only sizes up to %1x%1 can be streamed.")
+                    .arg(root.cameraManager.maximumSideLength)
+                visible: root.isTooLarge
+                wrapMode: Text.Wrap
             }
 
             Button {

@@ -138,6 +138,8 @@ Item {
                 {tag: "vp9.mkv", text: ""},
                 {tag: "motion-jpeg.mkv", text: "Camera emulation does not support Motion JPEG. "
                                                + "Supported codecs: VP8 and VP9."},
+                {tag: "too-wide.webm", text: "Camera emulation does not support the size 2048x16. "
+                                              + "The largest one is 2040x2040."},
                 {tag: "text.webm", text: "Could not determine the video codec of the video file. "
                                          + "Supported codecs: VP8 and VP9."},
             ];
@@ -167,6 +169,14 @@ Item {
             compare(entry.contentItem.text, entry.text);
             compare(entry.contentItem.textFormat, Text.PlainText);
             comboBox("Camera").popup.close();
+        }
+
+        function test_tooLarge() {
+            open(["A | device=a | video/x-raw,width=64,height=2041", front]);
+            const hint = Find.find(page, item => item.text === "Only sizes up to 2040x2040 can be streamed.");
+            compare(hint.visible, true);
+            choose("Camera", 1);
+            compare(hint.visible, false);
         }
 
         // What it opens would start to stream.

@@ -166,6 +166,7 @@ private Q_SLOTS:
         QTest::newRow("vp8.webm") << true << u"VP8 video"_s;
         QTest::newRow("vp9.mkv") << true << u"VP9 video"_s;
         QTest::newRow("with-audio.webm") << true << u"VP8 video"_s;
+        QTest::newRow("too-wide.webm") << true << u"VP8 video"_s;
         QTest::newRow("truncated.webm") << true << u"VP8 video"_s;
         QTest::newRow("motion-jpeg.mkv") << false << u"Motion JPEG"_s;
         for (const char *name :
@@ -179,14 +180,17 @@ private Q_SLOTS:
         ::mkfifo(QFile::encodeName(media(u"pipe.webm"_s)).constData(), S_IRUSR | S_IWUSR);
         CameraEmulationManager manager;
         QSignalSpy checked(&manager, &CameraEmulationManager::videoFileCodecChecked);
+        QSignalSpy refused(&manager, &CameraEmulationManager::streamSizeRefused);
         QFETCH(const bool, accepted);
         connect(&manager, &CameraEmulationManager::streamRunningChanged, this,
                 [&] { QCOMPARE(checked.size(), 1); });
-        manager.startVideoStream(media(QString::fromLatin1(QTest::currentDataTag())));
+        const QString name = QString::fromLatin1(QTest::currentDataTag());
+        manager.startVideoStream(media(name));
         QCOMPARE(checked.size(), 1);
         QCOMPARE(checked.constFirst().at(0).toBool(), accepted);
         QTEST(checked.constFirst().at(1).toString(), "codec");
-        QCOMPARE(manager.streamRunning(), accepted);
+        QCOMPARE(refused.size(), name == u"too-wide.webm" ? 1 : 0);
+        QCOMPARE(manager.streamRunning(), accepted && refused.isEmpty());
     }
 
     void endOfFile()
@@ -257,6 +261,25 @@ private Q_SLOTS:
         manager.setCameraName(selected);
         manager.startCameraStream();
         QVERIFY(arrives({96, 80}));
+    }
+
+    void tooLarge()
+    {
+        m_cameras.set(
+            {"Front | | video/x-raw,width=64,height=2041;video/x-raw,width=48,height=48"});
+        CameraEmulationManager manager;
+        QSignalSpy refused(&manager, &CameraEmulationManager::streamSizeRefused);
+        manager.setupCameraStreamPipeline();
+        manager.startCameraStream();
+        QVERIFY(!manager.streamRunning());
+        QCOMPARE(refused.size(), 1);
+        manager.setResolutionIndex(1);
+        manager.startCameraStream(); // there is nothing else to start
+        QVERIFY(arrives({48, 48}));
+        manager.setResolutionIndex(0);
+        manager.setCameraStreamSettings();
+        QCOMPARE(refused.size(), 2);
+        QVERIFY(arrives({48, 48}));
     }
 };
 
