@@ -2,6 +2,8 @@
 
 #include <gst/gst.h>
 
+#include <QUrl>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -51,6 +53,12 @@ QSize CameraEmulationManager::streamSize() const
 bool CameraEmulationManager::isStreamable(QSize size)
 {
     return std::max(size.width(), size.height()) <= maximumSideLength;
+}
+
+QString CameraEmulationManager::localPath(const QUrl &url)
+{
+    const QString path = url.toLocalFile();
+    return path.contains(QChar::ReplacementCharacter) ? QString() : path;
 }
 
 QStringList CameraEmulationManager::cameras() const

@@ -13,6 +13,8 @@
 #include <QTimer>
 #include <QVariantList>
 
+class QUrl;
+
 /*!
  * Feeds the emulator's camera with pictures of a host camera or of a video file, as RTP/JPEG over
  * UDP (RFC 2435).
@@ -118,6 +120,10 @@ public:
     /// Takes over the selected camera, size and rate. A running stream, also one of a video file,
     /// becomes one of the camera. A size that cannot be streamed changes nothing.
     Q_INVOKABLE void setCameraStreamSettings();
+
+    /// The path of a local file's URL. Empty for other URLs, and where escapes are not UTF-8: such
+    /// a path cannot be told.
+    Q_INVOKABLE [[nodiscard]] static QString localPath(const QUrl &url);
 
 public Q_SLOTS:
     /// Plays the video file from its start, unless it was stopped. A file without pictures, which

@@ -26,7 +26,7 @@ EmulationPage {
     readonly property int minimumContentWidth: 620 - 2 * spacing
 
     function localPath(url: url): string {
-        return decodeURIComponent(url.toString().replace(/^(file:\/{2})/, ""));
+        return cameraManager.localPath(url);
     }
 
     function setupCurrentCameraStreamValues() {
@@ -41,6 +41,16 @@ EmulationPage {
             stopStream();
         else if (cameraManager.streamRunning)
             startStream();
+    }
+
+    function openVideoFile(url: url) {
+        videoFileUrl = url;
+        if (videoFilePath !== "") {
+            cameraManager.startVideoStream(videoFilePath);
+        } else {
+            stopStream();
+            showError(qsTr("The path of the video file cannot be read."));
+        }
     }
 
     function startStream() {
@@ -206,9 +216,6 @@ EmulationPage {
         nameFilters: [qsTr("Video files (*.webm *.mkv)")]
         title: qsTr("Open Video File")
 
-        onAccepted: {
-            root.videoFileUrl = currentFile;
-            root.cameraManager.startVideoStream(root.videoFilePath);
-        }
+        onAccepted: root.openVideoFile(currentFile)
     }
 }

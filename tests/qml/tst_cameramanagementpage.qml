@@ -140,6 +140,7 @@ Item {
                                                + "Supported codecs: VP8 and VP9."},
                 {tag: "too-wide.webm", text: "Camera emulation does not support the size 2048x16. "
                                               + "The largest one is 2040x2040."},
+                {tag: "%E4.webm", text: "The path of the video file cannot be read."},
                 {tag: "text.webm", text: "Could not determine the video codec of the video file. "
                                          + "Supported codecs: VP8 and VP9."},
             ];
@@ -151,11 +152,13 @@ Item {
             click("Start stream");
             click("Video file"); // none is chosen
             compare(state(), "HV V");
-            page.videoFileUrl = mediaUrl + "/" + row.tag;
+            page.videoFileUrl = mediaUrl + "/vp8.webm";
             click("Host camera");
             compare(running.count, 0);
             click("Start stream");
             click("Video file");
+            compare(manager.videoStreamRunning, true);
+            page.openVideoFile(mediaUrl + "/" + row.tag);
             compare(view.errorDialog.text, row.text);
             compare(view.errorDialog.visible, row.text !== "");
             compare(manager.streamRunning, row.text === "");
