@@ -152,8 +152,7 @@ void EmulationManagementPlugin::openView()
 
 void EmulationManagementPlugin::handleViewHidden()
 {
-    m_cameraEmulationManager.stopVideoStream();
-    m_cameraEmulationManager.stopCameraStream();
+    m_cameraEmulationManager.stopStreams();
     m_sensorsEmulationManager.saveCurrentSensorsValues();
 }
 

@@ -49,7 +49,7 @@ EmulationPage {
             cameraManager.startVideoStream(videoFilePath);
         } else {
             stopStream();
-            showError(qsTr("The path of the video file cannot be read."));
+            errorDialog.show(qsTr("The path of the video file cannot be read."));
         }
     }
 
@@ -67,11 +67,6 @@ EmulationPage {
     function exitPage(continuation: var) {
         continuation();
         stopStream();
-    }
-
-    function showError(text: string) {
-        errorDialog.text = text;
-        errorDialog.open();
     }
 
     // What leaves for the emulator, as the sender counts it.
@@ -110,13 +105,13 @@ EmulationPage {
         function onVideoFileCodecChecked(success: bool, codecName: string) {
             if (success)
                 return;
-            root.showError(codecName === ""
+            root.errorDialog.show(codecName === ""
                 ? qsTr("Could not determine the video codec of the video file. Supported codecs: VP8 and VP9.")
                 : qsTr("Camera emulation does not support %1. Supported codecs: VP8 and VP9.").arg(codecName));
         }
 
         function onStreamSizeRefused(size: size) {
-            root.showError(qsTr("Camera emulation does not support the size %1x%2. The largest one is %3x%3.")
+            root.errorDialog.show(qsTr("Camera emulation does not support the size %1x%2. The largest one is %3x%3.")
                 .arg(size.width).arg(size.height).arg(root.cameraManager.maximumSideLength));
         }
     }
