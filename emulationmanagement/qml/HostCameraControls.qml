@@ -29,17 +29,12 @@ RowLayout {
     }
 
     // Shows what is selected, also when the list or the selection changes.
-    component SelectionBox: ComboBox {
+    component SelectionBox: ChoiceBox {
         property int selectedIndex: -1
-
-        signal chosen(index: int)
 
         Layout.fillWidth: true
 
-        onActivated: index => {
-            chosen(index);
-            currentIndex = selectedIndex;
-        }
+        onActivated: currentIndex = selectedIndex // the choice may have been refused
         onModelChanged: currentIndex = selectedIndex // a new model begins at its first entry
         onSelectedIndexChanged: currentIndex = selectedIndex
     }
