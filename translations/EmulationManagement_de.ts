@@ -84,6 +84,22 @@
         <source>Update cameras list</source>
         <translation>Kameraliste aktualisieren</translation>
     </message>
+    <message>
+        <source>The path of the video file cannot be read.</source>
+        <translation>Der Pfad der Videodatei kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>no pictures</source>
+        <translation>keine Bilder</translation>
+    </message>
+    <message>
+        <source>%1 frames/s, %2x%3</source>
+        <translation>%1 Bilder/s, %2x%3</translation>
+    </message>
+    <message>
+        <source>Camera emulation does not support the size %1x%2. The largest one is %3x%3.</source>
+        <translation>Die Kameraemulation unterstützt die Größe %1x%2 nicht. Die größte ist %3x%3.</translation>
+    </message>
 </context>
 <context>
     <name>CompassControls</name>
@@ -175,6 +191,25 @@
         <source>Emulator connection is lost. Please, run %1 if it is needed and load the GPS-track again.</source>
         <translation>Die Verbindung zum Emulator ist verloren gegangen. Bitte starten Sie %1, falls nötig, und laden Sie den GPS-Track erneut.</translation>
     </message>
+    <message>
+        <source>Starting %1</source>
+        <translation>%1 wird gestartet</translation>
+    </message>
+    <message>
+        <source>%1 has not become ready within %2 minutes. Please, try to use &apos;Emulation management…&apos; again.</source>
+        <translation>%1 ist nach %2 Minuten noch nicht bereit. Bitte wählen Sie „Emulationsverwaltung…“ erneut.</translation>
+    </message>
+    <message>
+        <source>Checking the packages of %1</source>
+        <translation>Die Pakete von %1 werden geprüft</translation>
+    </message>
+</context>
+<context>
+    <name>EmulationManagement::Internal::OpeningProgress</name>
+    <message>
+        <source>Opening Emulation Management</source>
+        <translation>Emulationsverwaltung wird geöffnet</translation>
+    </message>
 </context>
 <context>
     <name>EmulationManagement::Internal::WarningDialog</name>
@@ -232,6 +267,10 @@
     <message>
         <source>Error</source>
         <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
@@ -306,6 +345,10 @@
         <source>Set settings</source>
         <translation>Einstellungen anwenden</translation>
     </message>
+    <message>
+        <source>Only sizes up to %1x%1 can be streamed.</source>
+        <translation>Nur Größen bis %1x%1 können übertragen werden.</translation>
+    </message>
 </context>
 <context>
     <name>LightControls</name>
@@ -342,6 +385,40 @@
     <message>
         <source>μT</source>
         <translation>μT</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBoxButtons</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Anwenden</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>NumberField</name>
+    <message>
+        <source>A whole number from %1 to %2</source>
+        <translation>Eine ganze Zahl von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>A number from %1 to %2 with at most %3 decimals after a point</source>
+        <translation>Eine Zahl von %1 bis %2 mit höchstens %3 Stellen nach dem Punkt</translation>
     </message>
 </context>
 <context>

@@ -84,6 +84,22 @@
         <source>Update cameras list</source>
         <translation>Обновить список камер</translation>
     </message>
+    <message>
+        <source>The path of the video file cannot be read.</source>
+        <translation>Не удаётся прочитать путь к видеофайлу.</translation>
+    </message>
+    <message>
+        <source>no pictures</source>
+        <translation>нет изображений</translation>
+    </message>
+    <message>
+        <source>%1 frames/s, %2x%3</source>
+        <translation>%1 кадр/с, %2x%3</translation>
+    </message>
+    <message>
+        <source>Camera emulation does not support the size %1x%2. The largest one is %3x%3.</source>
+        <translation>Эмуляция камеры не поддерживает размер %1x%2. Наибольший размер: %3x%3.</translation>
+    </message>
 </context>
 <context>
     <name>CompassControls</name>
@@ -175,6 +191,25 @@
         <source>Emulator connection is lost. Please, run %1 if it is needed and load the GPS-track again.</source>
         <translation>Соединение с эмулятором потеряно. При необходимости запустите %1 и загрузите GPS-трек ещё раз.</translation>
     </message>
+    <message>
+        <source>Starting %1</source>
+        <translation>Запуск %1</translation>
+    </message>
+    <message>
+        <source>%1 has not become ready within %2 minutes. Please, try to use &apos;Emulation management…&apos; again.</source>
+        <translation>%1 не готов к работе спустя %2 мин. Попробуйте снова выбрать «Управление эмуляцией…».</translation>
+    </message>
+    <message>
+        <source>Checking the packages of %1</source>
+        <translation>Проверка пакетов %1</translation>
+    </message>
+</context>
+<context>
+    <name>EmulationManagement::Internal::OpeningProgress</name>
+    <message>
+        <source>Opening Emulation Management</source>
+        <translation>Открытие управления эмуляцией</translation>
+    </message>
 </context>
 <context>
     <name>EmulationManagement::Internal::WarningDialog</name>
@@ -232,6 +267,10 @@
     <message>
         <source>Error</source>
         <translation>Ошибка</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
@@ -306,6 +345,10 @@
         <source>Set settings</source>
         <translation>Применить настройки</translation>
     </message>
+    <message>
+        <source>Only sizes up to %1x%1 can be streamed.</source>
+        <translation>Передавать можно только размеры до %1x%1.</translation>
+    </message>
 </context>
 <context>
     <name>LightControls</name>
@@ -342,6 +385,40 @@
     <message>
         <source>μT</source>
         <translation>мкТл</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBoxButtons</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Применить</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Отменить</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+</context>
+<context>
+    <name>NumberField</name>
+    <message>
+        <source>A whole number from %1 to %2</source>
+        <translation>Целое число от %1 до %2</translation>
+    </message>
+    <message>
+        <source>A number from %1 to %2 with at most %3 decimals after a point</source>
+        <translation>Число от %1 до %2, не более %3 знаков после точки</translation>
     </message>
 </context>
 <context>
