@@ -46,7 +46,7 @@ public:
     [[nodiscard]] int trackSpeed() const;
     /// Index of the current track point.
     [[nodiscard]] int currentPositionIndex() const;
-    void setCurrentPositionIndex(int index);
+    Q_INVOKABLE void setCurrentPositionIndex(int index);
     /// True from the upload of a track until the next set-up.
     [[nodiscard]] bool trackLoaded() const;
 

@@ -34,6 +34,7 @@ static constexpr const char *calls[] = {
     "setTrackSpeed(5) > setTrackSpeed int32:5 > 1.5 2.5 3.5 false false 5 7 false > speed",
     "goToPositionOnTrack(41) > goToPositionOnTrack int32:41"
     " > 1.5 2.5 3.5 false false 1 41 false > index",
+    "setCurrentPositionIndex(3) >  > 1.5 2.5 3.5 false false 1 3 false > index",
     // the first point, silently
     "loadTrack([]) > loadTrack array:array:double: > 1.5 2.5 3.5 false false 1 0 true > ",
 };
