@@ -160,7 +160,7 @@ void LocationBenchmark::testTable()
                 .baseline = size / 1024,
                 .unit = "MB",
                 .limit = limited ? std::optional(12.0) : std::nullopt});
-        QMetaObject::invokeMethod(gpsPage(), "clearTrack");
+        QMetaObject::invokeMethod(item("TrackPlayer"), "clear");
         view()->engine()->collectGarbage();
         report({.what = "reading and showing " + what + " against parsing it",
                 .measured = shown,

@@ -27,11 +27,11 @@ EmulationPage {
     readonly property int latLongRoundingSize: Nmea.latLongRoundingSize
     readonly property int altRoundingSize: Nmea.altRoundingSize
     readonly property alias defaultInterval: player.defaultInterval
-    readonly property int lastRow: track.rowCount - 1
+    readonly property alias lastRow: player.lastRow
     property alias actualTrackPoints: player.actualTrackPoints
     // The track has no times to play it by.
     property bool onlyDefaultInterval: false
-    property bool trackStopped: true
+    readonly property alias trackStopped: player.stopped
     property string nmeaFileUrl: ""
     // Bytes. Points take some forty times as much memory as in their file.
     readonly property int maximumFileSize: 100e6
@@ -40,11 +40,6 @@ EmulationPage {
     property bool stoppedAfterError: false
     // How many files have been read or begun.
     property int fileRequests: 0
-    // The track was playing when the handle of the progress was taken.
-    property bool playingWhenPressed: false
-
-    // The row is to be seen.
-    signal rowWanted(row: int)
 
     function openFile(url: url) {
         const request = ++fileRequests;
@@ -67,43 +62,25 @@ EmulationPage {
             }
             points = Nmea.loadNmeaLog(text);
         } catch (error) {
-            clearTrack();
-            errorDialog.show(error.incorrectLine > 0
+            refuseTrack(error.incorrectLine > 0
                 ? error.message + qsTr(", line: %1").arg(error.incorrectLine) : error.message);
             return;
         }
         const rows = TrackRows.tableRows(points, locale, latLongRoundingSize, altRoundingSize);
-        actualTrackPoints = TrackRows.trackRecord(rows, points);
-        track.setRows(rows);
         // Rows have no field of that name, so that any track may be played at its own speed.
         onlyDefaultInterval = Nmea.trackHasPointsWithoutDateTime(rows);
         if (onlyDefaultInterval)
             gpsManager.setTrackIntervalMode(true);
-        gpsManager.currentPositionIndex = 0;
-        selectRow(0);
-        setCurrentCoordinate();
-        player.stop();
-        gpsManager.loadTrack(actualTrackPoints);
+        player.setTrack(rows, TrackRows.trackRecord(rows, points));
     }
 
-    function clearTrack() {
-        playingWhenPressed = false;
-        track.setRows([]);
-    }
-
-    function selectRow(row: int) {
-        track.selectRow(row);
-        if (player.playing)
-            rowWanted(row);
-    }
-
-    // Shows the current point as the position; the emulator learns of it as a point of the track.
-    function setCurrentCoordinate() {
-        const index = gpsManager.currentPositionIndex;
-        if (index > lastRow)
-            return;
-        const row = track.row(index);
-        gpsManager.setLocalPosition(row["Latitude"], row["Longitude"], row["Altitude"]);
+    // Playback is stopped first: the buttons are disabled while the table is empty.
+    function refuseTrack(message: string) {
+        if (!player.stopped)
+            player.stop();
+        player.clear();
+        errorDialog.text = message;
+        errorDialog.open();
     }
 
     content: PageScrollView {
@@ -183,16 +160,14 @@ EmulationPage {
                         rowCount: track.rowCount
 
                         onMoved: index => {
-                            root.selectRow(index);
+                            player.currentRow = index;
                             root.gpsManager.goToPositionOnTrack(index);
                         }
                         onPressedChanged: {
-                            if (pressed) {
-                                root.playingWhenPressed = player.playing;
+                            if (pressed)
                                 player.hold();
-                            } else if (root.playingWhenPressed) {
-                                player.start();
-                            }
+                            else
+                                player.release();
                         }
                     }
 
@@ -202,35 +177,22 @@ EmulationPage {
                         gpsManager: root.gpsManager
                         onlyDefaultInterval: root.onlyDefaultInterval
                         playing: player.playing
-                        stopped: root.trackStopped
+                        stopped: player.stopped
 
                         onPauseClicked: player.pause()
-                        onPlayClicked: {
-                            root.trackStopped = false;
-                            player.start();
-                        }
-                        onStopClicked: {
-                            root.trackStopped = true;
-                            player.stop();
-                        }
+                        onPlayClicked: player.start()
+                        onStopClicked: player.stop()
                     }
 
                     TrackTable {
-                        id: trackTable
-
                         Layout.fillHeight: true
                         Layout.fillWidth: true
                         Layout.minimumHeight: 60
 
+                        currentRow: player.currentRow
                         track: track
 
-                        Connections {
-                            target: root
-
-                            function onRowWanted(row: int) {
-                                trackTable.showRow(row);
-                            }
-                        }
+                        onRowChosen: row => player.chooseRow(row)
                     }
                 }
             }
@@ -247,46 +209,29 @@ EmulationPage {
 
     TrackModel {
         id: track
-
-        onCurrentRowChanged: {
-            if (currentRow >= 0 && rowCount > 0)
-                player.goToRow(currentRow);
-        }
     }
 
     TrackPlayer {
         id: player
 
         gpsManager: root.gpsManager
-        lastRow: root.lastRow
+        track: track
     }
 
     Connections {
         target: root.gpsManager
-
-        function onCurrentPositionIndexChanged() {
-            if (track.rowCount === 0)
-                return;
-            const index = root.gpsManager.currentPositionIndex;
-            root.selectRow(index);
-            root.setCurrentCoordinate();
-            if (index >= root.lastRow && !root.gpsManager.trackLooped)
-                root.trackStopped = true;
-        }
 
         function onReplyFromEmulatorReceived(reply: string) {
             if (reply === "OK") {
                 root.stoppedAfterError = false;
                 return;
             }
-            if (root.stoppedAfterError) {
-                player.hold();
-            } else {
+            if (!root.stoppedAfterError) {
                 root.stoppedAfterError = true;
                 player.stop();
             }
             root.nmeaFileUrl = "";
-            root.clearTrack();
+            player.clear();
         }
     }
 

@@ -10,13 +10,23 @@ ColumnLayout {
 
     required property TrackModel track
     readonly property int rowCount: track.rowCount
+    property int currentRow: -1
 
     readonly property color highlightColor: themeHighlightColor // qmllint disable unqualified
     readonly property color highlightedTextColor: highlightColor.hslLightness > 0.6 ? "black"
                                                                                     : "white"
 
-    function showRow(index: int) {
-        tableView.positionViewAtRow(index, TableView.Contain);
+    signal rowChosen(row: int)
+
+    function showRow(row: int) {
+        if (row >= 0 && row < rowCount)
+            tableView.positionViewAtRow(row, TableView.Contain);
+    }
+
+    function chooseNeighbour(offset: int) {
+        const row = currentRow + offset;
+        if (row >= 0 && row < rowCount)
+            rowChosen(row);
     }
 
     function columnWidth(column: int): real {
@@ -25,8 +35,12 @@ ColumnLayout {
 
     spacing: 0
 
+    // Also while nothing plays, so that the first row is seen when a track was stopped. Called
+    // later, as rows may change several times between two pictures.
+    onCurrentRowChanged: Qt.callLater(showRow, currentRow)
+
     Connections {
-        target: root.track.tableModel
+        target: root.track
 
         function onRowsChanged() {
             tableView.positionViewAtRow(0, TableView.AlignTop);
@@ -63,10 +77,7 @@ ColumnLayout {
         boundsBehavior: Flickable.StopAtBounds
         clip: true
         columnWidthProvider: column => root.columnWidth(column)
-        editTriggers: TableView.NoEditTriggers
-        model: root.track.tableModel
-        selectionBehavior: TableView.SelectRows
-        selectionModel: root.track.selection
+        model: root.track
 
         delegate: Rectangle {
             id: cell
@@ -74,7 +85,7 @@ ColumnLayout {
             required property var display
             required property int row
 
-            readonly property bool highlighted: row === tableView.currentRow
+            readonly property bool highlighted: row === root.currentRow
 
             color: highlighted ? root.highlightColor : "transparent"
             implicitHeight: text.implicitHeight
@@ -90,8 +101,21 @@ ColumnLayout {
             }
         }
 
+        // Without a selection model, the view has no navigation of its own. That would stop at each
+        // cell for the Tab key.
+        Keys.onDownPressed: root.chooseNeighbour(1)
+        Keys.onUpPressed: root.chooseNeighbour(-1)
         ScrollBar.vertical: ScrollBar {}
 
         onWidthChanged: forceLayout()
+
+        TapHandler {
+            onTapped: point => {
+                tableView.forceActiveFocus(Qt.MouseFocusReason);
+                const row = tableView.cellAtPosition(point.position).y;
+                if (row >= 0)
+                    root.rowChosen(row);
+            }
+        }
     }
 }

@@ -19,6 +19,7 @@ public:
 
 private Q_SLOTS:
     void initTestCase();
+    void init();
     void testCoordinates_data();
     void testCoordinates();
     void testTrackIsUploaded_data();
@@ -26,6 +27,7 @@ private Q_SLOTS:
     void testPlayback();
     void testEndAndLoop();
     void testSteering();
+    void testTable();
     void testReconnection();
     void testErrorReply();
     void testLinkLost();
@@ -38,7 +40,8 @@ private:
     QStringList takeCalls();
     void waitForCall(const QString &call);
     void open(const QString &sample);
-    [[nodiscard]] bool isPlaying() const;
+    /// Of those that play, pause and stop; none is while the table is empty.
+    [[nodiscard]] QString enabledButtons() const;
     [[nodiscard]] int rowCount() const;
 
     std::unique_ptr<Journal> m_journal;
