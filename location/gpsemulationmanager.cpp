@@ -1,5 +1,6 @@
 #include "gpsemulationmanager.h"
 
+#include <chrono>
 #include <cmath>
 
 namespace EmulationManagement::Internal {
@@ -246,6 +247,12 @@ void GPSEmulationManager::goToPositionOnTrack(int index)
 {
     callDBusMethod(QStringLiteral("goToPositionOnTrack"), intArgument(index));
     setCurrentPositionIndex(index);
+}
+
+double GPSEmulationManager::monotonicTime()
+{
+    using Milliseconds = std::chrono::duration<double, std::milli>;
+    return Milliseconds(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
 } // namespace EmulationManagement::Internal

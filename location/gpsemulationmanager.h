@@ -78,6 +78,9 @@ public:
     Q_INVOKABLE void setTrackSpeed(int speed);
     Q_INVOKABLE void goToPositionOnTrack(int index);
 
+    /// Milliseconds of a clock that nobody sets.
+    [[nodiscard]] Q_INVOKABLE static double monotonicTime();
+
 Q_SIGNALS:
     void trackLoopedChanged();
     void defaultIntervalUsingChanged();

@@ -20,6 +20,13 @@ Item {
     readonly property bool stopped: playback === TrackPlayer.Stopped
     // Milliseconds between points without intervals of their own, and before a track starts over.
     readonly property int defaultInterval: 2000
+    // Milliseconds, twelve days.
+    readonly property int longestInterval: 1 << 30
+    // Milliseconds. After a longer delay, as when the machine slept, the schedule starts anew.
+    readonly property int longestDelay: 1000
+    readonly property int frame: 16 // milliseconds
+    // When the present step is due, by the manager's clock.
+    property double dueTime: 0
     // The track goes on when the handle of the progress is released.
     property bool playingWhenHeld: false
 
@@ -48,9 +55,11 @@ Item {
         if (gpsManager.currentPositionIndex === lastRow)
             gpsManager.stopTrack();
         gpsManager.startTrack();
-        runTrackTimer();
+        dueTime = gpsManager.monotonicTime();
         // a track of one point ends where it starts
-        playback = trackTimer.running ? TrackPlayer.Playing : TrackPlayer.Stopped;
+        playback = scheduleStep() ? TrackPlayer.Playing : TrackPlayer.Stopped;
+        if (playing)
+            runTrackTimer();
     }
 
     function pause() {
@@ -114,31 +123,49 @@ Item {
         gpsManager.setLocalPosition(row["Latitude"], row["Longitude"], row["Altitude"]);
     }
 
-    function runTrackTimer() {
+    // Sets when the next step is due; false at the end. Counts from the time when the present step
+    // was due, so that delays do not add up.
+    function scheduleStep(): bool {
         const index = gpsManager.currentPositionIndex;
+        let interval = defaultInterval;
         if (index < lastRow) {
-            const interval = gpsManager.useDefaultInterval
-                ? defaultInterval : actualTrackPoints[index + 1].interval;
-            runTrackTimerFor(interval / gpsManager.trackSpeed);
-        } else if (gpsManager.trackLooped && lastRow >= 0) {
-            runTrackTimerFor(defaultInterval);
+            if (!gpsManager.useDefaultInterval)
+                interval = actualTrackPoints[index + 1].interval;
+            interval /= gpsManager.trackSpeed;
+        } else if (!gpsManager.trackLooped || lastRow < 0) {
+            return false;
         }
+        dueTime += Math.min(Math.max(1, Math.trunc(interval)), longestInterval);
+        return true;
     }
 
-    function runTrackTimerFor(interval: double) {
-        const longestInterval = 0x7fffffff;
-        trackTimer.interval = Math.min(Math.max(1, Math.trunc(interval)), longestInterval);
+    function runTrackTimer() {
+        trackTimer.interval = Math.max(0, Math.round(dueTime - gpsManager.monotonicTime()));
         trackTimer.restart();
     }
 
+    // Takes all steps that are due: intervals may be shorter than the time that the window takes to
+    // draw a picture. Ends after a frame, so that the window still answers when steps take longer
+    // than their intervals.
     function step() {
-        const index = gpsManager.currentPositionIndex;
-        gpsManager.currentPositionIndex = index >= lastRow ? 0 : index + 1;
-        runTrackTimer();
-        if (!trackTimer.running) {
-            rest();
-            synchronize();
+        const now = gpsManager.monotonicTime();
+        // a timer counts from the last picture of the window, and so may fire early
+        if (dueTime - now > frame / 2) {
+            runTrackTimer();
+            return;
         }
+        if (now - dueTime > longestDelay)
+            dueTime = now;
+        do {
+            const index = gpsManager.currentPositionIndex;
+            gpsManager.currentPositionIndex = index >= lastRow ? 0 : index + 1;
+            if (!scheduleStep()) {
+                rest();
+                synchronize();
+                return;
+            }
+        } while (dueTime <= now && gpsManager.monotonicTime() - now < frame);
+        runTrackTimer();
     }
 
     function synchronize() {
