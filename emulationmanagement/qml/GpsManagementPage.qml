@@ -153,6 +153,8 @@ EmulationPage {
                     }
 
                     TrackProgress {
+                        id: progress
+
                         Layout.fillWidth: true
                         currentIndex: root.gpsManager.currentPositionIndex
                         enabled: track.rowCount > 0
@@ -189,6 +191,7 @@ EmulationPage {
                         Layout.fillWidth: true
                         Layout.minimumHeight: 60
 
+                        centred: player.playing || progress.pressed
                         currentRow: player.currentRow
                         track: track
 

@@ -11,6 +11,8 @@ ColumnLayout {
     required property TrackModel track
     readonly property int rowCount: track.rowCount
     property int currentRow: -1
+    // The current row stays in the middle, wherever it goes.
+    property bool centred: false
 
     readonly property color highlightColor: themeHighlightColor // qmllint disable unqualified
     readonly property color highlightedTextColor: highlightColor.hslLightness > 0.6 ? "black"
@@ -18,9 +20,9 @@ ColumnLayout {
 
     signal rowChosen(row: int)
 
-    function showRow(row: int) {
+    function showRow(row: int, alignment: int) {
         if (row >= 0 && row < rowCount)
-            tableView.positionViewAtRow(row, TableView.Contain);
+            tableView.positionViewAtRow(row, alignment);
     }
 
     function chooseNeighbour(offset: int) {
@@ -37,7 +39,8 @@ ColumnLayout {
 
     // Also while nothing plays, so that the first row is seen when a track was stopped. Called
     // later, as rows may change several times between two pictures.
-    onCurrentRowChanged: Qt.callLater(showRow, currentRow)
+    onCurrentRowChanged: Qt.callLater(showRow, currentRow,
+                                      centred ? TableView.AlignVCenter : TableView.Contain)
 
     Connections {
         target: root.track

@@ -39,7 +39,7 @@ private:
     /// The calls so far, each once where it comes several times in a row, and forgets them.
     QStringList takeCalls();
     void waitForCall(const QString &call);
-    void open(const QString &sample);
+    void open(const QString &sample, int points = 5);
     /// Of those that play, pause and stop; none is while the table is empty.
     [[nodiscard]] QString enabledButtons() const;
     [[nodiscard]] int rowCount() const;
