@@ -10,8 +10,9 @@ namespace NimbraEmulator {
 
 using namespace Qt::StringLiterals;
 
-// Whatever text this long asks for still fits into one D-Bus message.
-static constexpr quint64 maxRequestBytes = 32 << 20;
+// As long as the plugin's maxReplySize: replies repeat the arguments of their requests. An array
+// that would be too long for D-Bus is refused on its own.
+static constexpr quint64 maxRequestBytes = 64 << 20;
 
 Relay::Relay(const QHostAddress &address, const QDBusConnection &bus, Journal &journal,
              QObject *parent)

@@ -30,7 +30,7 @@ public:
     /// Emulator end of the forwarded TCP port, where the relay listens.
     static constexpr unsigned short emulatorTcpPort = 1234;
     /// Bytes of the longest reply; a longer one ends the connection. A reply repeats the arguments
-    /// of its call, and this holds a track of more than a million points.
+    /// of its call: this holds the longest track, see maximumPoints of GpsManagementPage.qml.
     static constexpr quint64 maxReplySize = 64 << 20;
     /// Name of the SDK's port forwarding rule for the two.
     static const QString portForwardingRule;

@@ -1,5 +1,7 @@
 #include "gpsemulationmanager.h"
 
+#include <QFileInfo>
+
 #include <chrono>
 #include <cmath>
 
@@ -253,6 +255,12 @@ double GPSEmulationManager::monotonicTime()
 {
     using Milliseconds = std::chrono::duration<double, std::milli>;
     return Milliseconds(std::chrono::steady_clock::now().time_since_epoch()).count();
+}
+
+qint64 GPSEmulationManager::fileSize(const QUrl &url)
+{
+    const QFileInfo file(url.toLocalFile());
+    return file.isFile() ? file.size() : -1;
 }
 
 } // namespace EmulationManagement::Internal

@@ -6,6 +6,7 @@
 
 #include <sensors/settingsmanager.h>
 
+#include <QUrl>
 #include <QVariantList>
 
 namespace EmulationManagement::Internal {
@@ -80,6 +81,9 @@ public:
 
     /// Milliseconds of a clock that nobody sets.
     [[nodiscard]] Q_INVOKABLE static double monotonicTime();
+    /// Bytes of a local file, or -1 for what is missing and for folders, pipes and devices. Reading
+    /// a pipe may take for ever, reading a device never end.
+    [[nodiscard]] Q_INVOKABLE static qint64 fileSize(const QUrl &url);
 
 Q_SIGNALS:
     void trackLoopedChanged();

@@ -259,8 +259,8 @@ function createTrackPoint(pointFormat, latString, latHemisphere, lonString, lonH
 }
 
 // The points of a log, all of the sentence that comes first. Throws a SyntaxError with a number
-// incorrectLine when there are none to be had.
-function loadNmeaLog(text) {
+// incorrectLine when there are none to be had, or more than so many.
+function loadNmeaLog(text, maximumPoints = Infinity) {
     if (text === "")
         throw syntaxError(qsTr("NMEA file is empty"), 0);
     const points = [];
@@ -297,6 +297,10 @@ function loadNmeaLog(text) {
                 || (time && isNaN(time.getTime()))) {
             throw syntaxError(qsTr("Incorrect NMEA file"),
                               countLines(text.substring(0, start + 1)));
+        }
+        if (points.length === maximumPoints) {
+            const message = qsTr("NMEA file has more than %1 points");
+            throw syntaxError(message.replace("%1", maximumPoints), 0);
         }
         format = tag;
         previousTime = time;

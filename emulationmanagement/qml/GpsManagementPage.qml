@@ -35,6 +35,10 @@ EmulationPage {
     property string nmeaFileUrl: ""
     // Bytes. Points take some forty times as much memory as in their file.
     readonly property int maximumFileSize: 100e6
+    // A track must fit into one upload: its text, at most 46 characters a point, into
+    // maxRequestBytes of emulator/relay.cpp and, as replies repeat it, into maxReplySize of
+    // link/remotedbusinvokerservice.h; its points, 40 bytes each, into the 64 MiB of a D-Bus array.
+    readonly property int maximumPoints: 1.4e6
     // The emulator was told to stop after an error and has not said "OK" since. It may be the stop
     // that it refuses.
     property bool stoppedAfterError: false
@@ -44,11 +48,18 @@ EmulationPage {
     function openFile(url: url) {
         const request = ++fileRequests;
         nmeaFileUrl = url;
-        TextFile.read(url, text => {
-            // another file may have been chosen in the meantime
-            if (request === fileRequests)
-                showTrack(text);
-        });
+        const size = gpsManager.fileSize(url);
+        if (size < 0) {
+            showTrack(null);
+        } else if (size > maximumFileSize) {
+            refuseTrack(qsTr("NMEA file is larger than %1 MB").arg(maximumFileSize / 1e6));
+        } else {
+            TextFile.read(url, text => {
+                // another file may have been chosen in the meantime
+                if (request === fileRequests)
+                    showTrack(text);
+            });
+        }
     }
 
     function showTrack(text: var) {
@@ -56,11 +67,7 @@ EmulationPage {
         try {
             if (text === null)
                 throw new Error(qsTr("NMEA file cannot be read"));
-            if (text.length > maximumFileSize) {
-                throw new Error(qsTr("NMEA file is larger than %1 MB")
-                                    .arg(maximumFileSize / 1e6));
-            }
-            points = Nmea.loadNmeaLog(text);
+            points = Nmea.loadNmeaLog(text, maximumPoints);
         } catch (error) {
             refuseTrack(error.incorrectLine > 0
                 ? error.message + qsTr(", line: %1").arg(error.incorrectLine) : error.message);

@@ -12,6 +12,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
+
 using namespace PluginDriver;
 
 static const QString ggaRecord = "loadTrack array:array:double:60.0500000,30.1800000,12.50,0;"
@@ -323,6 +325,7 @@ void LocationTest::testBadFile_data()
     QTest::newRow("malformed") << point + "\n\n$GPGLL,x\n" << "Incorrect NMEA file, line: 2";
     QTest::newRow("binary") << QByteArray("\0\xff\xfe\n\x80$GP\0", 9) << unknown + ", line: 2";
     QTest::newRow("large") << point << "NMEA file is larger than 100 MB";
+    QTest::newRow("pipe") << QByteArray() << "NMEA file cannot be read";
     QTest::newRow("vanished") << QByteArray() << "NMEA file cannot be read";
     QTest::newRow("with a name, 100 % #1 \u00e9\u044f") << point << QString();
 }
@@ -333,12 +336,15 @@ void LocationTest::testBadFile()
     QFETCH(QString, message);
     const QTemporaryDir folder;
     const QString path = folder.filePath(QString::fromUtf8(QTest::currentDataTag()) + ".nmea");
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-    if (path.endsWith("large.nmea"))
-        QVERIFY(file.resize(100'000'001));
-    file.close();
+    if (path.endsWith("pipe.nmea")) {
+        QCOMPARE(mkfifo(path.toLocal8Bit(), 0600), 0);
+    } else {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        if (path.endsWith("large.nmea"))
+            QVERIFY(file.resize(100'000'001));
+    }
     open("gga.nmea");
     m_page->clickTrackButton("Play");
     takeCalls();

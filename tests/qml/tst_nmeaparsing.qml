@@ -33,7 +33,7 @@ TestCase {
                 {format: "$GPRMC", latitude: -49.2741667, longitude: -123.1853333, altitude: 0},
                 {index: 1, time: 1500, interval: 1500, timeString: "00:00:01.5"}]},
             {tag: "midnight missed", text: ggaAt("235959") + "\n" + ggaAt("000001") + "\n"
-                + ggaAt("000000"),
+                + ggaAt("000000"), maximumPoints: 3,
              points: [{}, {interval: 2000}, {interval: 86399000, time: 86401000,
                                              timeString: "00:00:01.0"}]},
             // the 31st of the second month is the 3rd of the third
@@ -54,6 +54,11 @@ TestCase {
             {tag: "only the tag", text: gga + "\n$GPGGA", line: 2, error: "Incorrect NMEA file"},
             {tag: "no fix", text: "$GPGGA,123519,,,,,0,00,,,M,,M,,*66", line: 1,
              error: "Incorrect NMEA file"},
+            {tag: "too many points", text: gga + "\n" + gga + "\n" + gga, maximumPoints: 2, line: 0,
+             error: "NMEA file has more than 2 points"},
+            {tag: "only line breaks", text: "\r\n\n", error: "NMEA file has only empty lines"},
+            {tag: "position without time", text: "$GPGLL,4916.45,N,12311.12,W,A",
+             error: 'NMEA file has a position at "A", which is not a time'},
             {tag: "nothing known", text: "$GNGGA\n\n$GPGGAX,1\n x\n", error: unknown, line: 3},
         ];
     }
@@ -61,7 +66,7 @@ TestCase {
     function test_points(row: var) {
         let points;
         try {
-            points = Nmea.loadNmeaLog(row.text);
+            points = Nmea.loadNmeaLog(row.text, row.maximumPoints);
         } catch (error) {
             compare([error.message, error.incorrectLine], [row.error, row.line]);
             return;
@@ -71,19 +76,6 @@ TestCase {
             for (const field in point)
                 compare(points[index][field], point[field], `${field} of point ${index}`);
         });
-    }
-
-    // These have messages of their own and no line.
-    function test_scriptErrors() {
-        for (const text of ["\r\n\n", "$GPGLL,4916.45,N,12311.12,W,A", "$GPGLL,4916.45,N,12311.12,W,"]) {
-            try {
-                Nmea.loadNmeaLog(text);
-                fail("accepted " + text);
-            } catch (error) {
-                verify(error.message);
-                verify(!error.incorrectLine);
-            }
-        }
     }
 
     // Points without an interval must not pass for points without a time.

@@ -12,6 +12,7 @@
 
 using namespace EmulationManagement::Internal;
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 // Each, in this order: a request > its reply as far as the error's name. S and L are the addresses
 // of the services of sensors and location, ERROR their errors, DBUS those of D-Bus and INVALID the
@@ -190,11 +191,20 @@ private Q_SLOTS:
         }
         sensors.disableSensor(u"als"_s);
         sensors.enableSensor(u"als"_s);
-        location.loadTrack(QVariantList(20'000, QVariantMap{{u"interval"_s, 1000}}));
-        location.goToPositionOnTrack(19'999);
+        // the longest texts of as many points as the GPS page accepts
+        constexpr int maximumPoints = 1'400'000;
+        const QVariantMap point{{u"latitude"_s, -999.9999999},
+                                {u"longitude"_s, -999.9999999},
+                                {u"altitude"_s, 999.99},
+                                {u"interval"_s, -1.23457e+12}};
+        location.loadTrack(QVariantList(maximumPoints, point));
+        location.goToPositionOnTrack(maximumPoints - 1);
         location.startTrack();
         location.pauseTrack();
-        QTRY_COMPARE(replies.size(), 8 + 7 + 5 + 2 * 12 + 6); // the two set-ups first
+        QSignalSpy lost(&link, &RemoteDBusInvokerService::webSocketDisconnected);
+        constexpr int calls = 8 + 7 + 5 + 2 * 12 + 6; // the two set-ups first
+        QTRY_VERIFY_WITH_TIMEOUT(replies.size() == calls || !lost.isEmpty(), 60s);
+        QVERIFY(lost.isEmpty());
         for (const QVariantList &reply : replies)
             QCOMPARE(reply.constFirst(), u"OK"_s);
         QVERIFY(!sensors.sensorsEnabledStates().values().contains(false));
