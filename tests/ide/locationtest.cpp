@@ -125,6 +125,8 @@ void LocationTest::testTrackIsUploaded_data()
     QTest::newRow("GLL") << "gll.nmea" << "0.00" << "400";
     QTest::newRow("RMC") << "rmc.nmea" << "0.00" << "400";
     QTest::newRow("WPL") << "wpl.nmea" << "0.00" << "0";
+    // gpsbabel -i gpx -f FILE -o nmea,gprmc=0,gpvtg=0,gpgsa=0 -F gpsbabel.nmea
+    QTest::newRow("GPSBabel's GGA") << "gpsbabel.nmea" << "12.50" << "2000";
     QTest::newRow("GGA") << "gga.nmea" << "12.50" << "400";
 }
 
