@@ -203,9 +203,10 @@ void GPSEmulationManager::loadTrack(const QVariantList &trackPoints)
                      + altitudeText(numberOf(point, altitudeKey)) + u','
                      + QString::number(numberOf(point, intervalKey));
     }
-    callDBusMethod(QStringLiteral("loadTrack"), arguments);
+    // before the call: the loss of the link, which may show in it, takes the track away again
     m_currentPositionIndex = 0;
     m_trackLoaded = true;
+    callDBusMethod(QStringLiteral("loadTrack"), arguments);
 }
 
 void GPSEmulationManager::startTrack()

@@ -689,5 +689,9 @@ Supported formats: GPRMC, GPGGA, GPGLL, GPWPL.</source>
         <translation>Die Punkte der NMEA-Datei haben ein falsches Format.
 Unterstützte Formate: GPRMC, GPGGA, GPGLL, GPWPL.</translation>
     </message>
+    <message>
+        <source>NMEA file has more than %1 points</source>
+        <translation>Die NMEA-Datei hat mehr als %1 Punkte</translation>
+    </message>
 </context>
 </TS>

@@ -689,5 +689,9 @@ Supported formats: GPRMC, GPGGA, GPGLL, GPWPL.</source>
         <translation>Точки в файле NMEA имеют неверный формат.
 Поддерживаемые форматы: GPRMC, GPGGA, GPGLL, GPWPL.</translation>
     </message>
+    <message>
+        <source>NMEA file has more than %1 points</source>
+        <translation>В файле NMEA больше %1 точек</translation>
+    </message>
 </context>
 </TS>

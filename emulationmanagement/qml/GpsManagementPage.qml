@@ -86,8 +86,7 @@ EmulationPage {
         if (!player.stopped)
             player.stop();
         player.clear();
-        errorDialog.text = message;
-        errorDialog.open();
+        errorDialog.show(message);
     }
 
     content: PageScrollView {
@@ -209,6 +208,10 @@ EmulationPage {
         }
     }
 
+    onShownChanged: {
+        if (!shown)
+            fileDialog.close();
+    }
     onOnlyDefaultIntervalChanged: {
         if (!onlyDefaultInterval)
             return;

@@ -41,7 +41,7 @@ Flow {
         onClicked: root.stopClicked()
     }
 
-    ComboBox {
+    ChoiceBox {
         Accessible.name: qsTr("Speed")
         implicitWidth: 80
         textRole: "key"
@@ -69,7 +69,7 @@ Flow {
             }
         }
 
-        onActivated: root.gpsManager.setTrackSpeed(currentValue)
+        onChosen: index => root.gpsManager.setTrackSpeed(valueAt(index))
 
         Binding on currentIndex {
             value: root.gpsManager.trackSpeed - 1
