@@ -74,8 +74,10 @@ void PagePictures::take()
     takePicture(QStringLiteral("gps-management"));
 
     showPage(driver, 4);
-    QMetaObject::invokeMethod(PluginDriver::contextObject("cameraEmulationManager"),
-                              "startCameraStream");
+    QObject *camera = PluginDriver::contextObject("cameraEmulationManager");
+    QMetaObject::invokeMethod(camera, "startCameraStream");
+    waitFor(QStringLiteral("the camera's frames to be counted"),
+            [&] { return camera->property("streamFramesPerSecond").toInt() > 0; });
     takePicture(QStringLiteral("camera-management"));
     driver.click(driver.items(QStringLiteral("QQuickRadioButton")).constLast());
     takePicture(QStringLiteral("camera-management-file"));
