@@ -20,6 +20,7 @@
 #include <algorithm>
 #include <chrono>
 
+using namespace Qt::StringLiterals;
 using namespace PluginDriver;
 using namespace std::chrono_literals;
 
@@ -61,7 +62,7 @@ static double processorTimeOfLaunch(const QString &source)
 {
     const double before = processorTime(RUSAGE_CHILDREN);
     QProcess launch;
-    launch.startCommand(QStringLiteral("gst-launch-1.0 -q %1 ! %2").arg(source, output));
+    launch.startCommand(u"gst-launch-1.0 -q %1 ! %2"_s.arg(source, output));
     QTest::qWait(streamingTime);
     launch.kill();
     launch.waitForFinished();
@@ -78,18 +79,17 @@ static double processorTimeOfIde()
 static void launch(const QString &pipeline)
 {
     QProcess process;
-    process.startCommand(QStringLiteral("gst-launch-1.0 -q ") + pipeline);
+    process.startCommand(u"gst-launch-1.0 -q "_s + pipeline);
     QVERIFY(process.waitForFinished(-1));
     QCOMPARE(process.exitCode(), 0);
 }
 
 QString CameraBenchmark::makeVideo(int frames) const
 {
-    const QString path = m_folder.filePath(QStringLiteral("%1.webm").arg(frames));
-    launch(QStringLiteral("videotestsrc pattern=ball num-buffers=%1 ! video/x-raw,format=I420,"
-                          "width=640,height=480,framerate=%2/1 ! vp8enc deadline=1 ! webmmux ! "
-                          "filesink location=%3")
-               .arg(frames)
+    const QString path = m_folder.filePath(u"%1.webm"_s.arg(frames));
+    launch(u"videotestsrc pattern=ball num-buffers=%1 ! video/x-raw,format=I420,"
+           "width=640,height=480,framerate=%2/1 ! vp8enc deadline=1 ! webmmux ! "
+           "filesink location=%3"_s.arg(frames)
                .arg(framesPerSecond)
                .arg(path));
     return path;

@@ -21,6 +21,7 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
 using namespace PluginDriver;
 using namespace std::chrono_literals;
 
@@ -93,8 +94,7 @@ QString LocationBenchmark::writeLog(const QString &name, int sentences, bool poi
         qFatal("The log cannot be written");
     for (int epoch = 0, written = 0; written < sentences; ++epoch) {
         const QString time = QTime(0, 0).addSecs(epoch).toString("hhmmss") + ".00";
-        const QString position = QStringLiteral("60%1,N,030%2,E")
-                                     .arg(epoch * 0.0001, 8, 'f', 5, u'0')
+        const QString position = u"60%1,N,030%2,E"_s.arg(epoch * 0.0001, 8, 'f', 5, u'0')
                                      .arg(epoch * 0.0002, 8, 'f', 5, u'0');
         file.write(sentence("GPGGA," + time + ',' + position + ",1,08,0.94,12.5,M,17.0,M,,"));
         ++written;
@@ -103,9 +103,8 @@ QString LocationBenchmark::writeLog(const QString &name, int sentences, bool poi
         file.write(sentence("GPGLL," + position + ',' + time + ",A"));
         file.write(sentence("GPGSA,A,3,04,05,,09,12,,,24,,,,,2.5,1.3,2.1"));
         for (int part = 1; part <= 3; ++part)
-            file.write(sentence(QStringLiteral("GPGSV,3,%1,11,03,03,111,00,04,15,270,00,06,01,010,"
-                                               "00,13,06,292,00")
-                                    .arg(part)));
+            file.write(sentence(u"GPGSV,3,%1,11,03,03,111,00,04,15,270,00,06,01,010,"
+                                "00,13,06,292,00"_s.arg(part)));
         file.write(sentence("GPRMC," + time + ",A," + position + ",022.4,084.4,230326,003.1,W"));
         file.write(sentence("GPVTG,054.7,T,034.4,M,005.5,N,010.2,K"));
         written += 7;
@@ -150,8 +149,7 @@ void LocationBenchmark::testTable()
 {
     for (const QString &log : {m_receiversLog, m_pointsLog}) {
         const bool limited = log == m_receiversLog;
-        const QString what
-            = limited ? QStringLiteral("a receiver's log") : QStringLiteral("a log of points only");
+        const QString what = limited ? u"a receiver's log"_s : u"a log of points only"_s;
         const double before = memory("VmRSS");
         const double shown = showTrack(log);
         const double size = static_cast<double>(QFileInfo(log).size()) / 1024;
@@ -183,9 +181,8 @@ void LocationBenchmark::testParsing()
         node.start("node", {NODE_PARSER, PARSER, log});
         QVERIFY(node.waitForFinished());
         QCOMPARE(node.exitCode(), 0);
-        report({.what = log == m_receiversLog
-                            ? QStringLiteral("parsing a receiver's log against Node.js")
-                            : QStringLiteral("parsing a log of points only against Node.js"),
+        report({.what = log == m_receiversLog ? u"parsing a receiver's log against Node.js"_s
+                                              : u"parsing a log of points only against Node.js"_s,
                 .measured = log == m_receiversLog ? time : parse(log),
                 .baseline = node.readAllStandardOutput().toDouble(),
                 .unit = "ms",

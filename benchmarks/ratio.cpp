@@ -4,19 +4,20 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 void report(const Ratio &ratio)
 {
     const double value = ratio.measured / ratio.baseline;
-    QString line = QStringLiteral("%1: %2 %4 / %3 %4 = %5")
-                       .arg(ratio.what)
+    QString line = u"%1: %2 %4 / %3 %4 = %5"_s.arg(ratio.what)
                        .arg(ratio.measured)
                        .arg(ratio.baseline)
                        .arg(ratio.unit)
                        .arg(value, 0, 'g', 3);
     if (ratio.limit) {
-        line += QStringLiteral(" (at most %1)").arg(*ratio.limit);
+        line += u" (at most %1)"_s.arg(*ratio.limit);
         if (!(value <= *ratio.limit))
-            line += QStringLiteral(" MISSED");
+            line += u" MISSED"_s;
     }
     line += u'\n';
     QFile file(qEnvironmentVariable("BENCHMARK_RATIOS"));

@@ -6,12 +6,14 @@
 #include <QSettings>
 #include <QUrl>
 
+using namespace Qt::StringLiterals;
+
 namespace EmulationManagement::Internal {
 
-static const QString defaultDeviceName = QStringLiteral("default");
-static const QString deviceNameKey = QStringLiteral("device-name");
-static const QString meshKey = QStringLiteral("mesh");
-static const QString textureKey = QStringLiteral("texture");
+static const QString defaultDeviceName = u"default"_s;
+static const QString deviceNameKey = u"device-name"_s;
+static const QString meshKey = u"mesh"_s;
+static const QString textureKey = u"texture"_s;
 static const QString dataPath; // the files lie beside the application itself
 
 static QString fileUri(const QString &pathTemplate, const QString &fileName)
@@ -32,12 +34,10 @@ void Smartphone3DModelConfig::initSmartphone3DModelsConfigurations()
 {
     m_configurations.clear();
     const QDir directory(QDir::fromNativeSeparators(
-        QStringLiteral("%1/%2/configs").arg(QCoreApplication::applicationDirPath(), dataPath)));
-    const QStringList fileNames
-        = directory.entryList({QStringLiteral("*.ini")}, QDir::Files, QDir::Unsorted);
+        u"%1/%2/configs"_s.arg(QCoreApplication::applicationDirPath(), dataPath)));
+    const QStringList fileNames = directory.entryList({u"*.ini"_s}, QDir::Files, QDir::Unsorted);
     for (const QString &fileName : fileNames) {
-        const QSettings file(QStringLiteral("%1/%2").arg(directory.path(), fileName),
-                             QSettings::IniFormat);
+        const QSettings file(u"%1/%2"_s.arg(directory.path(), fileName), QSettings::IniFormat);
         m_configurations.insert(file.value(deviceNameKey).toString(),
                                 QVariantMap{{meshKey, file.value(meshKey).toString()},
                                             {textureKey, file.value(textureKey).toString()}});
@@ -48,9 +48,8 @@ void Smartphone3DModelConfig::updateSmartphone3DModel(const QString &deviceName)
 {
     const QString name = m_configurations.contains(deviceName) ? deviceName : defaultDeviceName;
     const QVariantMap configuration = m_configurations[name].toMap();
-    m_meshUri = fileUri(QStringLiteral("%1/%2/meshes/%3"), configuration.value(meshKey).toString());
-    m_textureUri
-        = fileUri(QStringLiteral("%1/%2/textures/%3"), configuration.value(textureKey).toString());
+    m_meshUri = fileUri(u"%1/%2/meshes/%3"_s, configuration.value(meshKey).toString());
+    m_textureUri = fileUri(u"%1/%2/textures/%3"_s, configuration.value(textureKey).toString());
     Q_EMIT smartphone3DModelConfigChanged();
 }
 

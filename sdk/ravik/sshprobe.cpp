@@ -3,6 +3,7 @@
 #include <QHostAddress>
 #include <QNetworkProxy>
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace Ravik::Internal {
@@ -45,7 +46,7 @@ void SshProbe::poll()
 
 void SshProbe::readGreeting()
 {
-    static const QByteArray greeting = QByteArrayLiteral("SSH-2.0");
+    static const QByteArray greeting = "SSH-2.0"_ba;
     if (m_socket.peek(greeting.size()) != greeting)
         return;
     stop();

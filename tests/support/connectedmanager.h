@@ -13,13 +13,15 @@
 
 namespace TestSupport {
 
+using namespace Qt::StringLiterals;
+
 /// Adds a row for each of the texts "call > what follows > …", named after the call, with its
 /// parts.
 inline void addCallRows(std::span<const char *const> calls)
 {
     QTest::addColumn<QStringList>("row");
     for (const char *call : calls) {
-        const QStringList row = QString::fromLatin1(call).split(QStringLiteral(" > "));
+        const QStringList row = QString::fromLatin1(call).split(u" > "_s);
         QTest::newRow(qPrintable(row.constFirst())) << row;
     }
 }
@@ -30,14 +32,13 @@ template<typename Manager>
 struct ConnectedManager
 {
     explicit ConnectedManager(const QString &service)
-        : address(QStringLiteral("system %1 /%2 %1 ")
-                      .arg(service, QString(service).replace(u'.', u'/')))
+        : address(u"system %1 /%2 %1 "_s.arg(service, QString(service).replace(u'.', u'/')))
     {
         if (!relay.connectLink(link))
             qFatal("The relay cannot be reached");
         manager.setRdbusinvoker(&link);
         QJSEngine::setObjectOwnership(&manager, QJSEngine::CppOwnership);
-        engine.globalObject().setProperty(QStringLiteral("manager"), engine.newQObject(&manager));
+        engine.globalObject().setProperty(u"manager"_s, engine.newQObject(&manager));
     }
 
     /// Runs a script that knows the manager by this name, as a page would.

@@ -4,6 +4,8 @@
 
 #include <utils/qtcsettings.h>
 
+using namespace Qt::StringLiterals;
+
 namespace TestSupport {
 
 using ExtensionSystem::PluginManager;
@@ -18,7 +20,7 @@ IdeSettings::~IdeSettings() = default;
 
 QString IdeSettings::fileName() const
 {
-    return m_folder.filePath(QStringLiteral("ide.ini"));
+    return m_folder.filePath(u"ide.ini"_s);
 }
 
 void IdeSettings::reopen()

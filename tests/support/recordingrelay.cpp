@@ -8,13 +8,15 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace TestSupport {
 
 using EmulationManagement::Internal::RemoteDBusInvokerService;
 
 RecordingRelay::RecordingRelay(QObject *parent)
     : QObject(parent)
-    , m_server(QStringLiteral("relay"), QWebSocketServer::NonSecureMode)
+    , m_server(u"relay"_s, QWebSocketServer::NonSecureMode)
 {
     connect(&m_server, &QWebSocketServer::newConnection, this, &RecordingRelay::acceptClients);
 }
@@ -57,11 +59,11 @@ void RecordingRelay::reply(const QString &line)
 
 QStringList RecordingRelay::takeRequests(RemoteDBusInvokerService &link)
 {
-    link.callDBusMethod(QStringLiteral("mark"), {}, {}, {}, {}, {});
+    link.callDBusMethod(u"mark"_s, {}, {}, {}, {}, {});
     const auto isMarked
         = [this] { return !m_requests.isEmpty() && m_requests.last().startsWith(u"mark "); };
     if (!QTest::qWaitFor(isMarked))
-        return {QStringLiteral("the link is down")};
+        return {u"the link is down"_s};
     m_requests.removeLast();
     return std::exchange(m_requests, {});
 }

@@ -22,7 +22,7 @@ static constexpr QSize videoSize(320, 240); // of vp8.webm and vp9.webm
 
 static QString media(const QString &name)
 {
-    return QStringLiteral(MEDIA_FOLDER "/") + name;
+    return u"" MEDIA_FOLDER "/"_s + name;
 }
 
 // The emulator's receiver, where the forwarding of its port begins, tells what is streamed.

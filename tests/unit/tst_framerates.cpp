@@ -2,6 +2,8 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 /// What real cameras hardly tell; the rest is tested with caps of virtual ones.
 class FrameratesTest : public QObject
 {
@@ -10,12 +12,12 @@ class FrameratesTest : public QObject
 private Q_SLOTS:
     void oddFields()
     {
-        QCOMPARE(::normalizeFractions(QStringLiteral("5/0,x/2,-7/2,30/1,25,1/2/3,,9/x")).join(u' '),
+        QCOMPARE(::normalizeFractions(u"5/0,x/2,-7/2,30/1,25,1/2/3,,9/x"_s).join(u' '),
                  u"5/1 0/1 -3/1 30/1 25 1/2/3 9/1");
         QStringList framerates;
-        initAvailableFramerates(&framerates, QStringLiteral("[ 1/0, nonsense ]"));
-        QCOMPARE(framerates, QStringList(QStringLiteral("0/1")));
-        initAvailableFramerates(&framerates, QStringLiteral("[ 0/1, 2147483647/1 ]"));
+        initAvailableFramerates(&framerates, u"[ 1/0, nonsense ]"_s);
+        QCOMPARE(framerates, QStringList(u"0/1"_s));
+        initAvailableFramerates(&framerates, u"[ 0/1, 2147483647/1 ]"_s);
         QVERIFY(framerates.size() < 300);
     }
 };

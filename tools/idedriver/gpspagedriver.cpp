@@ -8,6 +8,8 @@
 #include <QQuickWindow>
 #include <QUrl>
 
+using namespace Qt::StringLiterals;
+
 static QQuickWindow *popupWindow()
 {
     const QWindowList windows = QGuiApplication::allWindows();
@@ -21,13 +23,12 @@ static QQuickWindow *popupWindow()
 GpsPageDriver::GpsPageDriver(const WindowDriver &driver)
     : m_driver(driver)
 {
-    m_driver.clickButton(QStringLiteral("GPS Management"));
+    m_driver.clickButton(u"GPS Management"_s);
 }
 
 void GpsPageDriver::openTrack(const QString &path, bool vanishing) const
 {
-    auto *page
-        = m_driver.item(QStringLiteral("GpsManagementPage"), "visible", QStringLiteral("true"));
+    auto *page = m_driver.item(u"GpsManagementPage"_s, "visible", u"true"_s);
     QObject *dialog = nullptr;
     const QObjectList children = page->findChildren<QObject *>();
     for (QObject *child : children) {
@@ -38,36 +39,34 @@ void GpsPageDriver::openTrack(const QString &path, bool vanishing) const
         throw WaitingFailed("the page has no file dialog");
     // the dialog starts with the file chosen
     dialog->setProperty("selectedFile", QUrl::fromLocalFile(path));
-    m_driver.clickButton(QStringLiteral("…"));
+    m_driver.clickButton(u"…"_s);
     QQuickWindow *window = nullptr;
-    waitFor(QStringLiteral("the file dialog"), [&] {
+    waitFor(u"the file dialog"_s, [&] {
         window = popupWindow();
         return window != nullptr;
     });
     const WindowDriver dialogDriver(window);
-    const QQuickItem *button
-        = dialogDriver.item(QStringLiteral("QQuickAbstractButton"), "text", QStringLiteral("Open"));
+    const QQuickItem *button = dialogDriver.item(u"QQuickAbstractButton"_s, "text", u"Open"_s);
     if (vanishing)
         QFile::remove(path);
     dialogDriver.click(button);
-    waitFor(QStringLiteral("the file dialog to close"),
-            [&] { return !dialog->property("visible").toBool(); });
+    waitFor(u"the file dialog to close"_s, [&] { return !dialog->property("visible").toBool(); });
 }
 
 void GpsPageDriver::type(const QString &label, const QString &text) const
 {
-    QQuickItem *field = m_driver.item(QStringLiteral("CoordinateField"), "label", label);
-    m_driver.type(m_driver.items(QStringLiteral("QQuickTextField"), field).constFirst(), text);
+    QQuickItem *field = m_driver.item(u"CoordinateField"_s, "label", label);
+    m_driver.type(m_driver.items(u"QQuickTextField"_s, field).constFirst(), text);
 }
 
 void GpsPageDriver::clickTrackButton(const QString &name) const
 {
-    m_driver.click(m_driver.item(QStringLiteral("TrackButton"), "name", name));
+    m_driver.click(m_driver.item(u"TrackButton"_s, "name", name));
 }
 
 void GpsPageDriver::clickRow(int row) const
 {
-    const QList<QQuickItem *> labels = m_driver.items(QStringLiteral("QQuickLabel"), table());
+    const QList<QQuickItem *> labels = m_driver.items(u"QQuickLabel"_s, table());
     for (const QQuickItem *label : labels) {
         const QQuickItem *cell = label->parentItem();
         if (cell->property("row").toInt() == row && cell->property("row").isValid()) {
@@ -80,19 +79,18 @@ void GpsPageDriver::clickRow(int row) const
 
 QQuickItem *GpsPageDriver::progress() const
 {
-    QQuickItem *row
-        = m_driver.item(QStringLiteral("TrackProgress"), "visible", QStringLiteral("true"));
-    return m_driver.items(QStringLiteral("QQuickSlider"), row).constFirst();
+    QQuickItem *row = m_driver.item(u"TrackProgress"_s, "visible", u"true"_s);
+    return m_driver.items(u"QQuickSlider"_s, row).constFirst();
 }
 
 QQuickItem *GpsPageDriver::table() const
 {
-    return m_driver.item(QStringLiteral("TrackTable"), "visible", QStringLiteral("true"));
+    return m_driver.item(u"TrackTable"_s, "visible", u"true"_s);
 }
 
 QString GpsPageDriver::shownFile() const
 {
-    return m_driver.item(QStringLiteral("GpsManagementPage"), "visible", QStringLiteral("true"))
+    return m_driver.item(u"GpsManagementPage"_s, "visible", u"true"_s)
         ->property("nmeaFileUrl")
         .toString();
 }

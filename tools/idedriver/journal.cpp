@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 // Bus, service, object path and interface stand before the method in a request line.
 static constexpr qsizetype addressFieldCount = 4;
 
@@ -52,14 +54,14 @@ QStringList Journal::callsSince(qsizetype position)
 
 void Journal::waitForEvent(const QString &event, qsizetype since)
 {
-    waitFor(QStringLiteral("the emulator's event \"%1\"").arg(event),
+    waitFor(u"the emulator's event \"%1\""_s.arg(event),
             [&] { return countSince(since, event) > 0; });
 }
 
 void Journal::waitForCall(const QString &call, qsizetype since)
 {
     try {
-        waitFor(QStringLiteral("the emulator to get \"%1\"").arg(call),
+        waitFor(u"the emulator to get \"%1\""_s.arg(call),
                 [&] { return callsSince(since).contains(call); });
     } catch (const WaitingFailed &error) {
         throw WaitingFailed(error.what() + std::string("; it got:\n")

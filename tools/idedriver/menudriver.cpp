@@ -12,6 +12,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace MenuDriver {
 
 /// Uses an entry of a menu or menu bar as the mouse does.
@@ -19,7 +21,7 @@ template<typename Menu>
 static QAction *use(Menu *menu, const QString &text)
 {
     QAction *action = nullptr;
-    waitFor(QStringLiteral("the menu entry \"%1\"").arg(text), [&] {
+    waitFor(u"the menu entry \"%1\""_s.arg(text), [&] {
         const QList<QAction *> actions = menu->actions();
         const auto found = std::ranges::find_if(actions, [&](QAction *candidate) {
             return candidate->text().remove(u'&') == text && candidate->isVisible()
@@ -54,7 +56,7 @@ QMenu *open(QMainWindow *mainWindow, const QStringList &path)
 {
     QMenu *menu = nullptr;
     // menus close when the window manager is late to activate another window
-    waitFor(QStringLiteral("the menu \"%1\" to open").arg(path.last()), [&] {
+    waitFor(u"the menu \"%1\" to open"_s.arg(path.last()), [&] {
         menu = tryToOpen(mainWindow, path);
         while (!menu && QApplication::activePopupWidget())
             QApplication::activePopupWidget()->close();

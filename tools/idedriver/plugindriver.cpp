@@ -20,6 +20,8 @@
 #include <QRegularExpression>
 #include <QSignalSpy>
 
+using namespace Qt::StringLiterals;
+
 namespace PluginDriver {
 
 QQuickView *view()
@@ -67,7 +69,7 @@ Ravik::HostSdk *sdk()
 
 Ravik::Emulator *emulator()
 {
-    waitFor(QStringLiteral("an emulator"), [] { return !sdk()->emulators().isEmpty(); });
+    waitFor(u"an emulator"_s, [] { return !sdk()->emulators().isEmpty(); });
     return sdk()->emulators().constFirst();
 }
 
@@ -88,38 +90,33 @@ void openWindow(Journal &journal)
         start = journal.position();
     });
     chooseAction();
-    waitFor(QStringLiteral("the window and the link"),
+    waitFor(u"the window and the link"_s,
             [&] { return connectedBefore >= 0 && connected.size() > connectedBefore; });
     // The GPS manager sets the emulator up twice, before and after the sensors.
-    waitFor(QStringLiteral("the emulator to be set up"), [&] {
-        return journal.callsSince(start).filter(QStringLiteral("setPosition ")).size() == 2;
-    });
+    waitFor(u"the emulator to be set up"_s,
+            [&] { return journal.callsSince(start).filter(u"setPosition "_s).size() == 2; });
 }
 
 void stopMachine()
 {
     machine()->shutDown();
-    waitFor(QStringLiteral("the machine to end"),
-            [] { return machine()->isOff(nullptr, nullptr); });
+    waitFor(u"the machine to end"_s, [] { return machine()->isOff(nullptr, nullptr); });
 }
 
 QString dataFolder(const Ravik::Emulator *emulator)
 {
-    static const QRegularExpression separators(QStringLiteral("[^\\p{L}\\p{N}]+"));
-    const QString slug = emulator->name()
-                             .toLower()
-                             .replace(separators, QStringLiteral(" "))
-                             .trimmed()
-                             .replace(u' ', u'-');
+    static const QRegularExpression separators(u"[^\\p{L}\\p{N}]+"_s);
+    const QString slug
+        = emulator->name().toLower().replace(separators, u" "_s).trimmed().replace(u' ', u'-');
     return Core::ICore::userResourcePath("emulators").pathAppended(slug).toFSPathString();
 }
 
 void control(const QString &command)
 {
     QLocalSocket socket;
-    socket.connectToServer(dataFolder(emulator()) + QStringLiteral("/control"));
+    socket.connectToServer(dataFolder(emulator()) + u"/control"_s);
     socket.write(command.toUtf8() + '\n');
-    waitFor(QStringLiteral("the answer to \"%1\"").arg(command), [&] {
+    waitFor(u"the answer to \"%1\""_s.arg(command), [&] {
         return socket.canReadLine() || socket.state() == QLocalSocket::UnconnectedState;
     });
     const QByteArray answer = socket.readLine().trimmed();

@@ -7,6 +7,8 @@
 #include <QQuickWindow>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 static bool isOfClass(const QObject *object, const QString &className)
 {
     for (const QMetaObject *type = object->metaObject(); type; type = type->superClass()) {
@@ -42,7 +44,7 @@ WindowDriver::WindowDriver(QQuickWindow *window)
 WindowDriver WindowDriver::waitForWindow(const QString &title)
 {
     QQuickWindow *window = nullptr;
-    waitFor(QStringLiteral("the window \"%1\"").arg(title), [&] {
+    waitFor(u"the window \"%1\""_s.arg(title), [&] {
         const QWindowList windows = QGuiApplication::topLevelWindows();
         for (QWindow *candidate : windows) {
             if (candidate->title() == title && candidate->isExposed())
@@ -69,7 +71,7 @@ QQuickItem *WindowDriver::item(const QString &className, const char *property,
                                const QString &value) const
 {
     QQuickItem *found = nullptr;
-    waitFor(QStringLiteral("the %1 \"%2\"").arg(className, value), [&] {
+    waitFor(u"the %1 \"%2\""_s.arg(className, value), [&] {
         const QList<QQuickItem *> candidates = items(className);
         for (QQuickItem *candidate : candidates) {
             if (candidate->property(property).toString() == value)
@@ -82,23 +84,23 @@ QQuickItem *WindowDriver::item(const QString &className, const char *property,
 
 void WindowDriver::clickButton(const QString &text) const
 {
-    click(item(QStringLiteral("QQuickAbstractButton"), "text", text));
+    click(item(u"QQuickAbstractButton"_s, "text", text));
 }
 
 void WindowDriver::click(const QQuickItem *item) const
 {
-    waitFor(QStringLiteral("the layout to be done"),
+    waitFor(u"the layout to be done"_s,
             [&] { return QRect(QPoint(), m_window->size()).contains(centreOf(item)); });
     // a click on a window activates it
     m_window->requestActivate();
-    waitFor(QStringLiteral("the window to be active"), [&] { return m_window->isActive(); });
+    waitFor(u"the window to be active"_s, [&] { return m_window->isActive(); });
     QTest::mouseClick(m_window, Qt::LeftButton, {}, centreOf(item));
 }
 
 void WindowDriver::choose(const QQuickItem *comboBox, const QString &text) const
 {
     click(comboBox);
-    click(item(QStringLiteral("QQuickAbstractButton"), "text", text));
+    click(item(u"QQuickAbstractButton"_s, "text", text));
 }
 
 void WindowDriver::drag(const QQuickItem *slider, double fraction) const

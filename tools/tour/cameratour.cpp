@@ -10,6 +10,8 @@
 #include <QQuickWindow>
 #include <QSaveFile>
 
+using namespace Qt::StringLiterals;
+
 // Smaller than the page, which scrolls then.
 static constexpr QSize smallSize(600, 250);
 
@@ -35,7 +37,7 @@ static void unplug(const QByteArray &camera)
 static WindowDriver openDialog()
 {
     QQuickWindow *dialog = nullptr;
-    waitFor(QStringLiteral("the dialog"), [&] {
+    waitFor(u"the dialog"_s, [&] {
         const QWindowList windows = QGuiApplication::allWindows();
         for (QWindow *window : windows) {
             if (window->inherits("QQuickPopupWindow") && window->isExposed())
@@ -55,8 +57,8 @@ CameraTour::CameraTour(const WindowDriver &driver, Journal &journal, TakePicture
 void CameraTour::run()
 {
     say("Camera Management");
-    m_driver.clickButton(QStringLiteral("Camera Management"));
-    m_takePicture(QStringLiteral("camera-management"));
+    m_driver.clickButton(u"Camera Management"_s);
+    m_takePicture(u"camera-management"_s);
     streamCameras();
     unplugCamera();
     playVideoFile();
@@ -69,27 +71,25 @@ void CameraTour::streamCameras()
 {
     say("Camera Management: streaming two cameras in three sizes");
     qsizetype start = m_journal.position();
-    m_driver.clickButton(QStringLiteral("Start stream"));
+    m_driver.clickButton(u"Start stream"_s);
     waitForPictures({640, 480}, start);
-    m_takePicture(QStringLiteral("camera-streaming"));
+    m_takePicture(u"camera-streaming"_s);
 
     start = m_journal.position();
-    m_driver.choose(m_driver.items(QStringLiteral("QQuickComboBox")).at(1),
-                    QStringLiteral("320x240"));
-    m_driver.clickButton(QStringLiteral("Set settings"));
+    m_driver.choose(m_driver.items(u"QQuickComboBox"_s).at(1), u"320x240"_s);
+    m_driver.clickButton(u"Set settings"_s);
     waitForPictures({320, 240}, start);
 
     start = m_journal.position();
-    m_driver.choose(m_driver.items(QStringLiteral("QQuickComboBox")).at(0),
-                    QStringLiteral("Rear Camera"));
-    m_takePicture(QStringLiteral("camera-chosen"));
-    m_driver.clickButton(QStringLiteral("Set settings"));
+    m_driver.choose(m_driver.items(u"QQuickComboBox"_s).at(0), u"Rear Camera"_s);
+    m_takePicture(u"camera-chosen"_s);
+    m_driver.clickButton(u"Set settings"_s);
     waitForPictures({1280, 720}, start);
-    m_takePicture(QStringLiteral("camera-settings-applied"));
+    m_takePicture(u"camera-settings-applied"_s);
 
     const QSize size = m_driver.window()->size();
     m_driver.window()->resize(smallSize);
-    m_takePicture(QStringLiteral("camera-small"));
+    m_takePicture(u"camera-small"_s);
     m_driver.window()->resize(size);
 }
 
@@ -98,27 +98,26 @@ void CameraTour::unplugCamera()
     say("Camera Management: unplugging the camera that streams");
     const qsizetype start = m_journal.position();
     unplug("Rear Camera");
-    m_journal.waitForEvent(QStringLiteral("video-ended"), start);
-    m_takePicture(QStringLiteral("camera-unplugged"));
+    m_journal.waitForEvent(u"video-ended"_s, start);
+    m_takePicture(u"camera-unplugged"_s);
 
     unplug("Front Camera");
-    waitFor(QStringLiteral("the video file to be the source"), [&] {
-        return m_driver
-            .item(QStringLiteral("QQuickRadioButton"), "text", QStringLiteral("Video file"))
+    waitFor(u"the video file to be the source"_s, [&] {
+        return m_driver.item(u"QQuickRadioButton"_s, "text", u"Video file"_s)
             ->property("checked")
             .toBool();
     });
-    m_takePicture(QStringLiteral("camera-none"));
+    m_takePicture(u"camera-none"_s);
 }
 
 void CameraTour::playVideoFile()
 {
     say("Camera Management: playing a video file over and over");
     const qsizetype start = m_journal.position();
-    chooseFile(QStringLiteral("vp9.webm"));
+    chooseFile(u"vp9.webm"_s, u"Open"_s);
     waitForPictures({320, 240}, start);
-    m_takePicture(QStringLiteral("camera-video-file"));
-    waitFor(QStringLiteral("more pictures than the file has"), [&] {
+    m_takePicture(u"camera-video-file"_s);
+    waitFor(u"more pictures than the file has"_s, [&] {
         static constexpr int picturesOfFile = 60;
         int count = 0;
         const QList<QJsonObject> entries = m_journal.entriesSince(start);
@@ -132,9 +131,9 @@ void CameraTour::playVideoFile()
 
 void CameraTour::cancelDialog()
 {
-    const QQuickItem *field = m_driver.items(QStringLiteral("QQuickTextField")).constFirst();
+    const QQuickItem *field = m_driver.items(u"QQuickTextField"_s).constFirst();
     const QString before = field->property("text").toString();
-    chooseFile(QStringLiteral("vp8.webm"), QStringLiteral("Cancel"));
+    chooseFile(u"vp8.webm"_s, u"Cancel"_s);
     if (field->property("text").toString() != before)
         throw WaitingFailed("a file was taken although the dialog was cancelled");
 }
@@ -143,37 +142,37 @@ void CameraTour::refuseVideoFile()
 {
     say("Camera Management: refusing a video file");
     const qsizetype start = m_journal.position();
-    chooseFile(QStringLiteral("motion-jpeg.mkv"));
-    m_journal.waitForEvent(QStringLiteral("video-ended"), start);
-    m_takePicture(QStringLiteral("camera-video-refused"));
-    m_driver.clickButton(QStringLiteral("OK"));
+    chooseFile(u"motion-jpeg.mkv"_s, u"Open"_s);
+    m_journal.waitForEvent(u"video-ended"_s, start);
+    m_takePicture(u"camera-video-refused"_s);
+    m_driver.clickButton(u"OK"_s);
 }
 
 void CameraTour::leavePage()
 {
     say("Camera Management: leaving the page ends the stream");
     qsizetype start = m_journal.position();
-    chooseFile(QStringLiteral("vp8.webm"));
+    chooseFile(u"vp8.webm"_s, u"Open"_s);
     waitForPictures({320, 240}, start);
     start = m_journal.position();
-    m_driver.clickButton(QStringLiteral("Sensors Values"));
-    m_journal.waitForEvent(QStringLiteral("video-ended"), start);
+    m_driver.clickButton(u"Sensors Values"_s);
+    m_journal.waitForEvent(u"video-ended"_s, start);
 }
 
 void CameraTour::chooseFile(const QString &name, const QString &button)
 {
     // where the dialog begins
     QDir::setCurrent(qEnvironmentVariable("TOUR_VIDEOS"));
-    m_driver.clickButton(QStringLiteral("…"));
+    m_driver.clickButton(u"…"_s);
     const WindowDriver dialog = openDialog();
-    dialog.click(dialog.item(QStringLiteral("QQuickFileDialogDelegate"), "fileName", name));
-    m_takePicture(QStringLiteral("camera-file-dialog"));
+    dialog.click(dialog.item(u"QQuickFileDialogDelegate"_s, "fileName", name));
+    m_takePicture(u"camera-file-dialog"_s);
     dialog.clickButton(button);
 }
 
 void CameraTour::waitForPictures(QSize size, qsizetype since)
 {
-    waitFor(QStringLiteral("pictures of %1x%2").arg(size.width()).arg(size.height()), [&] {
+    waitFor(u"pictures of %1x%2"_s.arg(size.width()).arg(size.height()), [&] {
         const QList<QJsonObject> entries = m_journal.entriesSince(since);
         return std::ranges::any_of(entries, [&](const QJsonObject &entry) {
             return entry.value(u"event").toString() == u"video"

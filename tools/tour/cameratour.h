@@ -28,7 +28,7 @@ private:
     void leavePage();
 
     /// Selects a file in the dialog and clicks \a button there.
-    void chooseFile(const QString &name, const QString &button = QStringLiteral("Open"));
+    void chooseFile(const QString &name, const QString &button);
     void waitForPictures(QSize size, qsizetype since);
 
     WindowDriver m_driver;

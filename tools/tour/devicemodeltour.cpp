@@ -10,16 +10,16 @@
 #include <cmath>
 #include <numeric>
 
-namespace {
+using namespace Qt::StringLiterals;
 
-constexpr double period = 0.1; // s between two samples
-constexpr double metresPerUnit = 0.06; // of the sliders that move
-constexpr double gravity = 9.80665;
-constexpr double unitsPerG = 1000;
-constexpr double fieldPart = 9.9999e-05; // T along each axis, as the tour of sensors left it
+static constexpr double period = 0.1; // s between two samples
+static constexpr double metresPerUnit = 0.06; // of the sliders that move
+static constexpr double gravity = 9.80665;
+static constexpr double unitsPerG = 1000;
+static constexpr double fieldPart = 9.9999e-05; // T along each axis, as the tour of sensors left it
 
 /// What the emulator was told of the gyroscope's z, in degrees per second.
-QList<double> gyroscopeSamples(Journal &journal, qsizetype since)
+static QList<double> gyroscopeSamples(Journal &journal, qsizetype since)
 {
     QList<double> samples;
     const QStringList calls = journal.callsSince(since).filter(u"setGyroscopeValues ");
@@ -27,8 +27,6 @@ QList<double> gyroscopeSamples(Journal &journal, qsizetype since)
         samples << call.section(u':', -1).toDouble();
     return samples;
 }
-
-} // namespace
 
 DeviceModelTour::DeviceModelTour(const WindowDriver &driver, Journal &journal,
                                  const TakePicture &takePicture)
@@ -39,7 +37,7 @@ DeviceModelTour::DeviceModelTour(const WindowDriver &driver, Journal &journal,
 
 void DeviceModelTour::run()
 {
-    m_takePicture(QStringLiteral("device-model"));
+    m_takePicture(u"device-model"_s);
     pressPresets();
     typeRotation();
     pressArrowKeys();
@@ -67,9 +65,9 @@ void DeviceModelTour::pressPresets()
         const qsizetype start = m_journal.position();
         m_driver.clickButton(QString::fromUtf8(preset.text));
         waitForAcceleration(preset.x, preset.y, preset.z, start);
-        QString call = QStringLiteral("setMagnetometerValues");
+        QString call = u"setMagnetometerValues"_s;
         for (const char *sign = preset.fieldSigns; *sign != '\0'; ++sign)
-            call += QStringLiteral(" double:%1").arg(*sign == '-' ? -fieldPart : fieldPart);
+            call += u" double:%1"_s.arg(*sign == '-' ? -fieldPart : fieldPart);
         m_journal.waitForCall(call, start);
     }
 }
@@ -77,12 +75,12 @@ void DeviceModelTour::pressPresets()
 void DeviceModelTour::typeRotation()
 {
     const qsizetype start = m_journal.position();
-    m_driver.type(m_driver.items(QStringLiteral("QQuickTextField")).at(0), QStringLiteral("30"));
+    m_driver.type(m_driver.items(u"QQuickTextField"_s).at(0), u"30"_s);
     waitForAcceleration(0, 866, -500, start);
-    m_driver.type(m_driver.items(QStringLiteral("QQuickTextField")).at(2), QStringLiteral("-45"));
+    m_driver.type(m_driver.items(u"QQuickTextField"_s).at(2), u"-45"_s);
     waitForAcceleration(-612, 612, -500, start);
-    m_takePicture(QStringLiteral("device-model-turned"));
-    m_driver.clickButton(QStringLiteral("X 0°, Y 0°, Z 0°"));
+    m_takePicture(u"device-model-turned"_s);
+    m_driver.clickButton(u"X 0°, Y 0°, Z 0°"_s);
 }
 
 void DeviceModelTour::pressArrowKeys()
@@ -104,9 +102,9 @@ void DeviceModelTour::pressArrowKeys()
     };
     for (const Step &step : turns) {
         press(step.key, step.modifiers);
-        waitForSliders(QStringLiteral("a turn by an arrow key"), step.values);
+        waitForSliders(u"a turn by an arrow key"_s, step.values);
     }
-    m_driver.clickButton(QStringLiteral("Move"));
+    m_driver.clickButton(u"Move"_s);
     const Step moves[] = {
         {Qt::Key_Left, {}, {-0.01, 0, 0}},
         {Qt::Key_Up, {}, {-0.01, 0.01, 0}},
@@ -115,66 +113,66 @@ void DeviceModelTour::pressArrowKeys()
     };
     for (const Step &step : moves) {
         press(step.key);
-        waitForSliders(QStringLiteral("a move by an arrow key"), step.values);
+        waitForSliders(u"a move by an arrow key"_s, step.values);
     }
-    m_driver.clickButton(QStringLiteral("Rotation"));
+    m_driver.clickButton(u"Rotation"_s);
 }
 
 void DeviceModelTour::holdControl()
 {
     // QTest presses and releases Ctrl around the key
     QTest::keyPress(m_driver.window(), Qt::Key_Left, Qt::ControlModifier);
-    waitForSliders(QStringLiteral("a move while Ctrl is held"), {-0.01, 0, 0});
-    m_takePicture(QStringLiteral("device-model-control"));
+    waitForSliders(u"a move while Ctrl is held"_s, {-0.01, 0, 0});
+    m_takePicture(u"device-model-control"_s);
     QTest::keyRelease(m_driver.window(), Qt::Key_Left, Qt::ControlModifier);
     press(Qt::Key_Right, Qt::ControlModifier);
     press(Qt::Key_Left);
-    waitForSliders(QStringLiteral("a turn after Ctrl was released"), {0, 0, -1});
+    waitForSliders(u"a turn after Ctrl was released"_s, {0, 0, -1});
     press(Qt::Key_Right);
 }
 
 void DeviceModelTour::goPastHalfTurn()
 {
-    m_driver.type(m_driver.items(QStringLiteral("QQuickTextField")).at(2), QStringLiteral("180"));
+    m_driver.type(m_driver.items(u"QQuickTextField"_s).at(2), u"180"_s);
     QTest::mouseClick(m_driver.window(), Qt::LeftButton, {}, inArea(0.5, 0.5));
     press(Qt::Key_Right);
-    waitForSliders(QStringLiteral("a turn past 180 degrees"), {0, 0, 181});
+    waitForSliders(u"a turn past 180 degrees"_s, {0, 0, 181});
     press(Qt::Key_Right);
-    waitForSliders(QStringLiteral("a turn from the other end"), {0, 0, -179});
+    waitForSliders(u"a turn from the other end"_s, {0, 0, -179});
     const qsizetype start = m_journal.position();
-    m_driver.clickButton(QStringLiteral("X 0°, Y 0°, Z 0°"));
+    m_driver.clickButton(u"X 0°, Y 0°, Z 0°"_s);
     waitForAcceleration(0, 1000, 0, start);
 }
 
 void DeviceModelTour::moveWithMouse()
 {
     qsizetype start = m_journal.position();
-    m_driver.clickButton(QStringLiteral("Move"));
+    m_driver.clickButton(u"Move"_s);
     waitForAcceleration(0, 1000, 0, start);
     start = m_journal.position();
     QTest::mousePress(m_driver.window(), Qt::LeftButton, {}, inArea(0.5, 0.5));
     QTest::mouseMove(m_driver.window(), inArea(0.75, 0.25)); // half of the width is 3
     QTest::mouseRelease(m_driver.window(), Qt::LeftButton, {}, inArea(0.75, 0.25));
     QTest::wheelEvent(m_driver.window(), inArea(0.5, 0.5), QPoint(0, 120));
-    waitFor(QStringLiteral("a move by drag and wheel"), [&] {
+    waitFor(u"a move by drag and wheel"_s, [&] {
         const QList<double> values = sliderValues();
         return std::abs(values.at(0) - 1.5) < 0.02 && std::abs(values.at(1) - 1) < 0.02
                && qFuzzyCompare(values.at(2), 0.2);
     });
-    m_takePicture(QStringLiteral("device-model-moved"));
+    m_takePicture(u"device-model-moved"_s);
     // a push and a stop within two periods, and rest
     const double push = sliderValues().at(0) * metresPerUnit * 2 / (period * period);
     const auto x = static_cast<int>(push / gravity * unitsPerG);
-    waitFor(QStringLiteral("the push and the stop"), [&] {
+    waitFor(u"the push and the stop"_s, [&] {
         const QString calls = m_journal.callsSince(start).join(u'\n');
-        return calls.contains(QStringLiteral("setAccelerometerValues int32:%1 ").arg(x))
-               && calls.contains(QStringLiteral("setAccelerometerValues int32:%1 ").arg(-x));
+        return calls.contains(u"setAccelerometerValues int32:%1 "_s.arg(x))
+               && calls.contains(u"setAccelerometerValues int32:%1 "_s.arg(-x));
     });
     start = m_journal.position();
     waitForAcceleration(0, 1000, 0, start);
 
-    m_driver.type(m_driver.items(QStringLiteral("QQuickTextField")).at(0), QStringLiteral("0"));
-    m_driver.clickButton(QStringLiteral("Rotation"));
+    m_driver.type(m_driver.items(u"QQuickTextField"_s).at(0), u"0"_s);
+    m_driver.clickButton(u"Rotation"_s);
 }
 
 void DeviceModelTour::turnSlowly()
@@ -183,7 +181,7 @@ void DeviceModelTour::turnSlowly()
     static constexpr int milliseconds = 30; // for a degree
     const auto waitForRest = [this] {
         const qsizetype start = m_journal.position();
-        waitFor(QStringLiteral("the gyroscope to rest"), [&] {
+        waitFor(u"the gyroscope to rest"_s, [&] {
             const QList<double> samples = gyroscopeSamples(m_journal, start);
             return samples.size() > 1 && samples.constLast() == 0;
         });
@@ -199,12 +197,12 @@ void DeviceModelTour::turnSlowly()
     const double angle = period * std::accumulate(samples.cbegin(), samples.cend(), 0.0);
     if (std::abs(angle - degrees) > 0.02 * degrees)
         throw WaitingFailed("a turn by 90 degrees was sampled as " + std::to_string(angle));
-    m_driver.clickButton(QStringLiteral("X 0°, Y 0°, Z 0°"));
+    m_driver.clickButton(u"X 0°, Y 0°, Z 0°"_s);
 }
 
 void DeviceModelTour::leave()
 {
-    m_driver.clickButton(QStringLiteral("Sensors Management"));
+    m_driver.clickButton(u"Sensors Management"_s);
     QTest::qWait(5 * static_cast<int>(1000 * period));
     const qsizetype start = m_journal.position();
     QTest::qWait(5 * static_cast<int>(1000 * period));
@@ -214,14 +212,14 @@ void DeviceModelTour::leave()
 
 QPoint DeviceModelTour::inArea(double x, double y) const
 {
-    const QQuickItem *area = m_driver.items(QStringLiteral("SmartphoneModelArea")).constFirst();
+    const QQuickItem *area = m_driver.items(u"SmartphoneModelArea"_s).constFirst();
     return area->mapToScene(QPointF(x * area->width(), y * area->height())).toPoint();
 }
 
 QList<double> DeviceModelTour::sliderValues() const
 {
     QList<double> values;
-    const QList<QQuickItem *> sliders = m_driver.items(QStringLiteral("SliderWithTextField"));
+    const QList<QQuickItem *> sliders = m_driver.items(u"SliderWithTextField"_s);
     for (const QQuickItem *slider : sliders)
         values << slider->property("value").toDouble();
     return values;
@@ -244,6 +242,5 @@ void DeviceModelTour::waitForSliders(const QString &what, const QList<double> &v
 void DeviceModelTour::waitForAcceleration(int x, int y, int z, qsizetype since)
 {
     m_journal.waitForCall(
-        QStringLiteral("setAccelerometerValues int32:%1 int32:%2 int32:%3").arg(x).arg(y).arg(z),
-        since);
+        u"setAccelerometerValues int32:%1 int32:%2 int32:%3"_s.arg(x).arg(y).arg(z), since);
 }

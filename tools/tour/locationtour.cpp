@@ -5,6 +5,8 @@
 
 #include <QQuickItem>
 
+using namespace Qt::StringLiterals;
+
 LocationTour::LocationTour(const WindowDriver &driver, Journal &journal,
                            std::function<void(const QString &)> takePicture)
     : m_driver(driver)
@@ -33,46 +35,44 @@ void LocationTour::setPosition(const GpsPageDriver &page)
     };
     qsizetype start = m_journal.position();
     for (const auto &[field, text, call] : values) {
-        page.type(QLatin1String(field), QLatin1String(text));
-        m_journal.waitForCall(QLatin1String(call), start);
+        page.type(QLatin1StringView(field), QLatin1StringView(text));
+        m_journal.waitForCall(QLatin1StringView(call), start);
     }
     start = m_journal.position();
-    m_driver.clickButton(QStringLiteral("Set"));
-    m_journal.waitForCall(
-        QStringLiteral("setPosition double:59.9342802 double:-30.5000000 double:12.25"), start);
-    m_takePicture(QStringLiteral("gps-position"));
+    m_driver.clickButton(u"Set"_s);
+    m_journal.waitForCall(u"setPosition double:59.9342802 double:-30.5000000 double:12.25"_s,
+                          start);
+    m_takePicture(u"gps-position"_s);
 }
 
 void LocationTour::playTrack(const GpsPageDriver &page, const QString &track)
 {
     qsizetype start = m_journal.position();
     page.openTrack(track);
-    waitFor(QStringLiteral("the track's upload"), [&] {
-        return !m_journal.callsSince(start).filter(QStringLiteral("loadTrack ")).isEmpty();
-    });
-    m_takePicture(QStringLiteral("gps-track"));
+    waitFor(u"the track's upload"_s,
+            [&] { return !m_journal.callsSince(start).filter(u"loadTrack "_s).isEmpty(); });
+    m_takePicture(u"gps-track"_s);
 
     start = m_journal.position();
-    m_driver.choose(m_driver.items(QStringLiteral("QQuickComboBox")).constFirst(),
-                    QStringLiteral("5x"));
-    m_journal.waitForCall(QStringLiteral("setTrackSpeed int32:5"), start);
-    m_driver.clickButton(QStringLiteral("Loop track"));
-    m_journal.waitForCall(QStringLiteral("setTrackLooped boolean:1"), start);
-    page.clickTrackButton(QStringLiteral("Play"));
+    m_driver.choose(m_driver.items(u"QQuickComboBox"_s).constFirst(), u"5x"_s);
+    m_journal.waitForCall(u"setTrackSpeed int32:5"_s, start);
+    m_driver.clickButton(u"Loop track"_s);
+    m_journal.waitForCall(u"setTrackLooped boolean:1"_s, start);
+    page.clickTrackButton(u"Play"_s);
     for (int index = 1; index <= 3; ++index)
-        m_journal.waitForCall(QStringLiteral("goToPositionOnTrack int32:%1").arg(index), start);
-    m_takePicture(QStringLiteral("gps-playing"));
+        m_journal.waitForCall(u"goToPositionOnTrack int32:%1"_s.arg(index), start);
+    m_takePicture(u"gps-playing"_s);
 
     start = m_journal.position();
     m_driver.drag(page.progress(), 0.5);
     const int index = page.progress()->property("value").toInt();
-    m_journal.waitForCall(QStringLiteral("goToPositionOnTrack int32:%1").arg(index), start);
-    m_journal.waitForCall(QStringLiteral("goToPositionOnTrack int32:%1").arg(index + 1), start);
-    page.clickTrackButton(QStringLiteral("Pause"));
-    m_journal.waitForCall(QStringLiteral("pauseTrack "), start);
-    m_takePicture(QStringLiteral("gps-paused"));
-    page.clickTrackButton(QStringLiteral("Stop"));
-    m_journal.waitForCall(QStringLiteral("stopTrack "), start);
-    m_driver.clickButton(QStringLiteral("Loop track"));
-    m_journal.waitForCall(QStringLiteral("setTrackLooped boolean:0"), start);
+    m_journal.waitForCall(u"goToPositionOnTrack int32:%1"_s.arg(index), start);
+    m_journal.waitForCall(u"goToPositionOnTrack int32:%1"_s.arg(index + 1), start);
+    page.clickTrackButton(u"Pause"_s);
+    m_journal.waitForCall(u"pauseTrack "_s, start);
+    m_takePicture(u"gps-paused"_s);
+    page.clickTrackButton(u"Stop"_s);
+    m_journal.waitForCall(u"stopTrack "_s, start);
+    m_driver.clickButton(u"Loop track"_s);
+    m_journal.waitForCall(u"setTrackLooped boolean:0"_s, start);
 }

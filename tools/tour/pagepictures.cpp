@@ -15,10 +15,12 @@
 #include <functional>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 /// Shows a page by its place in the column of buttons.
 static void showPage(const WindowDriver &driver, qsizetype index)
 {
-    driver.click(driver.items(QStringLiteral("PageButton")).at(index));
+    driver.click(driver.items(u"PageButton"_s).at(index));
 }
 
 /// Reduces a picture to its most frequent colours, which make its file a quarter as large.
@@ -54,33 +56,32 @@ void PagePictures::take()
 
     const WindowDriver driver(PluginDriver::view());
     showPage(driver, 0);
-    takePicture(QStringLiteral("sensors-management"));
+    takePicture(u"sensors-management"_s);
     showPage(driver, 1);
-    takePicture(QStringLiteral("sensors-values"));
+    takePicture(u"sensors-values"_s);
     showPage(driver, 2);
-    takePicture(QStringLiteral("orientation-management"));
+    takePicture(u"orientation-management"_s);
 
     showPage(driver, 3);
-    QQuickItem *gpsPage = driver.items(QStringLiteral("GpsManagementPage")).constFirst();
+    QQuickItem *gpsPage = driver.items(u"GpsManagementPage"_s).constFirst();
     // the picture shows where the file is
-    const QString track = QDir::temp().filePath(QStringLiteral("lake.nmea"));
-    QFile::copy(QStringLiteral(SAMPLE_TRACK), track);
+    const QString track = QDir::temp().filePath(u"lake.nmea"_s);
+    QFile::copy(SAMPLE_TRACK, track);
     const qsizetype start = m_journal.position();
     QMetaObject::invokeMethod(gpsPage, "openFile", QUrl::fromLocalFile(track));
-    waitFor(QStringLiteral("the track's upload"), [&] {
-        return !m_journal.callsSince(start).filter(QStringLiteral("loadTrack ")).isEmpty();
-    });
+    waitFor(u"the track's upload"_s,
+            [&] { return !m_journal.callsSince(start).filter(u"loadTrack "_s).isEmpty(); });
     QFile::remove(track);
-    takePicture(QStringLiteral("gps-management"));
+    takePicture(u"gps-management"_s);
 
     showPage(driver, 4);
     QObject *camera = PluginDriver::contextObject("cameraEmulationManager");
     QMetaObject::invokeMethod(camera, "startCameraStream");
-    waitFor(QStringLiteral("the camera's frames to be counted"),
+    waitFor(u"the camera's frames to be counted"_s,
             [&] { return camera->property("streamFramesPerSecond").toInt() > 0; });
-    takePicture(QStringLiteral("camera-management"));
-    driver.click(driver.items(QStringLiteral("QQuickRadioButton")).constLast());
-    takePicture(QStringLiteral("camera-management-file"));
+    takePicture(u"camera-management"_s);
+    driver.click(driver.items(u"QQuickRadioButton"_s).constLast());
+    takePicture(u"camera-management-file"_s);
 }
 
 void PagePictures::takePicture(const QString &name) const
@@ -88,7 +89,7 @@ void PagePictures::takePicture(const QString &name) const
     static constexpr int untilDrawn = 500; // milliseconds
     QTest::qWait(untilDrawn);
     const QImage picture = withPalette(PluginDriver::view()->grabWindow());
-    const QString path = QStringLiteral("%1/%2.png").arg(m_folder, name);
+    const QString path = u"%1/%2.png"_s.arg(m_folder, name);
     if (!picture.save(path, nullptr, 0))
         throw WaitingFailed("the picture " + path.toStdString() + " could not be saved");
 }

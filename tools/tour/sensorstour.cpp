@@ -10,6 +10,8 @@
 #include <cmath>
 #include <numbers>
 
+using namespace Qt::StringLiterals;
+
 /// A slider with its text field.
 struct SensorsTour::Field
 {
@@ -44,7 +46,7 @@ static QString compassCall(int azimuth)
 {
     static constexpr double fluxDensity = 4.358898943540674e-05; // tesla
     const double angle = -azimuth * std::numbers::pi / 180;
-    return QStringLiteral("setMagnetometerValues double:%1 double:%2 double:0")
+    return u"setMagnetometerValues double:%1 double:%2 double:0"_s
         .arg(std::sin(angle) * fluxDensity)
         .arg(std::cos(angle) * fluxDensity);
 }
@@ -53,8 +55,8 @@ static QString callFor(const char *method, const char *type, double multiplier, 
 {
     if (qstrcmp(method, "setCompassAzimuth") == 0)
         return compassCall(qRound(shown));
-    return QStringLiteral("%1 %2:%3")
-        .arg(QLatin1String(method), QLatin1String(type), number(shown, type, multiplier));
+    return u"%1 %2:%3"_s.arg(QLatin1StringView(method), QLatin1StringView(type),
+                             number(shown, type, multiplier));
 }
 
 SensorsTour::SensorsTour(const WindowDriver &driver, Journal &journal,
@@ -66,53 +68,52 @@ SensorsTour::SensorsTour(const WindowDriver &driver, Journal &journal,
 
 static QQuickItem *frameOf(const WindowDriver &driver, const char *title)
 {
-    return driver.item(QStringLiteral("SensorControls"), "title", QLatin1String(title));
+    return driver.item(u"SensorControls"_s, "title", QLatin1StringView(title));
 }
 
 static QQuickItem *partOf(const WindowDriver &driver, const char *frame, const char *className,
                           int index)
 {
-    return driver.items(QLatin1String(className), frameOf(driver, frame)).at(index);
+    return driver.items(QLatin1StringView(className), frameOf(driver, frame)).at(index);
 }
 
 void SensorsTour::visitManagement()
 {
     for (const char *sensor : sensors)
-        m_journal.waitForCall(QStringLiteral("enabled string:%1").arg(QLatin1String(sensor)), 0);
+        m_journal.waitForCall(u"enabled string:%1"_s.arg(QLatin1StringView(sensor)), 0);
 
-    m_driver.clickButton(QStringLiteral("Sensors Management"));
-    m_takePicture(QStringLiteral("sensors-management"));
+    m_driver.clickButton(u"Sensors Management"_s);
+    m_takePicture(u"sensors-management"_s);
     // the accelerometer takes the compass and the orientation with it
     for (const char *box : {"Accelerometer", "Magnetometer", "Gyroscope", "Light Sensor",
                             "Proximity Sensor", "Tap Sensor"})
-        m_driver.clickButton(QLatin1String(box));
-    m_takePicture(QStringLiteral("sensors-management-changed"));
-    m_driver.clickButton(QStringLiteral("Reset"));
-    m_driver.clickButton(QStringLiteral("Accelerometer"));
-    m_driver.clickButton(QStringLiteral("Magnetometer"));
+        m_driver.clickButton(QLatin1StringView(box));
+    m_takePicture(u"sensors-management-changed"_s);
+    m_driver.clickButton(u"Reset"_s);
+    m_driver.clickButton(u"Accelerometer"_s);
+    m_driver.clickButton(u"Magnetometer"_s);
     for (const char *box : {"Gyroscope", "Light Sensor", "Proximity Sensor", "Tap Sensor"})
-        m_driver.clickButton(QLatin1String(box));
+        m_driver.clickButton(QLatin1StringView(box));
     applyAll(false);
-    m_driver.clickButton(QStringLiteral("Sensors Values"));
-    m_takePicture(QStringLiteral("sensors-values-off"));
+    m_driver.clickButton(u"Sensors Values"_s);
+    m_takePicture(u"sensors-values-off"_s);
 
-    m_driver.clickButton(QStringLiteral("Sensors Management"));
+    m_driver.clickButton(u"Sensors Management"_s);
     // the compass brings the accelerometer and the magnetometer back
     for (const char *box : {"Compass", "Orientation Sensor", "Gyroscope", "Light Sensor",
                             "Proximity Sensor", "Tap Sensor"})
-        m_driver.clickButton(QLatin1String(box));
+        m_driver.clickButton(QLatin1StringView(box));
     applyAll(true);
 }
 
 void SensorsTour::applyAll(bool enabled)
 {
     const qsizetype start = m_journal.position();
-    m_driver.clickButton(QStringLiteral("Apply"));
+    m_driver.clickButton(u"Apply"_s);
     for (const char *sensor : sensors) {
         m_journal.waitForCall(
-            QStringLiteral("%1 string:%2")
-                .arg(enabled ? QStringLiteral("enableSensor") : QStringLiteral("disableSensor"),
-                     QLatin1String(sensor)),
+            u"%1 string:%2"_s.arg(enabled ? u"enableSensor"_s : u"disableSensor"_s,
+                                  QLatin1StringView(sensor)),
             start);
     }
 }
@@ -163,7 +164,7 @@ void SensorsTour::visitValues()
           {"Undefined", "setTapSensorValue int32:-1"}}},
     };
 
-    m_driver.clickButton(QStringLiteral("Sensors Values"));
+    m_driver.clickButton(u"Sensors Values"_s);
     for (const Field &field : fields)
         drag(field);
     for (const Field &field : fields)
@@ -171,12 +172,12 @@ void SensorsTour::visitValues()
     changeMagneticField();
     for (const Choice &choice : choices)
         choose(choice);
-    m_takePicture(QStringLiteral("sensors-values"));
+    m_takePicture(u"sensors-values"_s);
     resetValues();
 
     const QSize size = m_driver.window()->size();
     m_driver.window()->resize(size * 2 / 3);
-    m_takePicture(QStringLiteral("sensors-values-small"));
+    m_takePicture(u"sensors-values-small"_s);
     m_driver.window()->resize(size);
 }
 
@@ -184,22 +185,22 @@ void SensorsTour::checkMissing(const QStringList &titles)
 {
     const auto isShown = [this](const char *className, const char *property, const QString &title) {
         return std::ranges::any_of(
-            m_driver.items(QLatin1String(className)),
+            m_driver.items(QLatin1StringView(className)),
             [&](const QQuickItem *item) { return item->property(property).toString() == title; });
     };
     const auto checkPage = [&](const char *page, const char *className, const char *property) {
-        m_driver.clickButton(QLatin1String(page));
+        m_driver.clickButton(QLatin1StringView(page));
         for (const char *title : {"Accelerometer", "Proximity Sensor", "Tap Sensor"}) {
-            waitFor(QStringLiteral("\"%1\" on the page %2")
-                        .arg(QLatin1String(title), QLatin1String(page)),
-                    [&] {
-                        return isShown(className, property, QLatin1String(title))
-                               != titles.contains(QLatin1String(title));
-                    });
+            waitFor(
+                u"\"%1\" on the page %2"_s.arg(QLatin1StringView(title), QLatin1StringView(page)),
+                [&] {
+                    return isShown(className, property, QLatin1StringView(title))
+                           != titles.contains(QLatin1StringView(title));
+                });
         }
         if (!titles.isEmpty())
-            m_takePicture(QString(QLatin1String(page)).toLower().replace(u' ', u'-')
-                          + QStringLiteral("-fewer"));
+            m_takePicture(QString(QLatin1StringView(page)).toLower().replace(u' ', u'-')
+                          + u"-fewer"_s);
     };
     checkPage("Sensors Management", "QQuickCheckBox", "text");
     checkPage("Sensors Values", "SensorControls", "title");
@@ -219,7 +220,7 @@ void SensorsTour::type(const Field &field)
 {
     const QQuickItem *text = partOf(m_driver, field.frame, "QQuickTextField", field.index);
     const qsizetype start = m_journal.position();
-    m_driver.type(text, QLatin1String(field.text));
+    m_driver.type(text, QLatin1StringView(field.text));
     m_journal.waitForCall(
         callFor(field.method, field.type, field.multiplier, QByteArray(field.text).toDouble()),
         start);
@@ -230,18 +231,18 @@ void SensorsTour::choose(const Choice &choice)
     const QQuickItem *comboBox = partOf(m_driver, choice.frame, "QQuickComboBox", 0);
     for (const auto &[entry, call] : choice.entries) {
         const qsizetype start = m_journal.position();
-        m_driver.choose(comboBox, QLatin1String(entry));
-        m_journal.waitForCall(QLatin1String(call), start);
+        m_driver.choose(comboBox, QLatin1StringView(entry));
+        m_journal.waitForCall(QLatin1StringView(call), start);
     }
 }
 
 void SensorsTour::clickProximityButtons()
 {
     const qsizetype start = m_journal.position();
-    m_driver.clickButton(QStringLiteral("Near"));
-    m_journal.waitForCall(QStringLiteral("setProximitySensorValue int32:0"), start);
-    m_driver.clickButton(QStringLiteral("Far"));
-    m_journal.waitForCall(QStringLiteral("setProximitySensorValue int32:10"), start);
+    m_driver.clickButton(u"Near"_s);
+    m_journal.waitForCall(u"setProximitySensorValue int32:0"_s, start);
+    m_driver.clickButton(u"Far"_s);
+    m_journal.waitForCall(u"setProximitySensorValue int32:10"_s, start);
 }
 
 // It stays on the host.
@@ -250,8 +251,7 @@ void SensorsTour::changeMagneticField()
     const qsizetype start = m_journal.position();
     for (int axis = 0; axis < 3; ++axis) {
         m_driver.drag(partOf(m_driver, "Magnetic Field", "QQuickSlider", axis), 0.7);
-        m_driver.type(partOf(m_driver, "Magnetic Field", "QQuickTextField", axis),
-                      QStringLiteral("-99.999"));
+        m_driver.type(partOf(m_driver, "Magnetic Field", "QQuickTextField", axis), u"-99.999"_s);
     }
     clickProximityButtons();
     const QStringList calls = m_journal.callsSince(start);
@@ -264,12 +264,12 @@ void SensorsTour::changeMagneticField()
 void SensorsTour::resetValues()
 {
     const qsizetype start = m_journal.position();
-    m_driver.clickButton(QStringLiteral("Reset values"));
+    m_driver.clickButton(u"Reset values"_s);
     for (const char *call :
          {"setAccelerometerValues int32:0 int32:0 int32:1000", "setAlsValue int32:100",
           "setGyroscopeValues double:0 double:0 double:1.14592",
           "setMagnetometerValues double:4.3e-05 double:0 double:0",
           "setMagnetometerCalibrationLevel int32:0", "setProximitySensorValue int32:5",
           "setTapSensorValue int32:-1"})
-        m_journal.waitForCall(QLatin1String(call), start);
+        m_journal.waitForCall(QLatin1StringView(call), start);
 }

@@ -20,6 +20,8 @@
 #include <QScreen>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 /// The picture shows what was drawn last: gives the windows a moment to draw and animate.
 static void settle()
 {
@@ -37,7 +39,7 @@ void Tour::run()
     try {
         visitAll();
     } catch (const WaitingFailed &) {
-        takePicture(QStringLiteral("failure"));
+        takePicture(u"failure"_s);
         throw;
     }
 }
@@ -45,10 +47,10 @@ void Tour::run()
 void Tour::visitAll()
 {
     openWindow();
-    const WindowDriver driver = WindowDriver::waitForWindow(QStringLiteral("Emulation Management"));
-    m_journal.waitForEvent(QStringLiteral("relay-connected"), 0);
-    m_journal.waitForCall(QStringLiteral("setAccelerometerValues int32:0 int32:0 int32:1000"), 0);
-    takePicture(QStringLiteral("window"));
+    const WindowDriver driver = WindowDriver::waitForWindow(u"Emulation Management"_s);
+    m_journal.waitForEvent(u"relay-connected"_s, 0);
+    m_journal.waitForCall(u"setAccelerometerValues int32:0 int32:0 int32:1000"_s, 0);
+    takePicture(u"window"_s);
     visitSensors(driver);
     visitDeviceModel(driver);
     visitLocation(driver);
@@ -58,79 +60,73 @@ void Tour::visitAll()
 
 void Tour::openWindow()
 {
-    say(QStringLiteral("Choosing Tools > Nimbra OS > Emulation Management…"));
+    say(u"Choosing Tools > Nimbra OS > Emulation Management…"_s);
     auto *mainWindow = qobject_cast<QMainWindow *>(Core::ICore::mainWindow());
-    waitFor(QStringLiteral("the IDE's window to be active"),
-            [&] { return mainWindow->isActiveWindow(); });
-    QMenu *menu
-        = MenuDriver::open(mainWindow, {QStringLiteral("Tools"), QStringLiteral("Nimbra OS")});
-    takePicture(QStringLiteral("menu"));
-    MenuDriver::choose(menu, QStringLiteral("Emulation Management…"));
+    waitFor(u"the IDE's window to be active"_s, [&] { return mainWindow->isActiveWindow(); });
+    QMenu *menu = MenuDriver::open(mainWindow, {u"Tools"_s, u"Nimbra OS"_s});
+    takePicture(u"menu"_s);
+    MenuDriver::choose(menu, u"Emulation Management…"_s);
 }
 
 void Tour::chooseDeviceModel(const QString &name)
 {
     auto *mainWindow = qobject_cast<QMainWindow *>(Core::ICore::mainWindow());
     mainWindow->activateWindow();
-    waitFor(QStringLiteral("the IDE's window to be active"),
-            [&] { return mainWindow->isActiveWindow(); });
-    QMenu *menu
-        = MenuDriver::open(mainWindow, {QStringLiteral("Tools"), QStringLiteral("Nimbra OS"),
-                                        QStringLiteral("Device Model")});
+    waitFor(u"the IDE's window to be active"_s, [&] { return mainWindow->isActiveWindow(); });
+    QMenu *menu = MenuDriver::open(mainWindow, {u"Tools"_s, u"Nimbra OS"_s, u"Device Model"_s});
     MenuDriver::choose(menu, name);
 }
 
 void Tour::visitSensors(const WindowDriver &driver)
 {
     SensorsTour tour(driver, m_journal, [this](const QString &name) { takePicture(name); });
-    say(QStringLiteral("Sensors Management: switching every sensor off and on"));
+    say(u"Sensors Management: switching every sensor off and on"_s);
     tour.visitManagement();
-    say(QStringLiteral("Choosing a device model without proximity and tap sensor, and back"));
-    chooseDeviceModel(QStringLiteral("Nimbra Lite"));
-    tour.checkMissing({QStringLiteral("Proximity Sensor"), QStringLiteral("Tap Sensor")});
-    chooseDeviceModel(QStringLiteral("Nimbra Phone"));
+    say(u"Choosing a device model without proximity and tap sensor, and back"_s);
+    chooseDeviceModel(u"Nimbra Lite"_s);
+    tour.checkMissing({u"Proximity Sensor"_s, u"Tap Sensor"_s});
+    chooseDeviceModel(u"Nimbra Phone"_s);
     tour.checkMissing({});
-    say(QStringLiteral("Sensors Values: dragging, typing and choosing"));
+    say(u"Sensors Values: dragging, typing and choosing"_s);
     tour.visitValues();
 }
 
 void Tour::visitDeviceModel(const WindowDriver &driver)
 {
-    say(QStringLiteral("Orientation Management: turning and moving the device"));
+    say(u"Orientation Management: turning and moving the device"_s);
     const qsizetype start = m_journal.position();
     {
         // the device model is about to replace the values that were set by hand
         const MessageBoxAnswers answers(QMessageBox::Ok);
-        driver.clickButton(QStringLiteral("Orientation Management"));
+        driver.clickButton(u"Orientation Management"_s);
         if (answers.boxes().size() != 1)
             throw WaitingFailed("no warning came before the device model's page");
     }
-    m_journal.waitForCall(QStringLiteral("setGyroscopeValues double:0 double:0 double:0"), start);
+    m_journal.waitForCall(u"setGyroscopeValues double:0 double:0 double:0"_s, start);
     driver.window()->raise(); // the warning has raised the IDE
     DeviceModelTour(driver, m_journal, [this](const QString &name) { takePicture(name); }).run();
 }
 
 void Tour::visitLocation(const WindowDriver &driver)
 {
-    const QString page = QStringLiteral("GPS Management");
+    const QString page = u"GPS Management"_s;
     say(page);
     driver.clickButton(page);
-    takePicture(QStringLiteral("gps-management"));
+    takePicture(u"gps-management"_s);
     LocationTour(driver, m_journal, [this](const QString &name) {
         takePicture(name);
-    }).visit(QStringLiteral(SAMPLE_TRACK));
+    }).visit(SAMPLE_TRACK);
 }
 
 void Tour::takePicture(const QString &name)
 {
     settle();
-    const QString path = QStringLiteral("%1/%2-%3.png")
-                             .arg(m_pictureFolder)
-                             .arg(++m_pictureCount, 2, 10, QLatin1Char('0'))
+    const QString path = u"%1/%2-%3.png"_s.arg(m_pictureFolder)
+                             .arg(++m_pictureCount, 2, 10, QChar(u'0'))
                              .arg(name);
     if (!QGuiApplication::primaryScreen()->grabWindow().save(path))
         throw WaitingFailed("the picture " + path.toStdString() + " could not be saved");
-    say(QStringLiteral("  picture %1").arg(path));
+    say(u"  picture %1"_s.arg(path));
 }
 
 void Tour::printCalls()
@@ -143,8 +139,7 @@ void Tour::printCalls()
         ++count;
         last = call;
     }
-    say(QStringLiteral("The emulator received %1 calls; of each method the last:")
-            .arg(received.size()));
+    say(u"The emulator received %1 calls; of each method the last:"_s.arg(received.size()));
     for (const auto &[count, last] : std::as_const(calls))
-        say(QStringLiteral("  %1 × %2").arg(count, 4).arg(last.left(longestCall)));
+        say(u"  %1 × %2"_s.arg(count, 4).arg(last.left(longestCall)));
 }

@@ -20,6 +20,8 @@
 
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 /// Quits the IDE as the user does, with the tool's window open. The process ends with a signal if
 /// that takes too long.
 static void quit()
@@ -28,16 +30,14 @@ static void quit()
     alarm(limit);
     auto *mainWindow = qobject_cast<QMainWindow *>(Core::ICore::mainWindow());
     if (qEnvironmentVariableIsSet("TOUR_CLOSE")) {
-        say(QStringLiteral("Closing the IDE's window"));
+        say(u"Closing the IDE's window"_s);
         mainWindow->windowHandle()->close();
         return;
     }
-    say(QStringLiteral("Choosing File > Exit"));
+    say(u"Choosing File > Exit"_s);
     mainWindow->activateWindow();
-    waitFor(QStringLiteral("the IDE's window to be active"),
-            [&] { return mainWindow->isActiveWindow(); });
-    MenuDriver::choose(MenuDriver::open(mainWindow, {QStringLiteral("File")}),
-                       QStringLiteral("Exit"));
+    waitFor(u"the IDE's window to be active"_s, [&] { return mainWindow->isActiveWindow(); });
+    MenuDriver::choose(MenuDriver::open(mainWindow, {u"File"_s}), u"Exit"_s);
 }
 
 static void runTour()

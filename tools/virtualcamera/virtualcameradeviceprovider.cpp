@@ -10,10 +10,10 @@
 #include <thread>
 #include <utility>
 
-namespace {
-
 // Often enough that a person or a test does not wait, and next to nothing for a file this small.
-constexpr std::chrono::milliseconds watchInterval(5);
+static constexpr std::chrono::milliseconds watchInterval(5);
+
+namespace {
 
 struct Device
 {
@@ -54,9 +54,11 @@ struct ProviderClass
     GstDeviceProviderClass provider;
 };
 
-GType deviceType = G_TYPE_INVALID;
+} // namespace
 
-GstDevice *createDevice(const VirtualCamera &camera)
+static GType deviceType = G_TYPE_INVALID;
+
+static GstDevice *createDevice(const VirtualCamera &camera)
 {
     GstCaps *caps = gst_caps_from_string(camera.caps.c_str());
     auto *device = static_cast<GstDevice *>(g_object_new(deviceType, "display-name",
@@ -105,7 +107,7 @@ void Watch::update()
     }
 }
 
-void initDeviceClass(gpointer deviceClass, gpointer)
+static void initDeviceClass(gpointer deviceClass, gpointer)
 {
     G_OBJECT_CLASS(deviceClass)->finalize = [](GObject *object) {
         delete reinterpret_cast<Device *>(object)->camera;
@@ -116,7 +118,7 @@ void initDeviceClass(gpointer deviceClass, gpointer)
     };
 }
 
-void initProviderClass(gpointer providerClass, gpointer)
+static void initProviderClass(gpointer providerClass, gpointer)
 {
     GstDeviceProviderClass *overrides = GST_DEVICE_PROVIDER_CLASS(providerClass);
     overrides->probe = [](GstDeviceProvider *) {
@@ -136,8 +138,6 @@ void initProviderClass(gpointer providerClass, gpointer)
                                                   "Lists the cameras of a text file",
                                                   "The Emulation Management developers");
 }
-
-} // namespace
 
 bool registerVirtualCameraDeviceProvider(GstPlugin *plugin)
 {

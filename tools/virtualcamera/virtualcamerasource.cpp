@@ -28,7 +28,9 @@ struct Kind
     std::array<const char *, 2> properties; // the number of a property is its place, from 1 on
 };
 
-constexpr std::array kinds{
+} // namespace
+
+static constexpr std::array kinds{
     Kind{"virtualcamerasrc", {"device"}},
     Kind{"virtualcameraindexsrc", {"device-index"}},
     Kind{"virtualcamerapathsrc", {"device-path"}},
@@ -36,15 +38,15 @@ constexpr std::array kinds{
     Kind{"virtualcameraplainsrc", {}},
 };
 
-constexpr const char *indexProperty = "device-index";
+static constexpr const char *indexProperty = "device-index";
 
-GstBinClass *parentClass(gpointer instance)
+static GstBinClass *parentClass(gpointer instance)
 {
     return GST_BIN_CLASS(g_type_class_peek_parent(G_OBJECT_GET_CLASS(instance)));
 }
 
 /// The camera that the properties select, if it is plugged in.
-std::optional<VirtualCamera> selectedCamera(const Source *source)
+static std::optional<VirtualCamera> selectedCamera(const Source *source)
 {
     const auto isSelected = [source](const VirtualCamera &camera) {
         return std::ranges::all_of(*source->properties, [&camera](const auto &property) {
@@ -58,7 +60,7 @@ std::optional<VirtualCamera> selectedCamera(const Source *source)
     return camera == cameras.end() ? std::nullopt : std::optional(*camera);
 }
 
-void setProperty(GObject *object, guint, const GValue *value, GParamSpec *property)
+static void setProperty(GObject *object, guint, const GValue *value, GParamSpec *property)
 {
     auto &properties = *reinterpret_cast<Source *>(object)->properties;
     if (G_VALUE_HOLDS_INT(value)) {
@@ -69,7 +71,7 @@ void setProperty(GObject *object, guint, const GValue *value, GParamSpec *proper
     }
 }
 
-void getProperty(GObject *object, guint, GValue *value, GParamSpec *property)
+static void getProperty(GObject *object, guint, GValue *value, GParamSpec *property)
 {
     const auto &properties = *reinterpret_cast<Source *>(object)->properties;
     const auto found = properties.find(property->name);
@@ -81,14 +83,14 @@ void getProperty(GObject *object, guint, GValue *value, GParamSpec *property)
         g_value_set_string(value, found->second.c_str());
 }
 
-void finalize(GObject *object)
+static void finalize(GObject *object)
 {
     delete reinterpret_cast<Source *>(object)->properties;
     G_OBJECT_CLASS(parentClass(object))->finalize(object);
 }
 
 /// What the camera gives. Where its caps tell no format it is that of most cameras.
-GstCaps *capsOf(const VirtualCamera &camera)
+static GstCaps *capsOf(const VirtualCamera &camera)
 {
     GstCaps *caps = gst_caps_from_string(camera.caps.c_str());
     const guint size = caps ? gst_caps_get_size(caps) : 0;
@@ -101,13 +103,13 @@ GstCaps *capsOf(const VirtualCamera &camera)
 }
 
 /// Each camera sees something else: colour bars, circles, checkers or a ball.
-int patternOf(const VirtualCamera &camera)
+static int patternOf(const VirtualCamera &camera)
 {
     constexpr std::array patterns{0, 11, 10, 18}; // of videotestsrc
     return patterns.at(std::hash<std::string>()(camera.name) % patterns.size());
 }
 
-GstStateChangeReturn changeState(GstElement *element, GstStateChange transition)
+static GstStateChangeReturn changeState(GstElement *element, GstStateChange transition)
 {
     auto *source = reinterpret_cast<Source *>(element);
     if (transition == GST_STATE_CHANGE_NULL_TO_READY) {
@@ -126,7 +128,7 @@ GstStateChangeReturn changeState(GstElement *element, GstStateChange transition)
     return GST_ELEMENT_CLASS(parentClass(element))->change_state(element, transition);
 }
 
-GstPadProbeReturn failWithoutCamera(GstPad *, GstPadProbeInfo *info, gpointer source)
+static GstPadProbeReturn failWithoutCamera(GstPad *, GstPadProbeInfo *info, gpointer source)
 {
     if (selectedCamera(static_cast<Source *>(source)))
         return GST_PAD_PROBE_OK;
@@ -135,7 +137,7 @@ GstPadProbeReturn failWithoutCamera(GstPad *, GstPadProbeInfo *info, gpointer so
     return GST_PAD_PROBE_HANDLED;
 }
 
-void initInstance(GTypeInstance *instance, gpointer)
+static void initInstance(GTypeInstance *instance, gpointer)
 {
     auto *source = reinterpret_cast<Source *>(instance);
     source->properties = new std::map<std::string, std::string>;
@@ -151,7 +153,7 @@ void initInstance(GTypeInstance *instance, gpointer)
     gst_object_unref(pad);
 }
 
-void initClass(gpointer sourceClass, gpointer data)
+static void initClass(gpointer sourceClass, gpointer data)
 {
     GObjectClass *objectClass = G_OBJECT_CLASS(sourceClass);
     objectClass->set_property = setProperty;
@@ -172,8 +174,6 @@ void initClass(gpointer sourceClass, gpointer data)
                                           "Source/Video", "Shows the pictures of a virtual camera",
                                           "The Emulation Management developers");
 }
-
-} // namespace
 
 bool registerVirtualCameraSources(GstPlugin *plugin)
 {
