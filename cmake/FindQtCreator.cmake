@@ -1,9 +1,9 @@
-# Finds a Qt Creator to build plugins for and gives the targets of its official development
+# Finds a Qt Creator to build plugins for and provides the targets of its official development
 # package: QtCreator::Core, QtCreator::ExtensionSystem and QtCreator::Utils.
 #
-# That package is taken where it is installed. Elsewhere (Debian has none) the libraries of the
-# installed IDE are used with the headers of the same version's source archive, looked for in
-# QtCreator_SOURCE_DIR and /usr/src/qtcreator-<version>.
+# If that package is not installed (Debian has none), the targets use the libraries of the installed
+# IDE and the headers of the same version's source archive. QtCreator_SOURCE_DIR names the archive's
+# folder; the default is /usr/src/qtcreator-<version>.
 #
 # Sets QtCreator_VERSION and, relative to the prefix that the IDE is installed under,
 # QtCreator_BINARY_PATH, QtCreator_LIBRARY_PATH, QtCreator_PLUGIN_PATH and QtCreator_DATA_PATH.

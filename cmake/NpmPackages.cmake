@@ -1,7 +1,7 @@
 # Installs the packages that package.json names into the build folder.
 #
 # npm takes them from its registry or its cache, checks them against package-lock.json and runs
-# none of their scripts. What is installed stays until the lock file changes: only the first
+# none of their scripts. The packages stay until the lock file changes, so only the first
 # configuration needs the network.
 #
 # Sets NpmPackages_DIR to the folder that holds a folder for each package.

@@ -1,4 +1,4 @@
-# What every target of the project is built with.
+# The options of all targets of the project.
 
 option(WARNINGS_AS_ERRORS "Treat warnings of the project's own code as errors" OFF)
 set(SANITIZE "" CACHE STRING "Sanitizers to build everything with, for example address,undefined")
@@ -53,7 +53,7 @@ function(add_ide_plugin target)
     target_link_libraries(${target} PRIVATE
         ${arg_LIBRARIES} QtCreator::Core QtCreator::ExtensionSystem QtCreator::Utils
         ide_options)
-    # moc reads the metadata but CMake does not see that
+    # moc reads the metadata file, a dependency that CMake does not see by itself
     set_property(TARGET ${target} APPEND PROPERTY AUTOMOC_DEPEND_FILTERS
         "Q_PLUGIN_METADATA" "FILE *\"([^\"]+)\"")
     set_target_properties(${target} PROPERTIES

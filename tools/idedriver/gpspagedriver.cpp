@@ -37,7 +37,7 @@ void GpsPageDriver::openTrack(const QString &path, bool vanishing) const
     }
     if (!dialog)
         throw WaitingFailed("the page has no file dialog");
-    // the dialog starts with the file chosen
+    // the dialog opens with this file selected
     dialog->setProperty("selectedFile", QUrl::fromLocalFile(path));
     m_driver.clickButton(u"…"_s);
     QQuickWindow *window = nullptr;

@@ -9,11 +9,11 @@ public:
     /// Shows the page.
     explicit GpsPageDriver(const WindowDriver &driver);
 
-    /// Chooses a file in the page's dialog. With \a vanishing it is gone when the page reads it.
+    /// Chooses a file in the page's dialog. \a vanishing deletes it before the page reads it.
     void openTrack(const QString &path, bool vanishing = false) const;
     /// Types into the field with this label and presses Enter.
     void type(const QString &label, const QString &text) const;
-    /// Clicks "Play", "Pause" or "Stop" once that can be clicked.
+    /// Clicks "Play", "Pause" or "Stop" once it is enabled.
     void clickTrackButton(const QString &name) const;
     void clickRow(int row) const;
 

@@ -8,7 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-// Bus, service, object path and interface stand before the method in a request line.
+// Bus, service, object path and interface precede the method in a request line.
 static constexpr qsizetype addressFieldCount = 4;
 
 Journal::Journal(const QString &path)
@@ -71,7 +71,7 @@ void Journal::waitForCall(const QString &call, qsizetype since)
 
 void Journal::read()
 {
-    // the file comes into being when the emulator starts
+    // the emulator creates the file when it starts
     if (!m_file.isOpen() && (!m_file.exists() || !m_file.open(QIODevice::ReadOnly)))
         return;
     m_partialLine += m_file.readAll();

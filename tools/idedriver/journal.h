@@ -23,7 +23,7 @@ public:
     [[nodiscard]] QList<QJsonObject> entriesSince(qsizetype position);
     /// The number of entries of this event, for example "ssh".
     [[nodiscard]] qsizetype countSince(qsizetype position, const QString &event);
-    /// The texts of the D-Bus calls "method arguments", without the address.
+    /// The D-Bus calls as "method arguments", without the address.
     [[nodiscard]] QStringList callsSince(qsizetype position);
 
     /// Waits for an entry of this event, for example "ready".

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace MenuDriver {
 
-/// Uses an entry of a menu or menu bar as the mouse does.
+/// Clicks an entry of a menu or menu bar with the mouse and returns its action.
 template<typename Menu>
 static QAction *use(Menu *menu, const QString &text)
 {
@@ -30,7 +30,7 @@ static QAction *use(Menu *menu, const QString &text)
         action = found == actions.end() ? nullptr : *found;
         return action != nullptr;
     });
-    // Events to the window go the way of real ones, through the grab of the menus that are open.
+    // Events to the window pass through the grab of open menus, as real events do.
     QWindow *window = menu->window()->windowHandle();
     const QPoint position = menu->mapTo(menu->window(), menu->actionGeometry(action).center());
     QTest::mouseMove(window, position - QPoint(1, 1));
@@ -39,7 +39,7 @@ static QAction *use(Menu *menu, const QString &text)
     return action;
 }
 
-/// Opens the menus along the path; returns the last, or null when one of them closed again.
+/// Opens the menus of \a path; returns the last one, or null when a menu does not stay open.
 static QMenu *tryToOpen(QMainWindow *mainWindow, const QStringList &path)
 {
     static constexpr int limit = 2000; // ms
@@ -55,7 +55,7 @@ static QMenu *tryToOpen(QMainWindow *mainWindow, const QStringList &path)
 QMenu *open(QMainWindow *mainWindow, const QStringList &path)
 {
     QMenu *menu = nullptr;
-    // menus close when the window manager is late to activate another window
+    // Tries again: open menus close when the window manager activates another window late.
     waitFor(u"the menu \"%1\" to open"_s.arg(path.last()), [&] {
         menu = tryToOpen(mainWindow, path);
         while (!menu && QApplication::activePopupWidget())

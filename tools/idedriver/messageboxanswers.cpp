@@ -37,6 +37,6 @@ void MessageBoxAnswers::answer()
                    box->checkBox() && box->checkBox()->isVisible()};
     if (box->checkBox())
         box->checkBox()->setChecked(m_tick);
-    if (QAbstractButton *button = box->button(m_answer)) // the IDE has boxes of its own
+    if (QAbstractButton *button = box->button(m_answer)) // boxes of the IDE may lack it
         button->click();
 }

@@ -5,7 +5,7 @@
 #include <QPointer>
 #include <QTimer>
 
-/// Answers the modal message boxes that open during its life, and keeps what they said.
+/// Answers the modal message boxes that open while it exists, and keeps their texts.
 class MessageBoxAnswers : public QObject
 {
 public:
@@ -20,7 +20,7 @@ public:
         bool hasVisibleCheckBox;
     };
 
-    /// With \a tick the boxes' check box is ticked first, visible or not.
+    /// \a tick also ticks the check box of the boxes, visible or not.
     explicit MessageBoxAnswers(QMessageBox::StandardButton answer, bool tick = false);
 
     [[nodiscard]] const QList<Box> &boxes() const { return m_boxes; }

@@ -80,7 +80,7 @@ Ravik::VirtualMachine *machine()
 
 void openWindow(Journal &journal)
 {
-    // A link that is up by itself already is opened once more when the window is shown.
+    // Showing the window opens the link again, even when it is open already.
     QSignalSpy connected(invoker(), SIGNAL(webSocketConnected()));
     qsizetype connectedBefore = -1;
     qsizetype start = 0;
@@ -92,7 +92,7 @@ void openWindow(Journal &journal)
     chooseAction();
     waitFor(u"the window and the link"_s,
             [&] { return connectedBefore >= 0 && connected.size() > connectedBefore; });
-    // The GPS manager sets the emulator up twice, before and after the sensors.
+    // The GPS manager sends its settings twice, before and after those of the sensors.
     waitFor(u"the emulator to be set up"_s,
             [&] { return journal.callsSince(start).filter(u"setPosition "_s).size() == 2; });
 }

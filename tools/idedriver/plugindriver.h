@@ -11,7 +11,7 @@ class HostSdk;
 class VirtualMachine;
 } // namespace Ravik
 
-/// Reaches the plugin as the IDE, the SDK and the emulator see it.
+/// Gives access to the plugin through the IDE, the SDK and the emulator.
 namespace PluginDriver {
 
 /// The tool window, shown or hidden.
@@ -22,7 +22,7 @@ QObject *gpsManager();
 QObject *sensorsManager();
 QObject *invoker();
 
-/// Does what choosing "Emulation Management…" in the menu does.
+/// Triggers the menu's action "Emulation Management…".
 void chooseAction();
 
 Ravik::HostSdk *sdk();
@@ -33,7 +33,7 @@ Ravik::VirtualMachine *machine();
 void openWindow(Journal &journal);
 void stopMachine();
 QString dataFolder(const Ravik::Emulator *emulator);
-/// Asks a fault of the running emulator.
+/// Requests a fault of the running emulator; throws WaitingFailed when it refuses.
 void control(const QString &command);
 
 } // namespace PluginDriver

@@ -6,7 +6,7 @@
 #include <functional>
 #include <stdexcept>
 
-/// Something did not come about in time; what() says what.
+/// A condition was not met in time; what() names it.
 class WaitingFailed : public std::runtime_error
 {
 public:

@@ -32,7 +32,7 @@ static void collect(QQuickItem *item, const QString &className, QList<QQuickItem
 
 static QPoint centreOf(const QQuickItem *item)
 {
-    // by way of the screen: a dialog has a window of its own
+    // by screen coordinates, because a dialog has its own window
     const QPointF centre = item->mapToGlobal(QPointF(item->width() / 2, item->height() / 2));
     return item->window()->mapFromGlobal(centre).toPoint();
 }
@@ -91,7 +91,7 @@ void WindowDriver::click(const QQuickItem *item) const
 {
     waitFor(u"the layout to be done"_s,
             [&] { return QRect(QPoint(), m_window->size()).contains(centreOf(item)); });
-    // a click on a window activates it
+    // a real click activates the window
     m_window->requestActivate();
     waitFor(u"the window to be active"_s, [&] { return m_window->isActive(); });
     QTest::mouseClick(m_window, Qt::LeftButton, {}, centreOf(item));

@@ -6,7 +6,7 @@
 class QQuickItem;
 class QQuickWindow;
 
-/// Finds what a user sees in a QML window and uses it with mouse and keyboard.
+/// Finds the visible items of a QML window and uses them with mouse and keyboard.
 class WindowDriver
 {
 public:
@@ -18,12 +18,12 @@ public:
     [[nodiscard]] QQuickWindow *window() const;
 
     /*!
-     * The visible items below \a root (or in the window) of a QML or C++ class, "Slider" or
-     * "QQuickSlider", in the order of the sources.
+     * The visible items of a QML or C++ class, for example "Slider" or "QQuickSlider", below
+     * \a root or in the whole window, in the order of the sources.
      */
     [[nodiscard]] QList<QQuickItem *> items(const QString &className,
                                             QQuickItem *root = nullptr) const;
-    /// The one visible item of a class whose property has a value; waits for it.
+    /// Waits for the visible, enabled item of a class whose property has this value.
     [[nodiscard]] QQuickItem *item(const QString &className, const char *property,
                                    const QString &value) const;
 

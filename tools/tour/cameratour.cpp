@@ -12,7 +12,7 @@
 
 using namespace Qt::StringLiterals;
 
-// Smaller than the page, which scrolls then.
+// Smaller than the page, so that the page scrolls.
 static constexpr QSize smallSize(600, 250);
 
 static QString cameraFile()
@@ -33,7 +33,7 @@ static void unplug(const QByteArray &camera)
         throw WaitingFailed("the virtual cameras cannot be written");
 }
 
-/// The dialog that is open, in a window of its own.
+/// The open dialog, which has its own window.
 static WindowDriver openDialog()
 {
     QQuickWindow *dialog = nullptr;
@@ -161,7 +161,7 @@ void CameraTour::leavePage()
 
 void CameraTour::chooseFile(const QString &name, const QString &button)
 {
-    // where the dialog begins
+    // the dialog opens in this folder
     QDir::setCurrent(qEnvironmentVariable("TOUR_VIDEOS"));
     m_driver.clickButton(u"…"_s);
     const WindowDriver dialog = openDialog();

@@ -8,8 +8,8 @@
 
 #include <functional>
 
-/// The part of the tour on the camera page: streams virtual cameras and a video file, and asks the
-/// emulator for their pictures.
+/// The part of the tour on the camera page: streams virtual cameras and a video file, and checks
+/// which pictures the emulator receives.
 class CameraTour
 {
 public:

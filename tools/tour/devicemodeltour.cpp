@@ -18,7 +18,7 @@ static constexpr double gravity = 9.80665;
 static constexpr double unitsPerG = 1000;
 static constexpr double fieldPart = 9.9999e-05; // T along each axis, as the tour of sensors left it
 
-/// What the emulator was told of the gyroscope's z, in degrees per second.
+/// The gyroscope's z values that the emulator received, in degrees per second.
 static QList<double> gyroscopeSamples(Journal &journal, qsizetype since)
 {
     QList<double> samples;
@@ -151,7 +151,7 @@ void DeviceModelTour::moveWithMouse()
     waitForAcceleration(0, 1000, 0, start);
     start = m_journal.position();
     QTest::mousePress(m_driver.window(), Qt::LeftButton, {}, inArea(0.5, 0.5));
-    QTest::mouseMove(m_driver.window(), inArea(0.75, 0.25)); // half of the width is 3
+    QTest::mouseMove(m_driver.window(), inArea(0.75, 0.25)); // half of the area's width is 3
     QTest::mouseRelease(m_driver.window(), Qt::LeftButton, {}, inArea(0.75, 0.25));
     QTest::wheelEvent(m_driver.window(), inArea(0.5, 0.5), QPoint(0, 120));
     waitFor(u"a move by drag and wheel"_s, [&] {
@@ -160,7 +160,7 @@ void DeviceModelTour::moveWithMouse()
                && qFuzzyCompare(values.at(2), 0.2);
     });
     m_takePicture(u"device-model-moved"_s);
-    // a push and a stop within two periods, and rest
+    // the device speeds up and stops within two periods, and rests then
     const double push = sliderValues().at(0) * metresPerUnit * 2 / (period * period);
     const auto x = static_cast<int>(push / gravity * unitsPerG);
     waitFor(u"the push and the stop"_s, [&] {
@@ -178,7 +178,7 @@ void DeviceModelTour::moveWithMouse()
 void DeviceModelTour::turnSlowly()
 {
     static constexpr int degrees = 90;
-    static constexpr int milliseconds = 30; // for a degree
+    static constexpr int milliseconds = 30; // per degree
     const auto waitForRest = [this] {
         const qsizetype start = m_journal.position();
         waitFor(u"the gyroscope to rest"_s, [&] {

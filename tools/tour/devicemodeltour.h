@@ -9,10 +9,10 @@
 #include <functional>
 
 /*!
- * The tour of the device model's page: turns and moves the device with every control, key, drag and
- * wheel, and checks what the emulator's accelerometer, gyroscope and magnetometer are told.
+ * The part of the tour on the device model's page: turns and moves the device with every control,
+ * key, drag and wheel, and checks the readings that the emulator receives.
  *
- * The page must be shown, with -99.999 μT along each axis of the magnetic field.
+ * The page must be visible, with -99.999 μT along each axis of the magnetic field.
  */
 class DeviceModelTour
 {
@@ -21,7 +21,7 @@ public:
 
     DeviceModelTour(const WindowDriver &driver, Journal &journal, const TakePicture &takePicture);
 
-    /// Throws WaitingFailed when the device or the emulator is not where it should be.
+    /// Throws WaitingFailed when the device or the emulator does not reach the expected state.
     void run();
 
 private:
@@ -36,7 +36,7 @@ private:
 
     /// A point of the window, by fractions of the model's area.
     [[nodiscard]] QPoint inArea(double x, double y) const;
-    /// The values of the sliders that are shown.
+    /// The values of the visible sliders.
     [[nodiscard]] QList<double> sliderValues() const;
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const;
     void waitForSliders(const QString &what, const QList<double> &values) const;

@@ -7,12 +7,12 @@
 
 class GpsPageDriver;
 
-/// Sets a position, plays a track at five times its speed, goes elsewhere on it, and checks where
-/// the emulator is.
+/// The part of the tour on the GPS page: sets a position, plays a track at five times its speed,
+/// goes to another point, and checks the emulator's position.
 class LocationTour
 {
 public:
-    /// \a takePicture saves one under the name that it is given.
+    /// \a takePicture saves a picture under the given name.
     LocationTour(const WindowDriver &driver, Journal &journal,
                  std::function<void(const QString &)> takePicture);
 

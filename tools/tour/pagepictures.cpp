@@ -17,13 +17,13 @@
 
 using namespace Qt::StringLiterals;
 
-/// Shows a page by its place in the column of buttons.
+/// Shows the page of the button with this index.
 static void showPage(const WindowDriver &driver, qsizetype index)
 {
     driver.click(driver.items(u"PageButton"_s).at(index));
 }
 
-/// Reduces a picture to its most frequent colours, which make its file a quarter as large.
+/// Reduces a picture to its most frequent colours, which quarters the size of its file.
 static QImage withPalette(const QImage &picture)
 {
     static constexpr qsizetype paletteSize = 256;
@@ -34,7 +34,7 @@ static QImage withPalette(const QImage &picture)
             ++counts[opaque.pixel(x, y)];
     }
     QList<QRgb> colors = counts.keys();
-    // also by colour, so that the same picture makes the same file
+    // Also sorts by colour, so that the same picture always gives the same file.
     std::ranges::sort(colors, std::greater(),
                       [&](QRgb color) { return std::pair(counts[color], color); });
     colors.resize(std::min(colors.size(), paletteSize));
@@ -64,7 +64,7 @@ void PagePictures::take()
 
     showPage(driver, 3);
     QQuickItem *gpsPage = driver.items(u"GpsManagementPage"_s).constFirst();
-    // the picture shows where the file is
+    // the page shows the path, which must be the same on every machine
     const QString track = QDir::temp().filePath(u"lake.nmea"_s);
     QFile::copy(SAMPLE_TRACK, track);
     const qsizetype start = m_journal.position();

@@ -8,10 +8,10 @@
 class PagePictures
 {
 public:
-    /// The folder exists; pictures in it are replaced.
+    /// \a folder must exist; pictures in it are replaced.
     PagePictures(QString folder, const QString &journalPath);
 
-    /// Throws WaitingFailed when the window does not get to what is to be shown.
+    /// Throws WaitingFailed when a page does not appear.
     void take();
 
 private:

@@ -2,5 +2,5 @@
 
 #include <QString>
 
-/// Prints a line of what the tour does, at once.
+/// Prints a line about the tour's progress and flushes it.
 void say(const QString &line);

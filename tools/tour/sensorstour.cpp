@@ -21,17 +21,17 @@ struct SensorsTour::Field
     const char *text;
     const char *method;
     const char *type;
-    double multiplier; ///< from what is shown to what is sent
+    double multiplier; ///< from the shown value to the sent one
 };
 
-/// The entries of a combo box with the calls that choosing each makes.
+/// The entries of a combo box, each with the call that choosing it makes.
 struct SensorsTour::Choice
 {
     const char *frame;
     QList<std::pair<const char *, const char *>> entries;
 };
 
-// What every device has here, in the order of the boxes.
+// All sensors, in the order of the boxes.
 static constexpr std::array sensors = {"accelerometer", "compass", "orientation", "magnetometer",
                                        "gyroscope",     "als",     "proximity",   "tap"};
 
@@ -41,7 +41,7 @@ static QString number(double shown, const char *type, double multiplier)
     return qstrcmp(type, "int32") == 0 ? QString::number(qRound(sent)) : QString::number(sent);
 }
 
-/// The readings that make the device point at \a azimuth degrees.
+/// The call that makes the device point at \a azimuth degrees.
 static QString compassCall(int azimuth)
 {
     static constexpr double fluxDensity = 4.358898943540674e-05; // tesla
@@ -84,7 +84,7 @@ void SensorsTour::visitManagement()
 
     m_driver.clickButton(u"Sensors Management"_s);
     m_takePicture(u"sensors-management"_s);
-    // the accelerometer takes the compass and the orientation with it
+    // the accelerometer's box also clears those of the compass and the orientation
     for (const char *box : {"Accelerometer", "Magnetometer", "Gyroscope", "Light Sensor",
                             "Proximity Sensor", "Tap Sensor"})
         m_driver.clickButton(QLatin1StringView(box));
@@ -99,7 +99,7 @@ void SensorsTour::visitManagement()
     m_takePicture(u"sensors-values-off"_s);
 
     m_driver.clickButton(u"Sensors Management"_s);
-    // the compass brings the accelerometer and the magnetometer back
+    // the compass's box also ticks those of the accelerometer and the magnetometer
     for (const char *box : {"Compass", "Orientation Sensor", "Gyroscope", "Light Sensor",
                             "Proximity Sensor", "Tap Sensor"})
         m_driver.clickButton(QLatin1StringView(box));
@@ -245,7 +245,7 @@ void SensorsTour::clickProximityButtons()
     m_journal.waitForCall(u"setProximitySensorValue int32:10"_s, start);
 }
 
-// It stays on the host.
+// Only the proximity buttons may make calls, because the magnetic field is not sent.
 void SensorsTour::changeMagneticField()
 {
     const qsizetype start = m_journal.position();

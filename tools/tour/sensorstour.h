@@ -6,14 +6,13 @@
 #include <functional>
 
 /*!
- * Uses every control of both pages of sensors once and checks what the emulator receives: each
- * slider is dragged, each field typed into, each entry of each list chosen, each button and box
- * clicked.
+ * The part of the tour on both pages of sensors: drags each slider, types into each field, chooses
+ * each entry of each list, clicks each button and box, and checks what the emulator receives.
  */
 class SensorsTour
 {
 public:
-    /// \a takePicture saves one under the name that it is given.
+    /// \a takePicture saves a picture under the given name.
     SensorsTour(const WindowDriver &driver, Journal &journal,
                 std::function<void(const QString &)> takePicture);
 

@@ -22,7 +22,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// The picture shows what was drawn last: gives the windows a moment to draw and animate.
+/// Waits a moment, so that the windows are drawn and animations have ended.
 static void settle()
 {
     static constexpr int milliseconds = 300;
@@ -96,14 +96,14 @@ void Tour::visitDeviceModel(const WindowDriver &driver)
     say(u"Orientation Management: turning and moving the device"_s);
     const qsizetype start = m_journal.position();
     {
-        // the device model is about to replace the values that were set by hand
+        // the plugin asks before the page replaces the values that were set by hand
         const MessageBoxAnswers answers(QMessageBox::Ok);
         driver.clickButton(u"Orientation Management"_s);
         if (answers.boxes().size() != 1)
             throw WaitingFailed("no warning came before the device model's page");
     }
     m_journal.waitForCall(u"setGyroscopeValues double:0 double:0 double:0"_s, start);
-    driver.window()->raise(); // the warning has raised the IDE
+    driver.window()->raise(); // the warning raised the IDE's window
     DeviceModelTour(driver, m_journal, [this](const QString &name) { takePicture(name); }).run();
 }
 

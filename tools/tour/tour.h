@@ -8,7 +8,7 @@
 /*!
  * A walk through the plugin as a user takes it: from the IDE's menu through every page.
  *
- * Prints what it does, saves a picture of every page, and throws WaitingFailed when the emulator
+ * Prints its progress, saves a picture of every page, and throws WaitingFailed when the emulator
  * does not receive what was sent.
  */
 class Tour

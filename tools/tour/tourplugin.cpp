@@ -22,8 +22,8 @@
 
 using namespace Qt::StringLiterals;
 
-/// Quits the IDE as the user does, with the tool's window open. The process ends with a signal if
-/// that takes too long.
+/// Quits the IDE as the user does, with the plugin's window open. A signal ends the process if that
+/// takes too long.
 static void quit()
 {
     static constexpr unsigned limit = 5; // s

@@ -4,19 +4,19 @@
 #include <utility>
 #include <vector>
 
-/// A camera as a line of the file tells it.
+/// A camera, as described by a line of the file.
 struct VirtualCamera
 {
     std::string name;
-    std::vector<std::pair<std::string, std::string>> properties; ///< that select it
+    std::vector<std::pair<std::string, std::string>> properties; ///< select the camera
     std::string caps;
 
     bool operator==(const VirtualCamera &) const = default;
 };
 
 /*!
- * The file that the environment variable VIRTUAL_CAMERAS names, as it is now: the cameras that are
- * plugged in. Without a file there are none.
+ * Returns the present text of the file that the environment variable VIRTUAL_CAMERAS names: the
+ * cameras that are plugged in. Returns an empty text if there is no file.
  */
 std::string readCameraFile();
 

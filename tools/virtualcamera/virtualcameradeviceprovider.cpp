@@ -10,7 +10,7 @@
 #include <thread>
 #include <utility>
 
-// Often enough that a person or a test does not wait, and next to nothing for a file this small.
+// Short enough that nobody waits; reading a file this small so often costs almost nothing.
 static constexpr std::chrono::milliseconds watchInterval(5);
 
 namespace {
@@ -26,7 +26,7 @@ struct DeviceClass
     GstDeviceClass device;
 };
 
-/// Tells the provider what the file has become, on a thread of its own.
+/// Watches the file on its own thread and updates the provider's devices.
 class Watch
 {
 public:
@@ -73,7 +73,7 @@ static GstDevice *createDevice(const VirtualCamera &camera)
 Watch::Watch(GstDeviceProvider *provider)
     : m_provider(provider)
 {
-    // the first cameras are there when the monitor has started
+    // device monitors must list the first cameras as soon as they have started
     update();
     m_thread = std::jthread([this](const std::stop_token &stop) {
         std::unique_lock lock(m_mutex);

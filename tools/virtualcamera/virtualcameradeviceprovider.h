@@ -2,5 +2,5 @@
 
 #include <gst/gst.h>
 
-/// Tells GStreamer's device monitors of the cameras in the file, and of every change of it.
+/// Makes GStreamer's device monitors list the cameras in the file and follow its changes.
 bool registerVirtualCameraDeviceProvider(GstPlugin *plugin);

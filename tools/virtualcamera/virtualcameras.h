@@ -4,7 +4,7 @@
 #include <QSaveFile>
 #include <QTemporaryDir>
 
-/// The host's cameras. Each is a line as in cameras.txt. One object at a time.
+/// The host's virtual cameras, each a line as in cameras.txt. Only one object may exist at a time.
 class VirtualCameras
 {
 public:
@@ -14,7 +14,7 @@ public:
         qputenv("VIRTUAL_CAMERAS", path().toLocal8Bit());
     }
 
-    /// Plugs cameras in and out. A camera monitor learns of it by and by.
+    /// Replaces the cameras. A camera monitor notices the change shortly afterwards.
     void set(const QByteArrayList &cameras)
     {
         QSaveFile file(path());

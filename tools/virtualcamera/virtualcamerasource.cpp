@@ -25,7 +25,7 @@ struct SourceClass
 struct Kind
 {
     const char *factory;
-    std::array<const char *, 2> properties; // the number of a property is its place, from 1 on
+    std::array<const char *, 2> properties; // numbered from 1
 };
 
 } // namespace
@@ -89,7 +89,7 @@ static void finalize(GObject *object)
     G_OBJECT_CLASS(parentClass(object))->finalize(object);
 }
 
-/// What the camera gives. Where its caps tell no format it is that of most cameras.
+/// The caps of the pictures. Caps without a format get the most common one.
 static GstCaps *capsOf(const VirtualCamera &camera)
 {
     GstCaps *caps = gst_caps_from_string(camera.caps.c_str());
@@ -102,7 +102,7 @@ static GstCaps *capsOf(const VirtualCamera &camera)
     return caps;
 }
 
-/// Each camera sees something else: colour bars, circles, checkers or a ball.
+/// Each camera shows another pattern: colour bars, circles, checkers or a ball.
 static int patternOf(const VirtualCamera &camera)
 {
     constexpr std::array patterns{0, 11, 10, 18}; // of videotestsrc

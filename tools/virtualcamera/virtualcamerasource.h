@@ -5,10 +5,11 @@
 #include <gst/gst.h>
 
 /*!
- * A source of pictures, one element factory for each set of properties that select a camera.
+ * Registers the sources of pictures: an element factory for each set of properties that can select
+ * a camera.
  *
- * As the source of a real camera it cannot be started without its camera, gives only what the
- * camera's caps have, and fails when the camera is unplugged. Without properties it is the first
+ * Like that of a real camera, a source does not start without its camera, gives only formats of the
+ * camera's caps, and fails when the camera is unplugged. Without properties it shows the first
  * camera of the file.
  */
 bool registerVirtualCameraSources(GstPlugin *plugin);
