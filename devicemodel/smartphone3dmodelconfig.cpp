@@ -14,7 +14,7 @@ static const QString defaultDeviceName = u"default"_s;
 static const QString deviceNameKey = u"device-name"_s;
 static const QString meshKey = u"mesh"_s;
 static const QString textureKey = u"texture"_s;
-static const QString dataPath; // the files lie beside the application itself
+static const QString dataPath; // empty: the files are beside the application
 
 static QString fileUri(const QString &pathTemplate, const QString &fileName)
 {

@@ -8,11 +8,11 @@
 namespace EmulationManagement::Internal {
 
 /*!
- * Chooses the mesh and the texture that stand for the emulated device.
+ * Chooses the mesh and the texture that represent the emulated device.
  *
  * INI files in the folder "configs" beside the IDE map the name of a device model ("device-name")
- * to a file in "meshes" and one in "textures". A device model without a file of its own gets that
- * of "default". The folder is read once. Nothing is reported when files are missing.
+ * to a file in "meshes" and one in "textures". A device model without its own file gets the files
+ * of "default". The folder is read once. Missing files are not reported.
  */
 class Smartphone3DModelConfig : public QObject
 {
@@ -25,12 +25,12 @@ class Smartphone3DModelConfig : public QObject
 public:
     explicit Smartphone3DModelConfig(QObject *parent = nullptr);
 
-    /// Reads the INI files. Of two for the same device model the one listed later holds.
+    /// Reads the INI files. If two name the same device model, the one listed later wins.
     void initSmartphone3DModelsConfigurations();
     /// Selects the files of a device model by its exact name.
     void updateSmartphone3DModel(const QString &deviceName);
 
-    /// Both URIs are set. The files need not exist.
+    /// True when both URIs are set, even if the files do not exist.
     Q_INVOKABLE bool smartphone3DModelConfigured() const;
 
     /// URL of the mesh file.
@@ -39,7 +39,7 @@ public:
     [[nodiscard]] QString smartphone3DModelTextureUri() const;
 
 Q_SIGNALS:
-    /// The only signal of an update: both URIs are to be read again.
+    /// The only signal of an update: read both URIs again.
     void smartphone3DModelConfigChanged();
     void smartphone3DModelMeshUriChanged();
     void smartphone3DModelTextureUriChanged();

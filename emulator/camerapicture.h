@@ -6,7 +6,7 @@ namespace NimbraEmulator {
 
 class VideoReceiver;
 
-/// Shows what the camera sees, as large as it fits, with its size and rate below.
+/// Shows the camera's picture as large as it fits, with its size and rate below.
 class CameraPicture : public QFrame
 {
     Q_OBJECT

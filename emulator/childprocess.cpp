@@ -21,7 +21,7 @@ ChildProcess::ChildProcess(QObject *parent)
     setStandardInputFile(nullDevice());
     setChildProcessModifier([emulator = ::getpid()] {
         ::prctl(PR_SET_PDEATHSIG, SIGKILL);
-        if (::getppid() != emulator) // it died before the line above
+        if (::getppid() != emulator) // the emulator died before prctl()
             ::_exit(EXIT_FAILURE);
     });
     connect(this, &QProcess::finished, this, [this] {

@@ -4,8 +4,8 @@
 
 namespace NimbraEmulator {
 
-/// A process that does not outlive this one: it is ended by the destructor, and by the kernel when
-/// this process dies in whatever way.
+/// A process that does not outlive this one: the destructor ends it, and the kernel ends it when
+/// this process dies in any way.
 class ChildProcess : public QProcess
 {
     Q_OBJECT
@@ -14,15 +14,15 @@ public:
     explicit ChildProcess(QObject *parent = nullptr);
     ~ChildProcess() override;
 
-    /// Ends the process: asks it to, and after a few seconds makes it.
+    /// Asks the process to end, and kills it after a few seconds.
     void stop();
 
-    /// Lets the process run until its output on \a channel holds \a text; returns that output, or
-    /// an empty one when the process ended or took too long.
+    /// Waits until the output on \a channel contains \a text and returns that output; returns an
+    /// empty one when the process ends or takes too long.
     [[nodiscard]] QByteArray waitForOutput(ProcessChannel channel, QByteArrayView text);
 
 Q_SIGNALS:
-    /// The process ended without being asked to.
+    /// The process ended, and stop() was not called.
     void died();
 
 private:

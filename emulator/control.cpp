@@ -66,7 +66,7 @@ void Control::acceptClients()
     }
 }
 
-// The commands return what is wrong with them, if anything.
+// Each command returns an error message, or an empty text on success.
 
 QString Control::execute(const QString &command)
 {
@@ -96,7 +96,7 @@ QString Control::executeRelay(const QString &action, const QString &text)
 {
     QString error;
     if (action == "open"_L1) {
-        // an error says why
+        // `error` tells the result
         static_cast<void>(m_relay.open(&error));
     } else if (action == "close"_L1) {
         m_relay.close();

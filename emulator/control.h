@@ -10,29 +10,29 @@ class Journal;
 class PackageList;
 class Relay;
 
-/// Lets a local program ask the emulator for faults: it takes commands from a local socket, a line
-/// each, and answers with the line "ok" or "error: …".
+/// Makes faults on request: reads commands from a local socket, one a line, and answers each with
+/// the line "ok" or "error: …".
 ///
 ///     relay close                    drop the relay's connections and stop listening
 ///     relay open                     listen again
-///     relay delay MILLISECONDS       send every reply that much later
+///     relay delay MILLISECONDS       send every reply later by this time
 ///     relay answer TEXT              send TEXT instead of the next reply
-///     relay repeat TIMES TEXT        send a line of so many TEXTs instead of the next reply
-///     fail METHOD ERRORNAME TEXT     answer METHOD with this error; with METHOD alone: no more
+///     relay repeat TIMES TEXT        send TEXT, repeated TIMES times, instead of the next reply
+///     fail METHOD ERRORNAME TEXT     answer METHOD with this error; METHOD alone ends that
 ///     service with|without NAME      put a service on the D-Bus or take it off
-///     package with|without NAME      add or take out a package
-///     freeze MILLISECONDS            do nothing for so long: no part answers, SSH included
-///     kill                           die at once, without a word
+///     package with|without NAME      add or remove a package
+///     freeze MILLISECONDS            block for this time: no part answers, SSH included
+///     kill                           die at once, without any clean-up
 class Control : public QObject
 {
     Q_OBJECT
 
 public:
-    /// \a services is the connection to the bus that the services are on.
+    /// \a services is the bus connection on which the services are registered.
     Control(Relay &relay, const QDBusConnection &services, PackageList &packages, Journal &journal,
             QObject *parent = nullptr);
 
-    /// Listens on \a socket, in place of what an earlier run left there.
+    /// Listens on \a socket and replaces a socket that an earlier run left there.
     [[nodiscard]] bool listen(const QString &socket);
     [[nodiscard]] QString errorString() const { return m_server.errorString(); }
 

@@ -10,7 +10,7 @@ namespace NimbraEmulator {
 
 using namespace Qt::StringLiterals;
 
-// names of the two connections to the bus: a call within one connection would not go over it
+// Qt answers calls within one connection by itself, so the relay and the services have one each.
 static constexpr auto serviceConnection = "services"_L1;
 static constexpr auto relayConnection = "relay"_L1;
 
@@ -90,7 +90,7 @@ void Emulator::startControl()
                                           m_journal);
     if (m_control->listen(QDir(m_options.data).filePath(u"control"_s)))
         return;
-    // the path of a socket is limited to 108 bytes; the emulator is of use without it
+    // The path of a socket is limited to 108 bytes. The emulator works without this socket.
     m_journal.write("fault"_L1,
                     {{u"request"_s, u"control is off: %1"_s.arg(m_control->errorString())}});
 }
@@ -118,7 +118,7 @@ SshCommandServer::Answer Emulator::answerCommand(const QString &command)
     m_journal.write("ssh"_L1, {{u"command"_s, command}});
     if (command == "rpm -qa"_L1)
         return {.output = m_packages.text().toUtf8(), .error = {}, .exitStatus = 0};
-    constexpr int commandNotFound = 127; // as shells say it
+    constexpr int commandNotFound = 127; // as in shells
     return {.output = {},
             .error = "The emulator answers only the command rpm -qa.\n",
             .exitStatus = commandNotFound};

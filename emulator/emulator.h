@@ -15,8 +15,8 @@
 
 namespace NimbraEmulator {
 
-/// The emulator as seen from outside: puts its parts together, starts them in their order and ends
-/// them in the opposite one. Its journal begins and ends with it.
+/// The whole emulator: makes its parts, starts them in order and ends them in reverse order. The
+/// journal begins with the constructor and ends with the destructor.
 class Emulator : public QObject
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ public:
     explicit Emulator(const Options &options, QObject *parent = nullptr);
     ~Emulator() override;
 
-    /// Starts all parts and returns when they serve. On failure puts one sentence into \a error.
+    /// Starts all parts, returns when they are ready. On failure puts one sentence into \a error.
     [[nodiscard]] bool start(QString *error);
 
     [[nodiscard]] const SensorService &sensors() const { return m_sensors; }
@@ -33,7 +33,7 @@ public:
     [[nodiscard]] const VideoReceiver &video() const { return m_video; }
 
 Q_SIGNALS:
-    /// A part that the emulator cannot do without has ended. \a error is one sentence.
+    /// A part that the emulator needs has ended. \a error is one sentence.
     void failed(const QString &error);
 
 private:

@@ -159,7 +159,7 @@ QGroupBox *EmulatorWindow::createTrack()
 void EmulatorWindow::addValue(QGroupBox *group, const QString &title, std::function<QString()> text)
 {
     auto *label = new QLabel;
-    // wide enough for most values, so that the window does not move with them
+    // Room for most values keeps the layout still while the values change.
     label->setMinimumWidth(label->fontMetrics().horizontalAdvance(u"-0.0000000000"_s));
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     static_cast<QFormLayout *>(group->layout())->addRow(title, label);

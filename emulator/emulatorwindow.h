@@ -16,8 +16,8 @@ class LocationService;
 class SensorService;
 class VideoReceiver;
 
-/// Shows what the device would: the sensors and their values, the position, the track and the
-/// camera's picture. It follows the services at the rate of a screen, however often they change.
+/// Shows the sensors and their values, the position, the track and the camera's picture. Updates
+/// at the rate of a screen, however often the services change.
 class EmulatorWindow : public QWidget
 {
     Q_OBJECT
@@ -41,7 +41,7 @@ private:
 
     const SensorService &m_sensors;
     const LocationService &m_location;
-    QList<std::function<void()>> m_updates; // one a value that is shown
+    QList<std::function<void()>> m_updates; // one for each shown value
     QTimer m_refreshTimer;
 };
 

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 Journal::Journal()
 {
-    // fails only when standard output is closed: then nobody reads the journal
+    // open() fails only when standard output is closed; then nobody reads the journal.
     [[maybe_unused]] const bool opened
         = m_file.open(STDOUT_FILENO, QIODevice::WriteOnly | QIODevice::Unbuffered);
 }

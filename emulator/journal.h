@@ -5,7 +5,7 @@
 
 namespace NimbraEmulator {
 
-/// The record of what the emulator did, on standard output: one compact JSON object a line, in the
+/// The record of the emulator's actions on standard output: one compact JSON object a line, in the
 /// order of the events, each line flushed at once.
 class Journal
 {

@@ -7,9 +7,9 @@
 namespace NimbraEmulator {
 
 /// The location service on the emulator's system bus. Its slots are the methods of its D-Bus
-/// interface, with exactly these argument types; D-Bus itself refuses all others.
+/// interface; D-Bus refuses calls with other argument types.
 ///
-/// It keeps no time: during playback the host tells it the current point several times a second.
+/// It has no timer: during playback the host sends the current point several times a second.
 class LocationService : public QObject, protected QDBusContext
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
 
     enum class Playback { Stopped, Playing, Paused };
 
-    /// Degrees, degrees and metres.
+    /// Latitude and longitude in degrees, altitude in metres.
     struct Position
     {
         double latitude = 0;
@@ -33,13 +33,13 @@ public:
     {
         bool looped = false;
         bool defaultInterval = false; ///< instead of the track's own intervals
-        int speed = 1;                ///< times the recorded one
+        int speed = 1;                ///< multiple of the recorded speed
     };
 
     explicit LocationService(QObject *parent = nullptr);
 
     [[nodiscard]] const Position &position() const { return m_position; }
-    /// Of each point: latitude, longitude, altitude and the interval before it in milliseconds.
+    /// The points: latitude, longitude, altitude and the interval before each in milliseconds.
     [[nodiscard]] const QList<QList<double>> &track() const { return m_track; }
     [[nodiscard]] qsizetype trackSize() const { return m_track.size(); }
     [[nodiscard]] int trackIndex() const { return m_trackIndex; }
@@ -56,8 +56,8 @@ public Q_SLOTS:
     void setLongitude(double longitude);
     void setAltitude(double altitude);
 
-    /// Each point is latitude, longitude, altitude and the interval before it in milliseconds; one
-    /// with more or fewer numbers is answered with the error …Error.InvalidTrack.
+    /// A point is latitude, longitude, altitude and the interval before it in milliseconds. Fails
+    /// with …Error.InvalidTrack when a point has more or fewer numbers.
     void loadTrack(const QList<QList<double>> &track);
     void startTrack();
     void pauseTrack();
@@ -65,7 +65,7 @@ public Q_SLOTS:
     void setTrackLooped(bool looped);
     void setTrackIntervalMode(bool defaultInterval);
     void setTrackSpeed(int speed);
-    /// An index outside of the track is answered with the error …Error.IndexOutOfRange.
+    /// Fails with …Error.IndexOutOfRange for an index outside of the track.
     void goToPositionOnTrack(int index);
 
 private:

@@ -22,8 +22,8 @@ static int fail(const QString &error)
     return EXIT_FAILURE;
 }
 
-// Without a window no display is needed, and an application without widgets must be made before
-// the command line can be read.
+// --headless must work without a display, and the application must exist before the command line
+// is parsed: so the kind of application follows from the raw arguments.
 static std::unique_ptr<QCoreApplication> createApplication(int &argc, char **argv)
 {
     const auto needsNoDisplay = [](std::string_view argument) {
@@ -60,7 +60,7 @@ static int runEmulator(const Options &options)
 
 int main(int argc, char **argv)
 {
-    // the SSH server's side of this program, see SshCommandServer
+    // The SSH server starts this program for every command; see SshCommandServer.
     if (argc == 3 && std::string_view(argv[1]) == "--answer-ssh") {
         const QCoreApplication application(argc, argv);
         return runSshCommand(QString::fromLocal8Bit(argv[2]));

@@ -87,7 +87,7 @@ std::optional<Options> parseOptions(const QStringList &arguments, QString *error
     options.name = parser.value(name);
     options.deviceModel = parser.value(deviceModel);
 
-    // the services trust whoever reaches them, so they stay on this machine
+    // The services have no login, so only this machine may reach them.
     options.address = QHostAddress(parser.value(address));
     if (!options.address.isLoopback()) {
         *error = u"--address %1 is not an address of the loopback."_s.arg(parser.value(address));

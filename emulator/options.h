@@ -9,7 +9,7 @@
 
 namespace NimbraEmulator {
 
-/// A port of the host that leads to a port of the emulator.
+/// A port of the host that is forwarded to a port of the emulator.
 struct Forwarding
 {
     enum class Protocol { Tcp, Udp };
@@ -20,10 +20,10 @@ struct Forwarding
     quint16 port = 0; ///< in the emulator
 };
 
-/// What the command line asks for.
+/// The values of the command line.
 struct Options
 {
-    QString data; ///< folder that is kept between runs, an absolute path
+    QString data; ///< absolute path of a folder that is kept between runs
     QString name;
     QString deviceModel;
     QHostAddress address;
@@ -36,8 +36,8 @@ struct Options
     bool stopWithStandardInput = false;
 };
 
-/// Reads \a arguments, the program's name first. On bad ones returns nothing and puts one sentence
-/// into \a error. "--help" prints the options and ends the program.
+/// Parses \a arguments, which begin with the program's name. Returns nothing for invalid ones and
+/// puts one sentence into \a error. "--help" prints the options and ends the program.
 [[nodiscard]] std::optional<Options> parseOptions(const QStringList &arguments, QString *error);
 
 } // namespace NimbraEmulator

@@ -33,7 +33,7 @@ static QStringList defaultPackages()
     };
 }
 
-// The name alone of name-version-release.architecture.
+// The name in name-version-release.architecture.
 static QString baseName(const QString &package)
 {
     static const QRegularExpression pattern(uR"(\A(.+)-[^-]+-[^-]+\.[^-.]+\z)"_s);

@@ -4,17 +4,17 @@
 
 namespace NimbraEmulator {
 
-/// The packages that the emulator carries, each as name-version-release.architecture.
+/// The emulator's installed packages, each as name-version-release.architecture.
 class PackageList
 {
 public:
-    /// Carries \a packages, or the default ones when there are none.
+    /// Starts with \a packages, or with the default ones if \a packages is empty.
     explicit PackageList(const QStringList &packages = {});
 
-    /// Adds a package unless it is carried; a plain name gets a version.
+    /// Adds a package unless the list has it; a plain name gets a version.
     void add(const QString &package);
 
-    /// Takes the package called exactly \a name out; false when it is not carried.
+    /// Removes the package called exactly \a name; false when the list does not have it.
     bool remove(const QString &name);
 
     /// The list as the package manager prints it, one package a line.

@@ -23,7 +23,7 @@ Relay::Relay(const QHostAddress &address, const QDBusConnection &bus, Journal &j
     , m_server(u"remote-dbus-invoker"_s, QWebSocketServer::NonSecureMode)
 {
     connect(&m_server, &QWebSocketServer::newConnection, this, &Relay::acceptClients);
-    // browsers let any page of the web talk to this machine, but say which one it is
+    // Browsers let any web page open WebSockets to this machine, but send the page's origin.
     connect(&m_server, &QWebSocketServer::originAuthenticationRequired, this,
             [](QWebSocketCorsAuthenticator *page) { page->setAllowed(page->origin().isEmpty()); });
 }

@@ -14,7 +14,7 @@ namespace NimbraEmulator {
 class Journal;
 class RelayClient;
 
-/// What the relay was asked to do wrong.
+/// Faults of the relay that were requested.
 struct RelayFaults
 {
     struct Failure
@@ -23,12 +23,12 @@ struct RelayFaults
         QString errorText;
     };
 
-    std::chrono::milliseconds delay{0}; ///< from an answer to its being sent
+    std::chrono::milliseconds delay{0}; ///< before each reply is sent
     std::optional<QString> answer;      ///< sent once, instead of the next reply
-    QHash<QString, Failure> failures;   ///< by the method that is not called
+    QHash<QString, Failure> failures;   ///< by method, which is not called then
 };
 
-/// The way from the host to the emulator's system bus: a WebSocket server that takes request lines
+/// Connects the host to the emulator's system bus: a WebSocket server that receives request lines
 /// and answers each with a reply line.
 class Relay : public QObject
 {
@@ -41,7 +41,7 @@ public:
           QObject *parent = nullptr);
     ~Relay() override;
 
-    /// Listens; true when it already does. On failure puts one sentence into \a error.
+    /// Listens; true also when it already does. On failure puts one sentence into \a error.
     [[nodiscard]] bool open(QString *error);
 
     /// Drops all connections and stops listening.

@@ -18,14 +18,15 @@ class Journal;
 struct RelayFaults;
 struct Request;
 
-/// One client of the relay. Its requests are carried out side by side, but answered in their own
-/// order, as replies are matched to requests by nothing else.
+/// One client of the relay. Its requests run in parallel, but replies keep the order of the
+/// requests, because only the order tells which request a reply belongs to.
 class RelayClient : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Takes \a socket over. \a faults and \a journal are the relay's and outlive this object.
+    /// Takes ownership of \a socket. \a faults and \a journal belong to the relay, which outlives
+    /// this object.
     RelayClient(QWebSocket *socket, const QDBusConnection &bus, RelayFaults &faults,
                 Journal &journal, QObject *parent);
     ~RelayClient() override;

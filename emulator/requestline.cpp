@@ -75,8 +75,8 @@ static std::optional<QList<QList<double>>> parsePoints(QStringView text)
                 return {};
             point.append(*number);
         }
-        // the inner array's length, padded, and its numbers; a longer array would cost the relay
-        // its connection to the bus
+        // An inner array is its padded length and its numbers. A request with more bytes would cost
+        // the relay its connection to the bus.
         bytes += 8 + point.size() * qsizetype(sizeof(double));
         if (bytes > maxArrayBytes)
             return {};
@@ -85,7 +85,7 @@ static std::optional<QList<QList<double>>> parsePoints(QStringView text)
     return points;
 }
 
-// The D-Bus value of one argument; an invalid variant when it has none.
+// The D-Bus value of one argument; an invalid variant when \a value is not of this type.
 static QVariant parseValue(QStringView type, QStringView value)
 {
     if (type == u"int32") {
@@ -101,7 +101,7 @@ static QVariant parseValue(QStringView type, QStringView value)
         const std::optional<bool> flag = parseBoolean(value);
         return flag ? QVariant(*flag) : QVariant();
     }
-    if (type == u"string") // D-Bus texts end at their first NUL
+    if (type == u"string") // D-Bus texts cannot contain NUL
         return value.contains(QChar::Null) ? QVariant() : QVariant(value.toString());
     if (type == arrayType.chopped(1)) {
         const std::optional<QList<QList<double>>> points = parsePoints(value);
@@ -138,7 +138,7 @@ static Request invalid(const QString &error)
 
 Request parseRequest(const QString &line)
 {
-    constexpr int nameCount = 5; // a method without arguments may do without the last space
+    constexpr int nameCount = 5; // without arguments, the last space is optional
     QStringList names;
     QStringView rest = line;
     while (names.size() < nameCount && !rest.isNull()) {

@@ -6,10 +6,10 @@
 
 namespace NimbraEmulator {
 
-/// One D-Bus call that a client of the relay asks for.
+/// One D-Bus call, as a client of the relay requests it.
 ///
 /// A request line is "bus service path interface method arguments", split on single spaces. The
-/// arguments are "type:value" tokens, split on single spaces too, so that no value can hold one:
+/// arguments are "type:value" tokens, also split on single spaces, so no value contains a space:
 ///  - int32, double (both in C notation) and string;
 ///  - boolean: 1, 0, true or false;
 ///  - array:array:double: with ";" between the inner arrays and "," between their numbers.
@@ -20,23 +20,23 @@ struct Request
     QString interface;
     QString method;
     QVariantList arguments;
-    QStringList argumentTexts; ///< the values as the line has them
+    QStringList argumentTexts; ///< the values as written in the line
     QString error;             ///< one sentence without ":"; empty: the request is valid
 };
 
-/// Reads a request line. Of a bad one only `error` is set; what it accepts, D-Bus can carry.
+/// Parses a request line. Sets only `error` for an invalid one. D-Bus can carry every valid one.
 [[nodiscard]] Request parseRequest(const QString &line);
 
-/// The line that answers \a request: five fields with ":" in between. Nothing is escaped: a text
-/// with ":" makes more fields.
+/// The reply to \a request: five fields separated by ":". Nothing is escaped: a ":" in a text makes
+/// more fields.
 [[nodiscard]] QString replyLine(const Request &request, const QString &returned,
                                 const QString &errorName = {}, const QString &errorText = {});
 
-/// \a value, an argument of a D-Bus message, as the reply line has it: 1 or 0 for a boolean, the
-/// elements with "," in between for a list of texts, nothing for other compound values.
+/// The text of \a value, an argument of a D-Bus message, in a reply line: 1 or 0 for a boolean, the
+/// elements separated by "," for a list of texts, empty for other compound values.
 [[nodiscard]] QString returnedText(const QVariant &value);
 
-/// Returns the answer to what is not a request.
+/// The reply to a line that is not a valid request.
 [[nodiscard]] QString invalidRequestLine(const QString &error);
 
 } // namespace NimbraEmulator

@@ -6,7 +6,7 @@
 
 namespace NimbraEmulator {
 
-/// What the sensors were told to read.
+/// The readings that the sensors were given.
 struct SensorReadings
 {
     template<typename Number>
@@ -27,7 +27,7 @@ struct SensorReadings
 };
 
 /// The sensor service on the emulator's system bus. Its slots are the methods of its D-Bus
-/// interface, with exactly these argument types; D-Bus itself refuses all others.
+/// interface; D-Bus refuses calls with other argument types.
 class SensorService : public QObject, protected QDBusContext
 {
     Q_OBJECT
@@ -46,7 +46,7 @@ Q_SIGNALS:
     void changed();
 
 public Q_SLOTS:
-    // an unknown name is answered with the error …Error.UnknownSensor
+    // These three fail with …Error.UnknownSensor for an unknown name.
     void enableSensor(const QString &sensor);
     void disableSensor(const QString &sensor);
     bool enabled(const QString &sensor);

@@ -9,8 +9,8 @@
 
 namespace NimbraEmulator {
 
-/// Carries the commands of SSH sessions into the emulator. The SSH server runs this same program,
-/// as runSshCommand(), for every command; that asks the emulator, whose answer it prints.
+/// Answers the commands of SSH sessions. The SSH server starts this program for every command; it
+/// calls runSshCommand(), which asks the running emulator and prints the answer.
 class SshCommandServer : public QObject
 {
     Q_OBJECT
@@ -35,8 +35,8 @@ private:
     QLocalServer m_server;
 };
 
-/// Has the command of this SSH session answered at \a socket and prints the answer; returns the
-/// command's exit status.
+/// Sends the command of this SSH session to \a socket, prints the answer and returns the command's
+/// exit status.
 [[nodiscard]] int runSshCommand(const QString &socket);
 
 } // namespace NimbraEmulator

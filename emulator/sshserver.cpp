@@ -14,8 +14,8 @@ namespace NimbraEmulator {
 
 using namespace Qt::StringLiterals;
 
-// The address and the key restrict more than the daemon's own checks of owners and rates would,
-// and those would stop clients that look every moment whether the emulator is up.
+// The daemon's own checks of file owners and connection rates are off: the loopback address and the
+// key restrict more, and the checks would lock out clients that try until the emulator is up.
 static constexpr auto configuration = R"(ListenAddress %1
 Port %2
 HostKey %3
@@ -38,13 +38,13 @@ MaxStartups 100
 UseDNS no
 )"_L1;
 
-// A text as one word of the daemon's configuration.
+// Quotes a text as one word of the daemon's configuration.
 static QString configurationWord(QString text)
 {
     return u'"' + text.replace(u'\\', "\\\\"_L1).replace(u'"', "\\\""_L1) + u'"';
 }
 
-// A text as one word of a shell's command line.
+// Quotes a text as one word of a shell's command line.
 static QString shellWord(QString text)
 {
     return u'\'' + text.replace(u'\'', "'\\''"_L1) + u'\'';
@@ -84,7 +84,7 @@ bool SshServer::writeConfiguration(const Options &options, const QString &hostKe
     const QString commandSocket = m_folder.filePath(u"commands"_s);
     const QString command = shellWord(QCoreApplication::applicationFilePath()) + " --answer-ssh "_L1
                             + shellWord(commandSocket);
-    // of the paths only that of the keys may hold "%" tokens
+    // the daemon expands "%" tokens in this path, not in the others
     const QString keys
         = options.authorizedKey.isEmpty()
               ? u"none"_s
@@ -105,7 +105,7 @@ bool SshServer::writeConfiguration(const Options &options, const QString &hostKe
 
 bool SshServer::start(const Options &options, QString *error)
 {
-    const QString program = systemProgram(u"sshd"_s); // sshd insists on an absolute path
+    const QString program = systemProgram(u"sshd"_s); // sshd requires its absolute path
     if (program.isEmpty()) {
         *error = u"The program sshd was not found."_s;
         return false;
@@ -117,7 +117,7 @@ bool SshServer::start(const Options &options, QString *error)
     }
     if (!writeConfiguration(options, hostKey, error))
         return false;
-    if (::geteuid() == 0) // which the daemon needs then, and services make at boot elsewhere
+    if (::geteuid() == 0) // as root, sshd needs this folder
         QDir().mkpath(u"/run/sshd"_s);
 
     m_daemon.start(program, {u"-D"_s, u"-e"_s, u"-f"_s, m_folder.filePath(u"sshd.conf"_s)});

@@ -8,8 +8,8 @@
 
 namespace NimbraEmulator {
 
-/// The emulator's SSH server: an OpenSSH daemon that lets in the owner of one key, under the name
-/// of the user who runs the emulator, and answers commands instead of running them.
+/// The emulator's SSH server: an OpenSSH daemon that accepts one key for the user who runs the
+/// emulator, and answers commands instead of running them.
 class SshServer : public QObject
 {
     Q_OBJECT
@@ -17,8 +17,8 @@ class SshServer : public QObject
 public:
     explicit SshServer(SshCommandServer::Shell shell, QObject *parent = nullptr);
 
-    /// Starts the daemon and returns when it listens. The host's key is made at the first start
-    /// and kept in the data folder. On failure puts one sentence into \a error.
+    /// Starts the daemon and returns when it listens. The first start makes the host key in the
+    /// data folder. On failure puts one sentence into \a error.
     [[nodiscard]] bool start(const Options &options, QString *error);
 
 Q_SIGNALS:

@@ -9,7 +9,7 @@
 
 namespace NimbraEmulator {
 
-// A signal handler may do little more than write: what it writes wakes the event loop.
+// A signal handler may do little more than write a byte, which wakes the event loop.
 static std::array<int, 2> s_signalPipe{-1, -1};
 
 static void writeToSignalPipe(int)

@@ -6,7 +6,7 @@
 namespace NimbraEmulator {
 
 /// Tells when the emulator is asked to end: by SIGTERM or SIGINT, or by the end of standard input.
-/// There may be one such object at a time, as signals belong to the whole process.
+/// Only one object may exist at a time, because signals belong to the whole process.
 class StopRequest : public QObject
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ public:
     explicit StopRequest(QObject *parent = nullptr);
     ~StopRequest() override;
 
-    /// From now on the end of standard input is such a request, too.
+    /// Also takes the end of standard input as a request from now on.
     void watchStandardInput();
 
 Q_SIGNALS:

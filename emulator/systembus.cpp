@@ -7,7 +7,7 @@ namespace NimbraEmulator {
 
 using namespace Qt::StringLiterals;
 
-// A track of many thousand points is one message; 128 MiB is what the D-Bus protocol allows.
+// A track of many thousand points is one message, so messages may have the protocol's 128 MiB.
 static constexpr auto configuration = R"(<!DOCTYPE busconfig PUBLIC
  "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
  "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
@@ -33,7 +33,7 @@ SystemBus::SystemBus(QObject *parent)
 bool SystemBus::start(QString *error)
 {
     QFile file(m_folder.filePath(u"bus.conf"_s));
-    // D-Bus addresses are percent-encoded; that leaves nothing that XML would misread
+    // D-Bus addresses are percent-encoded, so the path has no character that is special in XML.
     const QByteArray socket = QUrl::toPercentEncoding(m_folder.filePath(u"bus"_s), "/", "~");
     if (!m_folder.isValid() || !file.open(QIODevice::WriteOnly)
         || file.write(configuration.arg(QLatin1StringView(socket)).toUtf8()) < 0) {

@@ -7,7 +7,7 @@
 
 namespace NimbraEmulator {
 
-/// The emulator's system bus: a D-Bus daemon of its own, reached by a socket in a private folder.
+/// The emulator's system bus: its own D-Bus daemon with a socket in a private folder.
 class SystemBus : public QObject
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ class SystemBus : public QObject
 public:
     explicit SystemBus(QObject *parent = nullptr);
 
-    /// Starts the daemon and returns when it serves. On failure puts one sentence into \a error.
+    /// Starts the daemon and returns when it is ready. On failure puts one sentence into \a error.
     [[nodiscard]] bool start(QString *error);
 
     /// A new connection to the bus, called \a name within this program; not connected on failure.

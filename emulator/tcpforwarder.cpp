@@ -4,18 +4,18 @@
 
 namespace NimbraEmulator {
 
-// How much a connection holds for an end that reads slower than the other one writes.
+// Bytes that are held for an end that reads slower than the other one writes.
 static constexpr qint64 bufferSize = 256 << 10;
 
 static void pump(QTcpSocket *from, QTcpSocket *to)
 {
     if (to->state() == QAbstractSocket::ConnectedState && to->bytesToWrite() < bufferSize) {
         to->write(from->read(bufferSize));
-        to->flush(); // at once, not when the event loop comes round
+        to->flush(); // now, not in the next turn of the event loop
     }
 }
 
-// Passes on what `from` sends, and its end once all of it is passed on.
+// Passes on the data of `from`. When `from` has closed, closes `to` after the last data.
 static void forward(QTcpSocket *from, QTcpSocket *to)
 {
     from->setReadBufferSize(bufferSize);
@@ -58,7 +58,7 @@ void TcpForwarder::acceptConnections()
                 client->abort();
         });
         connect(client, &QTcpSocket::disconnected, client, [client, guest] {
-            // the emulator's end may still be writing what the client sent last
+            // the guest's socket may still be writing the client's last data
             if (guest->state() == QAbstractSocket::UnconnectedState)
                 client->deleteLater();
             else

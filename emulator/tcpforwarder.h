@@ -10,8 +10,8 @@ QT_END_NAMESPACE
 
 namespace NimbraEmulator {
 
-/// Leads the TCP connections to a port of 127.0.0.1 to a port of the emulator. A connection that
-/// the emulator refuses or drops is dropped at the other end as well.
+/// Forwards the TCP connections of a port of 127.0.0.1 to a port of the emulator. When the emulator
+/// refuses or drops a connection, the other end is dropped, too.
 class TcpForwarder : public QObject
 {
     Q_OBJECT

@@ -82,7 +82,7 @@ void TrackPlot::drawTrack()
     line.reserve(m_location.trackSize());
     for (const QList<double> &point : m_location.track()) {
         const QPointF next = place(point.at(0), point.at(1));
-        // points that fall on the same pixel cost time only
+        // skips points on the same pixel, which would only cost time
         if (line.isEmpty() || (next - line.last()).manhattanLength() >= 1)
             line.append(next);
     }
@@ -102,7 +102,7 @@ QRectF TrackPlot::area() const
 
 QPointF TrackPlot::place(double latitude, double longitude) const
 {
-    // a track of one place needs no scale
+    // avoids a division by zero for a track of one place
     constexpr double smallestExtent = 1e-7;
     const double scale = std::min(area().width() / std::max(m_extent.width(), smallestExtent),
                                   area().height() / std::max(m_extent.height(), smallestExtent));

@@ -8,7 +8,7 @@ namespace NimbraEmulator {
 class LocationService;
 
 /// A small map of the location service's track, north up, with the position on it. A position
-/// beyond the map is shown at its edge.
+/// outside of the map is shown at its edge.
 class TrackPlot : public QWidget
 {
     Q_OBJECT
@@ -26,15 +26,15 @@ protected:
 private:
     void fitTrack();
     void drawTrack();
-    /// The widget's rectangle that the track may take.
+    /// The rectangle of the widget that the track is drawn in.
     [[nodiscard]] QRectF area() const;
     [[nodiscard]] QPointF place(double latitude, double longitude) const;
 
     const LocationService &m_location;
     QPointF m_centre;     // longitude and latitude, in degrees
     QSizeF m_extent;      // of the track in degrees of latitude
-    double m_shrink = 1;  // degrees of latitude that are as long as one of longitude here
-    QPixmap m_track;      // drawn once, for it may have many thousand points
+    double m_shrink = 1;  // length of a degree of longitude here, in degrees of latitude
+    QPixmap m_track;      // drawn once, because it may have many thousand points
 };
 
 } // namespace NimbraEmulator

@@ -4,7 +4,7 @@
 
 namespace NimbraEmulator {
 
-// Room for some frames of video that come at once.
+// Bytes: room for several video frames that arrive at once.
 static constexpr int receiveBufferSize = 2 << 20;
 static constexpr qint64 maxDatagramSize = 65536;
 

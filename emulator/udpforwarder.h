@@ -6,8 +6,8 @@
 
 namespace NimbraEmulator {
 
-/// Leads the datagrams to a port of 127.0.0.1 to a port of the emulator; one way only, as nothing
-/// in the emulator answers them.
+/// Forwards the datagrams of a port of 127.0.0.1 to a port of the emulator, in this direction only:
+/// nothing in the emulator answers them.
 class UdpForwarder : public QObject
 {
     Q_OBJECT

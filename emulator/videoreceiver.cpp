@@ -13,7 +13,7 @@ namespace NimbraEmulator {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-// The receive buffer has room for some large frames that come at once.
+// The receive buffer has room for several large frames that arrive at once.
 static constexpr auto pipelineText
     = "udpsrc address=%1 port=%2 buffer-size=2097152"
       " caps=\"application/x-rtp,media=video,clock-rate=90000,encoding-name=JPEG\""
@@ -26,7 +26,7 @@ VideoReceiver::VideoReceiver(Journal &journal)
     connect(&m_secondTimer, &QTimer::timeout, this, &VideoReceiver::endSecond);
 }
 
-// ends the thread that calls onSample() before anything else of the receiver goes
+// Ends the thread that calls onSample() before the other members are destroyed.
 VideoReceiver::~VideoReceiver()
 {
     m_pipeline.reset();
@@ -45,7 +45,7 @@ bool VideoReceiver::listen(const QHostAddress &address, QString *error)
     GError *parseError = nullptr;
     if (GstElement *pipeline = gst_parse_launch(text.constData(), &parseError))
         m_pipeline.reset(GST_ELEMENT(gst_object_ref_sink(pipeline)));
-    if (parseError) { // GStreamer lacks its good plugins
+    if (parseError) { // for example without GStreamer's good plugins
         *error = u"The camera cannot receive: %1."_s.arg(QString::fromUtf8(parseError->message));
         g_error_free(parseError);
         return false;

@@ -17,8 +17,8 @@ class Journal;
 /*!
  * The source of the device's camera: receives pictures as RTP/JPEG (RFC 2435) over UDP.
  *
- * Tells the journal of the first picture and of each new size ("video-started"), of each second in
- * which pictures came ("video") and of the first in which none came ("video-ended").
+ * Writes to the journal: "video-started" for the first picture and each new size, "video" for each
+ * second with pictures, "video-ended" for the first second without one.
  */
 class VideoReceiver : public QObject
 {
@@ -33,9 +33,9 @@ public:
     /// On failure puts one sentence into \a error.
     [[nodiscard]] bool listen(const QHostAddress &address, QString *error);
 
-    /// The last picture of a stream that runs.
+    /// The last picture of the running stream; null when no stream runs.
     [[nodiscard]] const QImage &picture() const { return m_picture; }
-    /// Pictures a second, in the last second.
+    /// The number of pictures in the last second.
     [[nodiscard]] double rate() const { return m_rate; }
     /// All pictures since the start, also those that could not be decoded.
     [[nodiscard]] qint64 frameCount() const { return m_frameCount; }

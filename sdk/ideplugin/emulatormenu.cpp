@@ -35,7 +35,7 @@ EmulatorMenu::EmulatorMenu(HostSdk &sdk)
     createMenu();
 
     connect(&m_sdk, &HostSdk::emulatorAdded, this, &EmulatorMenu::followFirstEmulator);
-    // Queued: the emulator is in the list until the signal has been delivered.
+    // Queued, because the emulator is still in the list while the signal is delivered.
     connect(&m_sdk, &HostSdk::aboutToRemoveEmulator, this, &EmulatorMenu::followFirstEmulator,
             Qt::QueuedConnection);
     connect(&m_sdk, &HostSdk::deviceModelsChanged, this, &EmulatorMenu::listDeviceModels);
@@ -50,7 +50,7 @@ void EmulatorMenu::createMenu()
     container->addAction(ActionManager::registerAction(&m_startAction, startActionId));
     container->addAction(ActionManager::registerAction(&m_stopAction, stopActionId));
     container->menu()->addMenu(&m_deviceModelMenu);
-    // A menu that is added again, by another plugin, is moved and not doubled.
+    // If another plugin adds the menu again, it is moved, not doubled.
     ActionManager::actionContainer(Core::Constants::M_TOOLS)->addMenu(container);
 }
 
@@ -80,7 +80,7 @@ void EmulatorMenu::listDeviceModels()
     qDeleteAll(m_deviceModels.actions());
     const QStringList names = m_sdk.deviceModels();
     for (const QString &name : names) {
-        // an ampersand would stand for a shortcut
+        // an ampersand would mark a shortcut
         QAction *action = m_deviceModelMenu.addAction(QString(name).replace(u'&', "&&"));
         action->setData(name);
         action->setCheckable(true);

@@ -14,7 +14,7 @@ class VirtualMachine;
 
 namespace Kiv::Internal {
 
-/// The menu of the SDK's emulator, which is the first one: start, stop, and device model.
+/// The menu of the SDK's first emulator: start, stop, device model.
 class EmulatorMenu : public QObject
 {
     Q_OBJECT
@@ -36,7 +36,7 @@ private:
     QAction m_startAction;
     QAction m_stopAction;
     QMenu m_deviceModelMenu;
-    QActionGroup m_deviceModels; // made anew with the list of models
+    QActionGroup m_deviceModels; // rebuilt with the list of models
 };
 
 } // namespace Kiv::Internal

@@ -23,7 +23,7 @@ void KivPlugin::initialize()
 
 void KivPlugin::extensionsInitialized()
 {
-    // By then every plugin has connected to the SDK's signals.
+    // When the core opens, every plugin has connected to the SDK's signals.
     connect(Core::ICore::instance(), &Core::ICore::coreOpened, m_sdk.get(),
             &Ravik::HostSdk::listEmulators);
 }

@@ -15,7 +15,7 @@ bool execAsynchronous(
         result = success;
         loop.quit();
     });
-    // The callback may have come already.
+    // The operation may already have called back.
     if (!result)
         loop.exec();
     return result.value_or(false);

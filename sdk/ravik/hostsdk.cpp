@@ -63,7 +63,7 @@ void HostSdk::removeEmulator(int index)
     machine->shutDown();
     if (isIdle(*machine))
         emulator->deleteLater();
-    else // only its end is left to come
+    else // its next state is its end
         connect(machine, &VirtualMachine::stateChanged, emulator, &QObject::deleteLater);
 }
 

@@ -9,10 +9,10 @@ namespace Internal {
 class LocalEmulator;
 }
 
-/// The SDK as its owner sees it: keeps the emulators and the device models of a settings file.
+/// The SDK for its owner: manages the emulators and the device models of a settings file.
 ///
-/// Everything else that it makes lies in the folder "emulators" beside that file. Every change
-/// is written to the file at once.
+/// All its other files are in the folder "emulators" beside that file. It writes every change to
+/// the file at once.
 class RAVIK_EXPORT HostSdk final : public Sdk
 {
     Q_OBJECT
@@ -23,18 +23,18 @@ public:
 
     [[nodiscard]] QList<Emulator *> emulators() const override;
 
-    /// Adds the emulators of the settings file. Until then there are none, so that whoever
-    /// depends on the signals has the time to connect to them.
+    /// Adds the emulators of the settings file. The owner calls it late, so that listeners can
+    /// connect to the signals first.
     void listEmulators();
-    /// Null, and nothing is added, when another emulator's name gives the same folder. A device
-    /// model that does not exist is replaced by the first.
+    /// Returns null and adds nothing when another emulator's name gives the same folder. Replaces
+    /// an unknown device model by the first one.
     Emulator *addEmulator(EmulatorSettings settings);
     /// Stops the emulator's machine and deletes the emulator once the machine is off. Its folder
     /// stays.
     void removeEmulator(int index);
 
     [[nodiscard]] QStringList deviceModels() const;
-    /// An emulator whose model is not in the list gets the first. An empty list is ignored.
+    /// An emulator whose model is not in \a names gets the first one. An empty list is ignored.
     void setDeviceModels(const QStringList &names);
     /// Makes an emulator pose as another model; ignored when there is no such model.
     void setDeviceModel(int index, const QString &name);
@@ -52,7 +52,7 @@ private:
     void save() const;
 
     const QString m_settingsFile;
-    SdkSettings m_settings; // its emulators: those that are not listed yet
+    SdkSettings m_settings; // its emulators are those before listEmulators()
     QList<Internal::LocalEmulator *> m_emulators; // children
     bool m_shuttingDown = false;
 };

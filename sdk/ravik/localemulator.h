@@ -11,7 +11,7 @@ namespace Internal {
 
 class LocalMachine;
 
-/// An emulator of the settings, run by the local emulator program.
+/// An emulator of the settings file; the local emulator program runs it.
 class LocalEmulator final : public Emulator
 {
     Q_OBJECT

@@ -133,7 +133,7 @@ void LocalMachine::connectTo(ConnectOptions, const QObject *context, Callback ca
         return;
     }
     m_waiting.append({context, std::move(callback)});
-    // A machine that is being stopped is started again by handleFinished().
+    // handleFinished() starts a machine again that is being stopped.
     if (m_off && m_state != Starting)
         start();
 }
@@ -181,7 +181,7 @@ void LocalMachine::start()
 void LocalMachine::launch()
 {
     m_killTimer.stop();
-    // Another emulator behind the port would be taken for this one.
+    // Another emulator behind this port would be mistaken for this machine.
     if (!isPortFree(hostSshPort)) {
         fail(tr("Port %1, which leads to the emulator, is used by another program.")
                  .arg(hostSshPort));
@@ -203,7 +203,7 @@ void LocalMachine::fail(const QString &reason)
     settle(Error, false);
 }
 
-// The end of its standard input tells the emulator to stop.
+// The emulator stops at the end of its standard input.
 void LocalMachine::stopProcess()
 {
     m_process.closeWriteChannel();
@@ -244,7 +244,7 @@ void LocalMachine::handleFinished()
         break;
     }
     Q_EMIT virtualMachineOffChanged(true);
-    // Callers who came while it was being stopped want it back.
+    // connectTo() was called while the machine stopped, so start it again.
     if (!m_waiting.isEmpty() && m_state != Starting)
         start();
 }
@@ -257,7 +257,7 @@ void LocalMachine::setState(State state)
     Q_EMIT stateChanged();
 }
 
-// Ends an attempt to connect. Whoever calls connectTo() on the change of state begins a new one.
+// Ends an attempt to connect. A connectTo() in a slot of stateChanged() begins a new attempt.
 void LocalMachine::settle(State state, bool success)
 {
     const QList<Waiting> waiting = std::exchange(m_waiting, {});
@@ -273,7 +273,7 @@ QString LocalMachine::dataFile(const QString &fileName) const
     return m_host.dataFolder(m_settings) + u'/' + fileName;
 }
 
-// Every machine has the rule for SSH, beside those of its settings.
+// The rules of the settings, and the rule for SSH, which every machine has.
 QList<PortForwarding> LocalMachine::forwardings() const
 {
     return QList<PortForwarding>{{u"ssh"_s, u"tcp"_s, hostSshPort, sshPort}}

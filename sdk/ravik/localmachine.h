@@ -31,7 +31,7 @@ public:
     void shutDown() override;
     [[nodiscard]] QSsh::SshConnectionParameters sshParameters() const override;
 
-    /// What the machine is started with.
+    /// The settings that the machine is started with.
     [[nodiscard]] const EmulatorSettings &settings() const;
     /// Takes effect at the next start.
     void setDeviceModel(const QString &name);
@@ -63,7 +63,7 @@ private:
     State m_state = Disconnected;
     bool m_off = true;
     QString m_errorString;
-    QList<Waiting> m_waiting; // the callers of connectTo() that have no answer yet
+    QList<Waiting> m_waiting; // callers of connectTo() without an answer yet
 
     SshKeyPair m_key;
     QProcess m_process;

@@ -28,7 +28,7 @@ std::optional<PortForwarding> PortForwarding::fromString(const QString &text)
     const QStringList fields = text.split(u',');
     if (fields.size() != 4)
         return {};
-    // toUShort() gives 0, which is not valid either, for what is not a port.
+    // toUShort() returns 0 for text that is no port, and 0 is not a valid port either.
     const PortForwarding forwarding{.ruleName = fields[0],
                                     .protocol = fields[1],
                                     .hostPort = fields[2].toUShort(),

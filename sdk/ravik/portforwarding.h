@@ -6,7 +6,7 @@
 
 namespace Ravik {
 
-/// A port of this computer that leads to a port of an emulator.
+/// A port of this computer that is forwarded to a port of an emulator.
 struct PortForwarding
 {
     QString ruleName;
@@ -14,12 +14,12 @@ struct PortForwarding
     quint16 hostPort = 0;
     quint16 emulatorPort = 0;
 
-    /// Whether the rule can be written as text, and be obeyed.
+    /// Whether the rule can be written as text and carried out.
     [[nodiscard]] bool isValid() const;
-    /// Neither the name nor the host port may stand in two rules.
+    /// True when both rules have the same name or the same host port.
     [[nodiscard]] bool conflictsWith(const PortForwarding &other) const;
 
-    /// "name,protocol,host port,emulator port", as in the settings and for the emulator.
+    /// "name,protocol,host port,emulator port", as in the settings and on the command line.
     [[nodiscard]] QString toString() const;
     /// Empty when \a text is not a valid rule.
     static std::optional<PortForwarding> fromString(const QString &text);

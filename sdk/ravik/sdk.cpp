@@ -31,7 +31,7 @@ QString Sdk::osVariant(TextStyle style)
     return style == TextStyle::Identifier ? u"nimbra-os"_s : u"Nimbra OS"_s;
 }
 
-// The interfaces' destructors stand here so that their type information is in the library.
+// These destructors are here so that the interfaces' type information is in the library.
 Emulator::~Emulator() = default;
 VirtualMachine::~VirtualMachine() = default;
 

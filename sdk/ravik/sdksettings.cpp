@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace Ravik {
 
-// Keys without a group stand in the file's section "General".
+// Keys without a group are in the file's section "General".
 static constexpr auto headlessKey = "headless"_L1;
 static constexpr auto programKey = "emulatorProgram"_L1;
 
@@ -88,7 +88,7 @@ static bool readArray(QSettings &file, QLatin1StringView array, const Read &read
     return true;
 }
 
-// An empty list would be written as "@Invalid()".
+// QSettings would write an empty list as "@Invalid()".
 static void writeList(QSettings &file, QLatin1StringView key, const QStringList &list)
 {
     if (!list.isEmpty())

@@ -7,23 +7,23 @@
 
 namespace Ravik {
 
-/// What the user's settings say of one emulator.
+/// The user's settings of one emulator.
 struct EmulatorSettings
 {
     QString name;
     QString deviceModel;
     QList<PortForwarding> forwardings = {};
     QStringList packages = {};        // empty: the emulator's own list
-    QStringList withoutPackages = {}; // taken out of either list
+    QStringList withoutPackages = {}; // removed from either list
 
-    /// The name as a folder; two emulators must differ in it.
+    /// The name of the emulator's folder, made from its name. No two emulators have the same.
     [[nodiscard]] QString folderName() const;
 };
 
-/// What all emulators share.
+/// The settings that all emulators share.
 struct HostSettings
 {
-    QString folder;  // where the SDK keeps its files
+    QString folder;  // the SDK keeps its files here
     QString program; // empty: the emulator beside the application
     bool headless = false;
 
@@ -32,7 +32,7 @@ struct HostSettings
     [[nodiscard]] QString dataFolder(const EmulatorSettings &emulator) const;
 };
 
-/// The SDK's settings file. What is missing or wrong in it is replaced, entry by entry.
+/// The SDK's settings file. Each missing or invalid entry is replaced by a default.
 struct SdkSettings
 {
     HostSettings host;

@@ -19,7 +19,7 @@ public:
 
     /// Makes the pair unless it exists; ready() or failed() follows, possibly at once.
     void ensure();
-    /// Gives up making it: neither signal follows.
+    /// Stops making it: neither signal follows.
     void cancel();
 
 Q_SIGNALS:

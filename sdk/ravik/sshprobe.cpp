@@ -13,7 +13,7 @@ static constexpr auto timeLimit = 30s;
 
 SshProbe::SshProbe()
 {
-    // The IDE may have the system's proxy for all sockets.
+    // The IDE may use the system's proxy for all sockets.
     m_socket.setProxy(QNetworkProxy::NoProxy);
     m_pollTimer.setInterval(pollInterval);
     connect(&m_pollTimer, &QTimer::timeout, this, &SshProbe::poll);
@@ -39,7 +39,7 @@ void SshProbe::poll()
         stop();
         Q_EMIT timedOut();
     } else if (m_socket.state() == QTcpSocket::UnconnectedState) {
-        // A forwarder accepts before the server behind it listens, and then hangs up.
+        // Try again: a forwarder accepts connections before its server listens, and closes them.
         m_socket.connectToHost(QHostAddress(QHostAddress::LocalHost), m_port);
     }
 }

@@ -15,7 +15,7 @@ class SshProbe : public QObject
 public:
     SshProbe();
 
-    /// Asks until there is an answer or the time is over.
+    /// Tries until the server answers or the time is over.
     void start(quint16 port);
     void stop();
 

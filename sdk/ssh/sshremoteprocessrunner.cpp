@@ -8,17 +8,17 @@ using namespace Qt::StringLiterals;
 
 namespace QSsh {
 
-// Bytes of output beyond which the command is ended, and of its errors that are kept.
+// Limits in bytes: a command with more output is ended, a longer error text is cut.
 static constexpr qint64 maxOutputSize = 16 << 20;
 static constexpr qsizetype maxErrorSize = 4096;
-// Seconds between questions to a server that sends nothing; after three without an answer the
-// client gives up.
+// Seconds of silence after which the client asks the server for an answer. The client gives up
+// after three questions without one.
 static constexpr int aliveInterval = 5;
 
-// Exit code of the client itself when it could not log in or lost the connection.
+// The client's own exit code when it could not log in or lost the connection.
 static constexpr int clientFailure = 255;
 
-// Options that hold file names are split at spaces and have their percent signs expanded.
+// The client splits the values of these options at spaces and expands percent signs in them.
 static QString fileNameOption(const QString &option, QString fileName)
 {
     fileName.replace(u'\\', u"\\\\"_s).replace(u'"', u"\\\""_s).replace(u'%', u"%%"_s);
@@ -86,8 +86,8 @@ void SshRemoteProcessRunner::run(const QString &command, const SshConnectionPara
     });
     connect(process, &QProcess::finished, this,
             [this, process] { Q_EMIT processClosed(failureOf(*process, m_errorText)); });
-    // Queued, because a start can fail before this function returns; the process may have been
-    // replaced by then.
+    // Queued, because a start can fail before this function returns. Another run() may have
+    // replaced the process by then.
     connect(
         process, &QProcess::errorOccurred, this,
         [this, process](QProcess::ProcessError error) {
@@ -110,7 +110,7 @@ QByteArray SshRemoteProcessRunner::readAllStandardOutput()
     return m_process ? m_process->readAllStandardOutput() : QByteArray();
 }
 
-// May be called from a handler of the process's own signals, which therefore outlives this call.
+// Deletes the process later: one of its signals may have led to this call.
 void SshRemoteProcessRunner::discardProcess()
 {
     QProcess *process = std::exchange(m_process, nullptr);

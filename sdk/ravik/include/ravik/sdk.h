@@ -9,7 +9,7 @@ namespace Ravik {
 
 class Emulator;
 
-/// How a name of the operating system is to be written.
+/// How to write the name of the operating system.
 enum class TextStyle {
     Title,      ///< as in headings and messages
     Identifier, ///< as in file names
@@ -23,7 +23,7 @@ class RAVIK_EXPORT Sdk : public QObject
 public:
     ~Sdk() override;
 
-    /// The one SDK of this process; null where there is none.
+    /// The only SDK of this process; null if it has none.
     static Sdk *instance();
 
     /// The name of the operating system that the SDK is for.
@@ -36,7 +36,7 @@ Q_SIGNALS:
     void emulatorAdded(int index);
     /// The emulator is still in emulators() when this is emitted, and is deleted later.
     void aboutToRemoveEmulator(int index);
-    /// The list of device models, not the choice of an emulator, has changed.
+    /// The list of device models has changed, not the device model of an emulator.
     void deviceModelsChanged();
 
 protected:

@@ -12,8 +12,8 @@ namespace Ravik {
 
 /// The virtual machine of an emulator.
 ///
-/// Operations that take a context and a callback are asynchronous: the callback comes from the
-/// event loop of the context's thread, once, unless the context has died by then.
+/// Operations that take a context and a callback are asynchronous: the event loop of the context's
+/// thread calls the callback once, unless the context has been destroyed.
 class RAVIK_EXPORT VirtualMachine : public QObject
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ public:
     };
     Q_ENUM(State)
 
-    /// This SDK has no option to offer; the type stands for those of an SDK that has.
+    /// This SDK has no options; other SDKs may have some.
     enum ConnectOption {
         NoConnectOptions = 0,
     };
@@ -40,29 +40,29 @@ public:
     using QObject::QObject;
     ~VirtualMachine() override;
 
-    /// True unless the machine runs. The pointers may be null; what they point to tells whether
-    /// it runs without a window, and whether somebody else than the SDK started it.
+    /// True unless the machine runs. The arguments, which may be null, receive whether it runs
+    /// without a window and whether somebody else than the SDK started it.
     virtual bool isOff(bool *runningHeadless, bool *startedOutside) const = 0;
     [[nodiscard]] virtual State state() const = 0;
     /// Why the last start failed or the machine ended by itself; empty otherwise.
     [[nodiscard]] virtual QString errorString() const = 0;
 
-    /// Whether a port of this computer is forwarded into the machine. \a ruleName may be null;
-    /// it is left alone when there is no such rule.
+    /// Whether a port of this computer is forwarded into the machine. \a ruleName receives the
+    /// rule's name, if there is a rule; it may be null.
     virtual bool hasPortForwarding(unsigned short hostPort, QString *ruleName) const = 0;
 
-    /// Adds a rule that takes effect at the next start. \a protocol is "tcp" or "udp". Refused
-    /// while the machine runs, and when a rule with that name or host port exists.
+    /// Adds a rule that takes effect at the next start. \a protocol is "tcp" or "udp". Fails while
+    /// the machine runs, and when a rule with that name or host port exists.
     virtual void addPortForwarding(const QString &ruleName, const QString &protocol,
                                    unsigned short hostPort, unsigned short emulatorPort,
                                    const QObject *context, Callback callback)
         = 0;
 
-    /// Starts the machine if it is off and waits until it is reachable: true; or until the start
-    /// has failed: false.
+    /// Starts the machine if it is off. Calls back with true when the machine is reachable, with
+    /// false when the start has failed.
     virtual void connectTo(ConnectOptions options, const QObject *context, Callback callback) = 0;
 
-    /// Asks the machine to end, and ends it by force when it does not within a few seconds.
+    /// Asks the machine to end, and kills it if it still runs after a few seconds.
     virtual void shutDown() = 0;
 
     [[nodiscard]] virtual QSsh::SshConnectionParameters sshParameters() const = 0;

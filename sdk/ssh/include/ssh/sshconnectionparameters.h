@@ -6,7 +6,7 @@
 
 namespace QSsh {
 
-/// How to log in to an SSH server: by public key, and by nothing else.
+/// How to log in to an SSH server. The only method is a public key.
 struct SshConnectionParameters
 {
     QString host = {};

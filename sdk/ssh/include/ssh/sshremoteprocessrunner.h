@@ -21,28 +21,28 @@ public:
     explicit SshRemoteProcessRunner(QObject *parent = nullptr);
     ~SshRemoteProcessRunner() override;
 
-    /// Runs \a command in the remote user's shell. A command that still runs is replaced: nothing
-    /// more is heard of it. processClosed() always comes later, from the event loop. A command that
-    /// writes without end, or a server that falls silent, is given up.
+    /// Runs \a command in the remote user's shell. A command that still runs is ended without a
+    /// signal. processClosed() is always emitted later, from the event loop, also for a command
+    /// that writes too much and for a server that falls silent.
     void run(const QString &command, const SshConnectionParameters &parameters);
 
     /// The command of the last run().
     [[nodiscard]] QString command() const;
 
-    /// What the command of the last run() has written and was not read yet.
+    /// The output of the last run()'s command that was not read yet.
     QByteArray readAllStandardOutput();
 
 Q_SIGNALS:
-    /// The remote process is over. \a error is empty when it ended normally, whatever its exit
-    /// code; otherwise it says what kept it from running to its end.
+    /// The remote process has ended. \a error is empty when it ran to its end, whatever its exit
+    /// code; otherwise it says what stopped the process.
     void processClosed(const QString &error);
 
 private:
     void discardProcess();
 
     QString m_command;
-    QByteArray m_errorText; // its beginning
-    QProcess *m_process = nullptr; // a child; the one of the last run()
+    QByteArray m_errorText; // only the beginning is kept
+    QProcess *m_process = nullptr; // a child, of the last run()
 };
 
 } // namespace QSsh
