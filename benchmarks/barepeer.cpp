@@ -1,6 +1,6 @@
-// Answers the least that a relay and its D-Bus service could: a WebSocket server, behind a
-// forwarded port as the emulator's, that sends every frame back, and a D-Bus object whose one
-// method does next to nothing.
+// The minimal counterpart of a relay and its D-Bus service: a WebSocket server, behind a forwarded
+// port like the emulator's, that sends every frame back, and a D-Bus object whose only method does
+// almost nothing.
 
 #include <tcpforwarder.h>
 

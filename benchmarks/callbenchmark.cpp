@@ -41,7 +41,7 @@ void CallBenchmark::initTestCase()
     Journal journal(dataFolder(emulator()) + "/journal.jsonl");
     openWindow(journal);
     view()->close();
-    // replies to what set the emulator up are still on their way
+    // replies to the set-up calls may still arrive: wait for the last one
     const QSignalSpy replies(invoker(), SIGNAL(replyReceived(QString)));
     QMetaObject::invokeMethod(sensorsManager(), "setAccelerometerX", 12345);
     waitFor("the last reply", [&] {
@@ -106,7 +106,7 @@ void CallBenchmark::testRoundTrip()
 void CallBenchmark::testThroughput()
 {
     static constexpr int calls = 20000;
-    static constexpr int outstanding = 64; // keeps every process on the way busy
+    static constexpr int outstanding = 64; // calls at a time: keeps all processes busy
     QEventLoop loop;
     int sent = 0;
     const auto measure = [&](const QSignalSpy &replies, const std::function<void()> &send) {

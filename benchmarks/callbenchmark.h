@@ -7,9 +7,9 @@
 #include <optional>
 
 /*!
- * What a call of the emulator costs: WebSocket, forwarded port, relay, D-Bus and back. The baseline
- * is a bare WebSocket echo of the same frame by way of a forwarded port, and a bare D-Bus call
- * where that counts, of a process that does nothing else.
+ * Measures calls of the emulator: WebSocket, forwarded port, relay, D-Bus and back. The baseline is
+ * an echo of the same frame by a bare WebSocket server behind a forwarded port. For a round trip, a
+ * call of a bare D-Bus service is added.
  */
 class CallBenchmark : public QObject
 {

@@ -28,7 +28,7 @@ static constexpr quint16 udpPort = 34343;
 static constexpr int framesPerSecond = 30;
 static constexpr auto streamingTime = 20s;
 
-// The same as the plugin's two pipelines, after their sources.
+// The elements behind the source, as in the plugin's two pipelines.
 static constexpr char output[]
     = "jpegenc quality=50 ! rtpjpegpay ! udpsink host=127.0.0.1 port=34343";
 
@@ -107,7 +107,7 @@ void CameraBenchmark::testProcessorTime()
         {"Camera | device=camera | video/x-raw,width=640,height=480,framerate=30/1"});
     waitFor("the camera", [] { return !manager()->property("cameras").toList().isEmpty(); });
     call("updateCamerasList");
-    // longer than it is played
+    // longer than the measurement
     const QString path = makeVideo(framesPerSecond * (static_cast<int>(streamingTime.count()) + 5));
 
     startVideo(path);
@@ -157,8 +157,8 @@ void CameraBenchmark::testGapAtRestart()
 {
     static constexpr qsizetype restarts = 20;
     static constexpr double framePeriod = 1000.0 / framesPerSecond;
-    static constexpr char markerBit = '\x80'; // of the second byte: the frame's last packet
-    stopMachine(); // the port is free
+    static constexpr char markerBit = '\x80'; // in the second byte of a frame's last packet
+    stopMachine(); // frees the port
     QUdpSocket socket;
     QVERIFY(socket.bind(QHostAddress::LocalHost, udpPort));
     QSignalSpy ended(manager(), SIGNAL(videoStreamStopped()));
@@ -216,7 +216,7 @@ void CameraBenchmark::testDiscovery()
         const size_t after = mallinfo2().uordblks;
         return Cost(time, static_cast<double>(after - before) / 1024);
     };
-    static_cast<void>(costOf(100)); // loads what is loaded once
+    static_cast<void>(costOf(100)); // fills all caches
     const Cost half = costOf(50);
     const Cost whole = costOf(100);
     cameras.set({});
@@ -235,7 +235,7 @@ void CameraBenchmark::testDiscovery()
 
 void CameraBenchmark::testEndurance()
 {
-    static constexpr int rounds = 250; // of four changes of the cameras and of the stream
+    static constexpr int rounds = 250; // each changes the cameras and the stream four times
     const QByteArray first = "A | device=a | video/x-raw,width=64,height=48,framerate=30/1; "
                              "video/x-raw,width=32,height=16,framerate=30/1";
     const QByteArray second = "B | device=b | video/x-raw,width=64,height=48,framerate=30/1";

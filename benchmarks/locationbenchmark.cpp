@@ -37,7 +37,7 @@ static QByteArray sentence(const QString &body)
     return '$' + text + '*' + QByteArray::number(sum, 16).toUpper().rightJustified(2, '0') + "\r\n";
 }
 
-/// Kilobytes: "VmHWM" is the most memory that the process had so far, "VmRSS" what it has.
+/// Kilobytes: "VmHWM" is the peak memory of the process, "VmRSS" its present memory.
 static double memory(const QByteArray &key)
 {
     QFile file("/proc/self/status");
@@ -51,7 +51,7 @@ static double memory(const QByteArray &key)
     return 0;
 }
 
-/// The item that \a file describes.
+/// The item of the type that \a file defines.
 static QQuickItem *item(const QByteArray &file)
 {
     const QList<QQuickItem *> items = view()->rootObject()->findChildren<QQuickItem *>();
@@ -72,7 +72,7 @@ static int lastRow()
     return gpsPage()->property("lastRow").toInt();
 }
 
-/// Milliseconds from the file dialog's end to the table's first picture.
+/// Milliseconds from the choice of the file to the first frame with the table.
 static double showTrack(const QString &log)
 {
     QElapsedTimer timer;
@@ -204,7 +204,7 @@ void LocationBenchmark::testUpload()
     std::vector<double> times;
     std::vector<double> loops;
     for (int round = 0; round < 5; ++round) {
-        // nothing is connected, so that the text goes nowhere
+        // without a connection the text is made but not sent
         times.push_back(millisecondsOf([&] {
             QMetaObject::invokeMethod(gpsManager(), "loadTrack", Q_ARG(QVariantList, track));
         }));
@@ -240,7 +240,7 @@ void LocationBenchmark::testPlayback()
     file.close();
     static_cast<void>(showTrack(file.fileName()));
 
-    // one single-shot timer after the other, each as late as a timer of the page may be
+    // a sequence of single-shot timers with the same precision as those of the page
     int bareSteps = 0;
     double bareTime = 0;
     QElapsedTimer clock;
@@ -251,7 +251,7 @@ void LocationBenchmark::testPlayback()
         if (++bareSteps < steps)
             bare.start(interval);
     });
-    // not waitFor(): it keeps the event loop from running for milliseconds at a time
+    // not waitFor(), which blocks the event loop for milliseconds at a time
     QSignalSpy stepped(gpsManager(), SIGNAL(currentPositionIndexChanged()));
     clock.start();
     bare.start(interval);

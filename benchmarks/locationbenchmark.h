@@ -4,10 +4,10 @@
 #include <QTemporaryDir>
 
 /*!
- * Tracks: reading, showing, uploading and playing them.
+ * Measures reading, showing, uploading and playing tracks.
  *
- * The logs are like a receiver's, one sentence in eight being a point, or of points only. The
- * limits hold for the first; the second is the worst that can be.
+ * One kind of log is like a receiver's: every eighth sentence is a point. The limits hold for it.
+ * The other kind has points only, the worst case.
  */
 class LocationBenchmark : public QObject
 {
@@ -22,7 +22,7 @@ private Q_SLOTS:
 
 private:
     [[nodiscard]] QString writeLog(const QString &name, int sentences, bool pointsOnly);
-    /// The milliseconds that the plugin's script takes for the log; its points are forgotten.
+    /// Milliseconds that the plugin's script needs to parse the log; the result is dropped.
     [[nodiscard]] double parse(const QString &log);
 
     QTemporaryDir m_folder;

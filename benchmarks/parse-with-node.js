@@ -1,6 +1,6 @@
 // Usage: node parse-with-node.js SCRIPT LOG
 //
-// Prints the milliseconds that the script, which is one of the plugin's, takes for the log.
+// Prints the milliseconds that SCRIPT, one of the plugin's, needs to parse LOG.
 "use strict";
 
 const fs = require("fs");

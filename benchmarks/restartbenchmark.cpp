@@ -13,7 +13,7 @@
 
 using namespace PluginDriver;
 
-/// The memory of this process that is its own and in use, in MiB.
+/// The memory that only this process uses, in MiB.
 static double privateMemory()
 {
     QFile file("/proc/self/smaps_rollup");
@@ -28,7 +28,7 @@ static double privateMemory()
     return kibibytes / 1024;
 }
 
-// All that the window shows of the sensors and the emulator's state, and what the emulator holds.
+// The calls that the emulator received, the plugin's state of the sensors, and the track's state.
 static QStringList stateAfterRestart(Journal &journal)
 {
     QStringList state = journal.callsSince(0);

@@ -3,8 +3,8 @@
 #include <QObject>
 
 /*!
- * Whether the IDE's memory grows while the emulator dies and is started again, a hundred times with
- * the window open. The baseline is its memory after the first restarts, when all caches are filled.
+ * Measures whether the IDE's memory grows while the emulator is killed and started a hundred times
+ * with the window open. The baseline is the memory after the first restarts, with full caches.
  */
 class RestartBenchmark : public QObject
 {

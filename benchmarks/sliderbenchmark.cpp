@@ -18,8 +18,8 @@
 using namespace PluginDriver;
 using namespace std::chrono_literals;
 
-/// The longest times, in milliseconds, that the event loop did not come round while the mouse moved
-/// to and fro over \a way: the longest one and the 99th percentile.
+/// The times between two turns of the event loop, in milliseconds, while the mouse drags back and
+/// forth over \a way.
 static std::vector<double> gapsWhileDragging(QWindow *window, QPoint centre, int way)
 {
     static constexpr auto duration = 10s;
@@ -61,7 +61,7 @@ void SliderBenchmark::testLongestGap()
     const QPoint centre = handle->mapToScene({handle->width() / 2, handle->height() / 2}).toPoint();
     const qsizetype start = journal.position();
     const std::vector<double> gaps = gapsWhileDragging(view(), centre, qRound(slider->width() / 3));
-    QVERIFY(journal.callsSince(start).size() > 300); // the slider did follow
+    QVERIFY(journal.callsSince(start).size() > 300); // the slider followed
 
     QQuickWindow empty;
     empty.setGeometry(view()->geometry());

@@ -3,8 +3,8 @@
 #include <QObject>
 
 /*!
- * Whether dragging a slider of the values page, 60 mouse events a second, leaves the GUI thread's
- * event loop free. The baseline is an empty window that gets the same events.
+ * Measures how long the GUI thread's event loop is blocked while a slider of the values page is
+ * dragged with 60 mouse events a second. The baseline is an empty window with the same events.
  */
 class SliderBenchmark : public QObject
 {

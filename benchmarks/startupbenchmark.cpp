@@ -8,7 +8,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-/// Milliseconds.
+/// Times in milliseconds.
 struct Start
 {
     double whole = 0;

@@ -3,8 +3,8 @@
 #include <QObject>
 
 /*!
- * What the plugin adds to the start of an IDE with all of its own plugins, as the IDE's profile
- * tells. The baseline is the same IDE without the plugin, in turns with the other.
+ * Measures the plugin's share of the start of an IDE with all its plugins, by the IDE's profile.
+ * The baseline is the same IDE without the plugin; the two are started in turns.
  */
 class StartUpBenchmark : public QObject
 {

@@ -11,7 +11,7 @@
 
 using namespace PluginDriver;
 
-/// Takes the base of all pages for the device model page.
+/// Loads the empty base of all pages instead of the device model page.
 class EmptyPage : public QQmlAbstractUrlInterceptor
 {
 public:
@@ -23,7 +23,7 @@ public:
     }
 };
 
-/// The time, in milliseconds, that the view takes to load in an engine that has loaded nothing.
+/// The time, in milliseconds, that the view takes to load in a new engine.
 static double loadingTime(QQmlAbstractUrlInterceptor *interceptor)
 {
     static constexpr const char *properties[] = {

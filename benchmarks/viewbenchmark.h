@@ -3,8 +3,8 @@
 #include <QObject>
 
 /*!
- * What the device model page adds to loading the view, which the IDE does when it starts. The
- * baseline is the same view with an empty page in its place.
+ * Measures what the device model page adds to the loading of the view at the IDE's start. The
+ * baseline is the same view with an empty page instead.
  */
 class ViewBenchmark : public QObject
 {

@@ -15,8 +15,8 @@ namespace TestSupport {
 
 using namespace Qt::StringLiterals;
 
-/// Adds a row for each of the texts "call > what follows > …", named after the call, with its
-/// parts.
+/// Adds a row for each text "call > result > …": the call is the row's name, the parts of the text
+/// are its data.
 inline void addCallRows(std::span<const char *const> calls)
 {
     QTest::addColumn<QStringList>("row");
@@ -26,8 +26,8 @@ inline void addCallRows(std::span<const char *const> calls)
     }
 }
 
-/// A manager of the D-Bus service \a service that is connected to a recording relay and was not
-/// told so: it has sent nothing yet.
+/// A manager of the D-Bus service \a service, connected to a recording relay. It got the link after
+/// the link was connected, so it has sent nothing yet.
 template<typename Manager>
 struct ConnectedManager
 {
@@ -41,7 +41,7 @@ struct ConnectedManager
         engine.globalObject().setProperty(u"manager"_s, engine.newQObject(&manager));
     }
 
-    /// Runs a script that knows the manager by this name, as a page would.
+    /// Runs a script in which `manager` is the manager, as in a page.
     QString evaluate(const QString &script) { return engine.evaluate(script).toString(); }
 
     [[nodiscard]] bool reconnect()
@@ -51,8 +51,8 @@ struct ConnectedManager
         return connected.wait();
     }
 
-    /// Takes the requests as "method arguments" with ";" in between. One with another address than
-    /// the manager's keeps it.
+    /// Returns the new requests as "method arguments", separated by ";". Only a request to another
+    /// address than the manager's keeps its address.
     [[nodiscard]] QString takeRequests()
     {
         QStringList requests = relay.takeRequests(link);

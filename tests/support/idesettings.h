@@ -11,7 +11,7 @@ class PluginManager;
 
 namespace TestSupport {
 
-/// Gives a program that is not the IDE the IDE's settings, in a file of its own.
+/// Provides the IDE's settings, in a temporary file, to a program that is not the IDE.
 class IdeSettings
 {
 public:

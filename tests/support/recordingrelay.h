@@ -31,9 +31,9 @@ public:
     void reply(const QString &line);
 
     /*!
-     * Returns the lines that came over \a link since the last call.
+     * Returns the lines that arrived over \a link since the last call.
      *
-     * Sends a mark behind them: when it has come, nothing that was sent before is still on its way.
+     * Sends a mark first: once it has arrived, so have all earlier lines.
      */
     [[nodiscard]] QStringList takeRequests(
         EmulationManagement::Internal::RemoteDBusInvokerService &link);

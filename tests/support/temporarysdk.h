@@ -14,14 +14,14 @@ class VirtualMachine;
 
 namespace TestSupport {
 
-/// An SDK in a folder of its own whose first emulator is the project's, without a window.
+/// An SDK in a temporary folder. Its first emulator is the project's, without a window.
 class TemporarySdk
 {
 public:
-    /// \a settings are lines of the SDK's settings file that follow its section "General".
+    /// \a settings are lines of the SDK's settings file after its section "General".
     explicit TemporarySdk(const QByteArray &settings = {});
 
-    /// Reads the settings file afresh, as a restart of the IDE does; ends what runs.
+    /// Ends a running emulator and reads the settings file again, as a restart of the IDE does.
     void reopen();
 
     [[nodiscard]] Ravik::HostSdk &sdk() { return *m_sdk; }
@@ -33,7 +33,7 @@ public:
                                          unsigned short hostPort, unsigned short emulatorPort);
     /// Asks the running emulator for a fault and returns its answer, "ok" or "error: …".
     [[nodiscard]] QString requestFault(const QByteArray &command);
-    /// What the emulator wrote since the SDK's folder was made, a line an event.
+    /// The emulator's journal since the SDK's folder was made, one event a line.
     [[nodiscard]] QByteArray journal() const;
 
 private:
