@@ -101,7 +101,7 @@ private Q_SLOTS:
         manager.updateCamerasList();
         QCOMPARE(selectionOf(manager), u"Front 640x480@30/1"_s);
 
-        // another camera of a name that is known
+        // a second camera with the name of the first
         m_cameras.set({front, "Front | device=/dev/b |" HD, rear, "X | |" RAW});
         QTRY_VERIFY(manager.cameras().contains(u"X"));
         QCOMPARE(summaryOf(manager.resolutions()), u"640x480@30/1,15/1 320x240@15/1"_s);
@@ -136,8 +136,8 @@ private Q_SLOTS:
         manager.setFramerate(u"15/1"_s);
         manager.setResolutionIndex(1);
         manager.setResolutionIndex(0);
-        QCOMPARE(selectionOf(manager), u"Front 640x480@15/1"_s); // kept, for it is offered
-        QCOMPARE(framerateChanged.size(), 3); // also without a change
+        QCOMPARE(selectionOf(manager), u"Front 640x480@15/1"_s); // kept: this size offers it
+        QCOMPARE(framerateChanged.size(), 3); // also emitted without a change
         for (const int index : {-1, 2, 1000}) {
             manager.setResolutionIndex(index);
             QCOMPARE(selectionOf(manager), u"Front 640x480@15/1"_s);

@@ -18,14 +18,14 @@ static const QByteArray front = "Front | device=/dev/front | video/x-raw,width=1
 static const QByteArray rear
     = "Rear | device=/dev/rear | video/x-raw,width=96,height=80,framerate=30/1";
 
-static constexpr QSize videoSize(320, 240); // of vp8.webm and vp9.webm
+static constexpr QSize videoSize(320, 240); // vp8.webm and vp9.webm
 
 static QString media(const QString &name)
 {
     return u"" MEDIA_FOLDER "/"_s + name;
 }
 
-// The emulator's receiver, where the forwarding of its port begins, tells what is streamed.
+// The emulator's receiver, on the host's end of the forwarded port, shows what is streamed.
 class CameraStreamingTest : public QObject
 {
     Q_OBJECT
@@ -34,7 +34,7 @@ class CameraStreamingTest : public QObject
     NimbraEmulator::Journal m_journal;
     NimbraEmulator::VideoReceiver m_receiver{m_journal};
 
-    // What was under way when the stream changed counts neither as its pictures nor as others'.
+    // Skips the frames that were on their way when the stream changed.
     bool arrives(QSize size)
     {
         const auto isThere = [&] { return m_receiver.picture().size() == size; };
@@ -44,7 +44,7 @@ class CameraStreamingTest : public QObject
         return QTest::qWaitFor(isThere) && QTest::qWaitFor(more);
     }
 
-    // The receiver takes a second without pictures for the end.
+    // The receiver reports the end after a second without pictures.
     bool ends()
     {
         return QTest::qWaitFor([&] { return m_receiver.picture().isNull(); });
@@ -121,10 +121,10 @@ private Q_SLOTS:
 
         manager.startVideoStream(media(u"vp8.webm"_s));
         QVERIFY(arrives(videoSize));
-        manager.setCameraStreamSettings(); // switches over
+        manager.setCameraStreamSettings(); // switches to the camera
         QVERIFY(arrives({96, 80}));
 
-        // the window is shown again
+        // as when the window is shown again
         manager.setupCameraStreamPipeline();
         QCOMPARE(manager.cameraName(), u"Rear"_s);
         manager.updateCamerasList();
@@ -176,7 +176,7 @@ private Q_SLOTS:
 
     void codecs()
     {
-        // opened, it would hold this thread
+        // opening the pipe would block this thread
         ::mkfifo(QFile::encodeName(media(u"pipe.webm"_s)).constData(), S_IRUSR | S_IWUSR);
         CameraEmulationManager manager;
         QSignalSpy checked(&manager, &CameraEmulationManager::videoFileCodecChecked);
@@ -197,7 +197,7 @@ private Q_SLOTS:
     {
         QTemporaryDir folder;
         const QString path = folder.filePath(u"50% #1 ü?.webm"_s);
-        QVERIFY(QFile::copy(media(u"vp9.mkv"_s), path)); // half a second
+        QVERIFY(QFile::copy(media(u"vp9.mkv"_s), path)); // it lasts half a second
         CameraEmulationManager manager;
         manager.setupCameraStreamPipeline();
         QSignalSpy stopped(&manager, &CameraEmulationManager::videoStreamStopped);
@@ -212,14 +212,14 @@ private Q_SLOTS:
         QVERIFY(ends());
         QVERIFY(manager.streamRunning());
 
-        // stopped before the news of the end was handled
+        // stopped before the manager handled the file's end
         manager.startVideoStream(media(u"vp9.mkv"_s));
         manager.stopVideoStream();
         Q_EMIT manager.videoStreamStopped();
         QVERIFY(!QTest::qWaitFor([&] { return !m_receiver.picture().isNull(); }, 500));
     }
 
-    // A file of which no frame can be sent must not keep the user from anything else.
+    // A file of which no frame can be sent must not block the event loop or the next stream.
     void fileWithoutPictures()
     {
         CameraEmulationManager manager;

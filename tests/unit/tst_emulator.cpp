@@ -14,9 +14,9 @@ using namespace EmulationManagement::Internal;
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-// Each, in this order: a request > its reply as far as the error's name. S and L are the addresses
-// of the services of sensors and location, ERROR their errors, DBUS those of D-Bus and INVALID the
-// relay's own.
+// Rows in this order: a request > its reply up to the error's name. S and L are the addresses of
+// the sensor and the location service, ERROR the prefix of their errors, DBUS that of D-Bus's
+// errors, INVALID the relay's reply to an invalid request.
 static constexpr const char *requests[] = {
     "S disableSensor string:als > disableSensor:als::",
     "S enabled string:als > enabled:als:0:",
@@ -24,11 +24,11 @@ static constexpr const char *requests[] = {
     "S enabled string:als > enabled:als:1:",
     "S enabled string:sonar > enabled:sonar::ERROR.UnknownSensor",
     "S setAccelerometerValues int32:10 int32:-3 int32:981 > setAccelerometerValues:10|-3|981::",
-    "S setGyroscopeX double:1.50e-07 > setGyroscopeX:1.50e-07::", // as it was written
+    "S setGyroscopeX double:1.50e-07 > setGyroscopeX:1.50e-07::", // the reply repeats the text
     "S explode  > explode:::DBUS.UnknownMethod",
     "S setTapSensorValue double:-1 > setTapSensorValue:-1::DBUS.UnknownMethod",
     "S setAlsValue int32:1 int32:2 > setAlsValue:1|2::DBUS.UnknownMethod",
-    "L pauseTrack > pauseTrack:::", // may do without the last space
+    "L pauseTrack > pauseTrack:::", // the last space is optional
     "L goToPositionOnTrack int32:0 > goToPositionOnTrack:0::ERROR.IndexOutOfRange",
     "L loadTrack array:array:double:60.0,30,12.50,0;1,2,3,4 > loadTrack:60.0,30,12.50,0;1,2,3,4::",
     "L loadTrack array:array:double:1,2,3;1,2,3,4 > loadTrack:1,2,3;1,2,3,4::ERROR.InvalidTrack",
@@ -36,7 +36,7 @@ static constexpr const char *requests[] = {
     " > INVALID",
     "system a.b / a.b > INVALID",
     "session a.b / a.b x  > INVALID",
-    "system a.b x a.b x  > INVALID", // what D-Bus would not carry ends the relay's connection to it
+    "system a.b x a.b x  > INVALID", // D-Bus would close the relay's connection
     "S set-x  > INVALID",
     "S enabled  string:als > INVALID",
     "S enabled float:1 > INVALID",
@@ -114,14 +114,14 @@ private Q_SLOTS:
         QCOMPARE(fields.at(3).isEmpty(), fields.mid(4).join(u':').isEmpty()); // an error has a text
     }
 
-    // What the relay refuses by itself must not overtake what the bus has to answer.
+    // Replies that the relay gives at once must not overtake those of the bus.
     void repliesComeInOrder()
     {
         QStringList expected;
         for (int i = 0; i < 100; ++i) {
             m_client.sendTextMessage(expanded("S setAlsValue int32:") + QString::number(i));
             m_client.sendTextMessage(expanded("S enabled string:als") + QChar::Null);
-            m_client.sendTextMessage(expanded("S ") + QString(256, u'x')); // D-Bus has shorter ones
+            m_client.sendTextMessage(expanded("S ") + QString(256, u'x')); // too long for D-Bus
             m_client.sendBinaryMessage("system");
             expected << u"setAlsValue:%1::"_s.arg(i);
             expected.insert(expected.size(), 3, expanded("INVALID"));
@@ -140,7 +140,7 @@ private Q_SLOTS:
         QCOMPARE(m_sdk.requestFault("fail setAlsValue"), u"ok"_s);
         QCOMPARE(m_sdk.requestFault("relay answer what: ever"), u"ok"_s);
         QCOMPARE(ask(request), u"what: ever"_s);
-        QCOMPARE(ask(request), u"setAlsValue:1:::"_s); // that was once
+        QCOMPARE(ask(request), u"setAlsValue:1:::"_s); // the fault is used up
         QVERIFY(m_sdk.requestFault("relay delay x").startsWith(u"error: "));
         QVERIFY(m_sdk.requestFault("explode").startsWith(u"error: "));
 
@@ -151,7 +151,7 @@ private Q_SLOTS:
         QVERIFY(connectClient());
     }
 
-    // Browsers let any page open WebSockets to this machine.
+    // Browsers let any web page open WebSockets to this machine.
     void webPagesAreRefused()
     {
         QWebSocket page(u"https://nimbra.example"_s);
@@ -162,7 +162,7 @@ private Q_SLOTS:
         QVERIFY(connected.isEmpty());
     }
 
-    // The services must take every call as the plugin writes it.
+    // The services must accept every call as the plugin writes it.
     void everyCallOfThePluginSucceeds()
     {
         const TestSupport::IdeSettings settings;

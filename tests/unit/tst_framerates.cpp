@@ -4,7 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// What real cameras hardly tell; the rest is tested with caps of virtual ones.
+/// Odd fractions, which real cameras hardly have. Virtual cameras test the others.
 class FrameratesTest : public QObject
 {
     Q_OBJECT

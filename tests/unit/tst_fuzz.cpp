@@ -19,15 +19,15 @@
 using namespace EmulationManagement::Internal;
 using namespace Qt::StringLiterals;
 
-/// Random inputs, mutated from good ones, against an oracle that works in another way. FUZZ_SEED
-/// chooses the inputs, FUZZ_COUNT how many each function makes.
+/// Mutates valid inputs at random and compares the results with those of another implementation.
+/// FUZZ_SEED chooses the inputs, FUZZ_COUNT their number in each function.
 class FuzzTest : public QObject
 {
     Q_OBJECT
 
     int number(int end) { return std::uniform_int_distribution(0, end - 1)(m_random); }
 
-    /// Any finite number, most of them of a size that occurs.
+    /// A finite number, mostly of a usual size.
     double real()
     {
         const double any
@@ -36,7 +36,7 @@ class FuzzTest : public QObject
         return number(4) == 0 && std::isfinite(any) ? any : usual;
     }
 
-    /// One of \a texts after some bytes were lost, doubled, exchanged or put in.
+    /// One of \a texts with some bytes removed, doubled, replaced or inserted.
     QByteArray mutated(const QByteArrayList &texts, const QByteArrayList &dictionary)
     {
         QByteArray text = texts.at(number(int(texts.size())));
@@ -84,7 +84,7 @@ private Q_SLOTS:
     {
         const unsigned seed = qEnvironmentVariableIsSet("FUZZ_SEED")
                                   ? unsigned(qEnvironmentVariableIntValue("FUZZ_SEED"))
-                                  : std::random_device()() / 2; // to fit
+                                  : std::random_device()() / 2; // fits into an int
         qInfo("seed %u, %d inputs", seed, m_count);
         m_random.seed(seed);
     }
@@ -96,7 +96,7 @@ private Q_SLOTS:
         std::optional<SensorsEmulationManager> manager;
         QString answer;
         repeat([&] {
-            // a manager keeps every name that the emulator tells
+            // a manager keeps every name that the emulator sends, so a new one starts with few
             if (!manager || manager->sensorsEnabledStates().size() > 50) {
                 manager.emplace();
                 manager->setRdbusinvoker(&link);
@@ -138,7 +138,7 @@ private Q_SLOTS:
     void framerates()
     {
         repeat([&] {
-            // ranges, lists and single ones as GStreamer writes them
+            // ranges, lists and single values, as GStreamer writes them
             const qint64 low = number(200), high = low + number(200);
             const qint64 divisor = 1 + number(3), numerator = number(100'000);
             QStringList framerates;
@@ -192,7 +192,7 @@ private Q_SLOTS:
                 QVERIFY(map.value(u"framerates"_s).toStringList().size() < 1000);
                 previous = width;
             }
-            // and as texts that no GStreamer has written
+            // also texts that GStreamer would not write
             QStringList framerates;
             initAvailableFramerates(&framerates, QString::fromUtf8(text));
         });
@@ -223,7 +223,7 @@ private Q_SLOTS:
             Smartphone3DModelConfig model;
             model.updateSmartphone3DModel(u"Phone"_s);
             QVERIFY(model.smartphone3DModelConfigured());
-            // what is saved over it is read again as it was
+            // values that are saved over the invalid file are read back unchanged
             const int x = int(m_random());
             const double latitude = real();
             {

@@ -7,7 +7,7 @@
 using namespace EmulationManagement::Internal;
 using namespace Qt::StringLiterals;
 
-// Each: a call as a page makes it > the request > the state after it > the signal that it emits.
+// Rows: a call of a page > the request > the state afterwards > the emitted signal.
 static constexpr const char *calls[] = {
     "setPosition(-60.5, 30.123456789, 12.345)"
     " > setPosition double:-60.5000000 double:30.1234568 double:12.35"
@@ -18,7 +18,7 @@ static constexpr const char *calls[] = {
     " > 1.5 -179.5 3.5 false false 1 7 false > ",
     "setAltitude(1234567.891) > setAltitude double:1234567.89"
     " > 1.5 2.5 1234567.891 false false 1 7 false > ",
-    // what is not a number leaves what was set before
+    // a value that is not a number keeps the former one
     "setLocalPosition(1, 2, NaN) >  > 1 2 3.5 false false 1 7 false > ",
     "setPosition(NaN, NaN, 0) > setPosition double:1.5000000 double:2.5000000 double:0.00"
     " > 1.5 2.5 0 false false 1 7 false > ",
@@ -27,7 +27,7 @@ static constexpr const char *calls[] = {
     "pauseTrack() > pauseTrack  > 1.5 2.5 3.5 false false 1 7 false > ",
     "stopTrack() > stopTrack  > 1.5 2.5 3.5 false false 1 0 false > index",
     "setTrackLooped(true) > setTrackLooped boolean:1 > 1.5 2.5 3.5 true false 1 7 false > looped",
-    // unchanged, and still told
+    // no change, but a signal
     "setTrackLooped(false) > setTrackLooped boolean:0 > 1.5 2.5 3.5 false false 1 7 false > looped",
     "setTrackIntervalMode(true) > setTrackIntervalMode boolean:1"
     " > 1.5 2.5 3.5 false true 1 7 false > interval",
@@ -60,7 +60,7 @@ class GpsEmulationManagerTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); // writes 1,5
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); // decimal comma
     }
 
     void call_data() { TestSupport::addCallRows(calls); }
@@ -84,7 +84,7 @@ private Q_SLOTS:
         QCOMPARE(fixture.takeRequests(), row.at(1));
         QCOMPARE(fixture.state(), row.at(2));
         QCOMPARE(told, row.at(3));
-        // what is shown is also kept
+        // every shown value is also saved
         QCOMPARE(SettingsManager().readGpsLatitude(), manager.currentPosition()->latitude());
         QCOMPARE(SettingsManager().readGpsLongitude(), manager.currentPosition()->longitude());
         QCOMPARE(SettingsManager().readGpsAltitude(), manager.currentPosition()->altitude());
@@ -127,7 +127,7 @@ private Q_SLOTS:
         fixture.manager.setTrackSpeed(3);
         fixture.manager.loadTrack({});
         fixture.manager.goToPositionOnTrack(9);
-        fixture.manager.currentPosition()->setLatitude(1); // only what was saved counts
+        fixture.manager.currentPosition()->setLatitude(1); // not saved, so it is lost
         QVERIFY(!fixture.takeRequests().isEmpty());
 
         QVERIFY(fixture.reconnect());

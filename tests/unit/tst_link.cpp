@@ -9,7 +9,7 @@ using namespace EmulationManagement::Internal;
 using namespace Qt::StringLiterals;
 using Link = RemoteDBusInvokerService;
 
-/// A manager of an imaginary service, with a different text in every field of a request.
+/// A manager of an imaginary service whose requests have a different text in every field.
 class LampManager : public EmulationManager
 {
 public:
@@ -66,7 +66,7 @@ private Q_SLOTS:
         sinceStart.start();
         link.connectToEmulator();
         QTRY_VERIFY(disconnected.size() >= 5);
-        QVERIFY(sinceStart.durationElapsed() >= 4 * Link::retryInterval); // no busy core
+        QVERIFY(sinceStart.durationElapsed() >= 4 * Link::retryInterval); // no busy loop
         link.callDBusMethod(u"lost"_s, {}, {}, {}, {}, {});
         QVERIFY(connected.isEmpty());
         QVERIFY(relay.listen());
@@ -98,8 +98,8 @@ private Q_SLOTS:
         QStringList seen;
         connect(&manager, &EmulationManager::replyFromEmulatorReceived, this,
                 [&](const QString &text) { seen << text << manager.seen; });
-        relay.reply(u"x:y:z:org.x.Bad:"_s); // an error is none of its business
-        relay.reply(u"enabled:als:1:: "_s); // an error's text alone is no error
+        relay.reply(u"x:y:z:org.x.Bad:"_s); // the subclass gets no errors
+        relay.reply(u"enabled:als:1:: "_s); // a text without an error's name is a success
         QTRY_COMPARE(seen, (QStringList{u"org.x.Bad "_s, u"OK"_s, u"enabled,als,1,, "_s}));
     }
 

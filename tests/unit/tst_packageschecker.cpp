@@ -14,7 +14,7 @@ class PackagesCheckerTest : public QObject
 {
     Q_OBJECT
 
-    /// Starts two checks and returns, sorted, the packages that the only answer names.
+    /// Starts two checks and returns the sorted packages of the only answer.
     QString missingPackages(const QSsh::SshConnectionParameters &first,
                             const QSsh::SshConnectionParameters &second)
     {
@@ -42,7 +42,7 @@ private Q_SLOTS:
 
     void check_data()
     {
-        QTest::addColumn<QByteArrayList>("faults"); // which stay for the rows that follow
+        QTest::addColumn<QByteArrayList>("faults"); // they last for the next rows
         QTest::addColumn<QString>("missing");
         QTest::newRow("all are there") << QByteArrayList() << QString();
         QTest::newRow("one is missing")
@@ -60,7 +60,7 @@ private Q_SLOTS:
         QFETCH(const QByteArrayList, faults);
         for (const QByteArray &fault : faults)
             QCOMPARE(m_sdk.requestFault("package " + fault), u"ok"_s);
-        // the first is replaced and never answered
+        // the second check replaces the first, which is never answered
         QTEST(missingPackages({.host = u"127.0.0.1"_s, .port = 1}, m_sdk.machine().sshParameters()),
               "missing");
     }

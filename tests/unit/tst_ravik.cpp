@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 using Ravik::VirtualMachine;
 using TestSupport::TemporarySdk;
 
-static constexpr quint16 sshPort = 2223; // of the host
+static constexpr quint16 sshPort = 2223; // on the host
 
 static bool accepts(quint16 port)
 {
@@ -31,7 +31,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("rule");
         QTest::addColumn<QString>("protocol");
         QTest::addColumn<int>("hostPort");
-        QTest::addColumn<bool>("accepted"); // beside "a", tcp, 5454
+        QTest::addColumn<bool>("accepted"); // beside the rule "a", tcp, 5454
         QTest::newRow("another name and port") << u"b"_s << u"udp"_s << 34343 << true;
         QTest::newRow("same rule") << u"a"_s << u"tcp"_s << 5454 << false;
         QTest::newRow("same name") << u"a"_s << u"udp"_s << 34343 << false;
@@ -52,7 +52,7 @@ private Q_SLOTS:
         TemporarySdk sdk;
         QVERIFY(sdk.addPortForwarding(u"a"_s, u"tcp"_s, 5454, 1234));
         QCOMPARE(sdk.addPortForwarding(rule, protocol, quint16(hostPort), 1234), accepted);
-        sdk.reopen(); // rules are kept
+        sdk.reopen(); // keeps the rules
         QString name;
         QVERIFY(sdk.machine().hasPortForwarding(5454, &name));
         QCOMPARE(name, u"a"_s);
@@ -75,7 +75,7 @@ private Q_SLOTS:
         QVERIFY2(sdk.start(), qPrintable(machine.errorString()));
         QCOMPARE(states, QList<int>({1, 2, 4}));
         QVERIFY(!machine.isOff(nullptr, nullptr));
-        QVERIFY(sdk.start()); // it runs already
+        QVERIFY(sdk.start()); // a running machine is reachable at once
         QVERIFY(!sdk.addPortForwarding(u"late"_s, u"tcp"_s, 5455, 1234));
         QVERIFY(accepts(5454));
         QUdpSocket receiver;
@@ -84,7 +84,7 @@ private Q_SLOTS:
         QTRY_COMPARE(receiver.pendingDatagramSize(), 60'000);
 
         machine.shutDown();
-        machine.shutDown(); // being asked twice does no harm
+        machine.shutDown(); // a second request does no harm
         QVERIFY(sdk.start()); // waits for the end and starts again
         machine.shutDown();
         QTRY_VERIFY(machine.isOff(nullptr, nullptr));
@@ -107,7 +107,7 @@ private Q_SLOTS:
         QVERIFY2(sdk.start(), qPrintable(sdk.machine().errorString()));
         QSignalSpy destroyed(&sdk.machine(), &QObject::destroyed);
         sdk.sdk().removeEmulator(0);
-        QVERIFY(destroyed.isEmpty()); // listeners may still look at it
+        QVERIFY(destroyed.isEmpty()); // listeners may still use it
         QVERIFY(destroyed.wait());
         QVERIFY(!accepts(sshPort));
     }

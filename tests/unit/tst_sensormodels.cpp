@@ -48,7 +48,7 @@ static QString valuesOf(const SensorModel &model)
     return values.join(u' ');
 }
 
-/// The life of a model: as it starts, as its properties are set, as it is reset.
+/// A model's values at first, after each property was set, and after a reset.
 template<typename Model>
 static void addModel(const char *name, const QString &initial, const QString &defaults)
 {
@@ -58,7 +58,7 @@ static void addModel(const char *name, const QString &initial, const QString &de
         for (const QMetaProperty &property : propertiesOf(model)) {
             QSignalSpy changed(&model, property.notifySignal());
             QVERIFY(property.write(&model, 3));
-            QVERIFY(property.write(&model, 3)); // notifies though nothing changes
+            QVERIFY(property.write(&model, 3)); // notifies without a change, too
             QCOMPARE(changed.size(), 2);
             QCOMPARE(property.read(&model).toDouble(), 3);
         }
@@ -86,7 +86,7 @@ private Q_SLOTS:
         addModel<MagnetometerModel>("magnetometer", magnetometer, magnetometer);
         addModel<ProximityModel>("proximity", u"5"_s, u"5"_s);
         addModel<TapModel>("tap", u"-1"_s, u"-1"_s);
-        // these two are computed, and not before the first reading
+        // computed values, unset until the first reading
         addModel<CompassModel>("compass", u"0 0"_s, u"270 0"_s);
         addModel<OrientationModel>("orientation", u"0"_s, u"5"_s);
     }
@@ -108,12 +108,12 @@ private Q_SLOTS:
         QCOMPARE(azimuthOf(359.6), 0);
     }
 
-    // A device that points at a heading shows it however it is turned and whatever the field's dip
-    // is. Its magnetometer's z axis points into the screen, its accelerometer's out of it.
+    // The azimuth is the heading in any attitude and for any dip of the field. The z axis of the
+    // magnetometer points into the screen, that of the accelerometer out of it.
     void azimuthIsTheHeadingInAnyAttitude()
     {
         constexpr int readings = 300'000;
-        constexpr double gravity = 1e8; // far more than real, so that integers are fine enough
+        constexpr double gravity = 1e8; // huge, so that rounding to integers does not matter
         std::mt19937 random(1);
         const auto uniform = [&](double least, double most) {
             return std::uniform_real_distribution(least, most)(random);
@@ -121,7 +121,7 @@ private Q_SLOTS:
         for (int reading = 0; reading < readings; ++reading) {
             const double heading = uniform(0, 360);
             const double dip = radians(uniform(-75, 75));
-            // the axes of the device as east, north and up: turned about z, then x, then y
+            // the device's axes in east, north and up: turned about z, then x, then y
             const QMatrix3x3 attitude
                 = (QQuaternion::fromAxisAndAngle(0, 0, 1, float(-heading))
                    * QQuaternion::fromAxisAndAngle(1, 0, 0, float(uniform(-85, 85)))
@@ -146,7 +146,7 @@ private Q_SLOTS:
         using enum QOrientationReading::Orientation;
         using Orientation = QOrientationReading::Orientation;
         QTest::addColumn<QList<Vector>>("readings");
-        QTest::addColumn<Orientation>("orientation"); // after the last
+        QTest::addColumn<Orientation>("orientation"); // after the last reading
         const auto add = [](const char *name, const QList<Vector> &readings, Orientation result) {
             QTest::newRow(name) << readings << result;
         };

@@ -8,7 +8,7 @@
 using namespace EmulationManagement::Internal;
 using namespace Qt::StringLiterals;
 
-// Each: a call as a page makes it > the requests > what changes in the models, from the defaults.
+// Rows: a call of a page > the requests > the models' values that differ from the defaults.
 static constexpr const char *calls[] = {
     "setSensorEnabled('als', true) >  > ",
     "setAccelerometerValues(10, -3, 981) > setAccelerometerValues int32:10 int32:-3 int32:981"
@@ -21,7 +21,7 @@ static constexpr const char *calls[] = {
     " > accelerometer.z=-1000 compass.azimuth=90 orientation.orientation=6",
     "setAlsLuxValue(20000) > setAlsValue int32:20000 > als.lux=20000",
     "setAlsLightLevel(2500) > setAlsValue int32:2500 > als.lux=2500",
-    // six digits are sent, all are kept
+    // requests have six digits, the model keeps all
     "setGyroscopeValues(1.23456789, -2.5, 1e-7)"
     " > setGyroscopeValues double:1.23457 double:-2.5 double:1e-07"
     " > gyroscope.x=1.23456789 gyroscope.y=-2.5 gyroscope.z=1e-07",
@@ -38,7 +38,7 @@ static constexpr const char *calls[] = {
     " > compass.calibrationLevel=3 magnetometer.calibrationLevel=3",
     "setCompassCalibrationLevel(3) > setMagnetometerCalibrationLevel int32:3"
     " > compass.calibrationLevel=3 magnetometer.calibrationLevel=3",
-    // the magnetic field stays on the host
+    // the magnetic field is not sent
     "setMagneticFieldValues(1, 2, 3) >  > magneticField.x=1 magneticField.y=2 magneticField.z=3",
     "setMagneticFieldZ(3) >  > magneticField.z=3",
     "setProximitySensorNearValue(true) > setProximitySensorValue int32:0 > proximity.reflectance=0",
@@ -64,7 +64,7 @@ static QString callForEach(const QString &method)
     return start + sensors.join(QString(u';' + start));
 }
 
-/// What the pages see of all models, each value as "model.property=value".
+/// All models' values as the pages see them, each as "model.property=value".
 static QStringList valuesOf(const SensorsEmulationManager &manager)
 {
     QStringList values;
@@ -97,7 +97,7 @@ class SensorsEmulationManagerTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); // writes 1,5
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); // decimal comma
     }
 
     void call_data() { TestSupport::addCallRows(calls); }
@@ -116,7 +116,7 @@ private Q_SLOTS:
         QCOMPARE(changes.join(u' '), row.at(2));
     }
 
-    // What stands for an orientation or an azimuth must come out of it again.
+    // Setting an orientation or an azimuth must give the same one back.
     void derivedValuesComeBack()
     {
         Fixture fixture;
@@ -143,7 +143,7 @@ private Q_SLOTS:
         Fixture fixture;
         SettingsManager().saveAccelerometerValues(1, 2, 3);
         SettingsManager().saveMagneticFieldValues(4.5, 5.5, -6.5);
-        SettingsManager().setValue(SettingsManager::tapKey, 42); // is no direction: nothing is sent
+        SettingsManager().setValue(SettingsManager::tapKey, 42); // no direction, so it is not sent
         const QString restored
             = u";setAccelerometerValues int32:1 int32:2 int32:3;"
               "setMagnetometerValues double:4.3e-05 double:0 double:0;"
@@ -152,12 +152,12 @@ private Q_SLOTS:
               "setProximitySensorValue int32:5"_s;
         QSignalSpy initialized(&fixture.manager, &SensorsEmulationManager::sensorsInitialized);
 
-        // the first connection asks for the states
+        // the first connection asks for the sensors' states
         QVERIFY(fixture.reconnect());
         QCOMPARE(fixture.takeRequests(), callForEach(u"enabled"_s) + restored);
         QCOMPARE(fixture.manager.magneticField()->z(), -6.5);
 
-        // later ones push the host's availability, the user's switches and what was set last
+        // later ones send the device model's sensors, the user's switches and the last values
         fixture.manager.setSensorAvailable(u"compass"_s, false);
         for (const QString &name : {u"compass"_s, u"tap"_s, u"als"_s})
             fixture.manager.setSensorEnabled(name, false);
@@ -176,11 +176,11 @@ private Q_SLOTS:
         QCOMPARE(initialized.size(), 2);
 
         fixture.manager.setAlsLuxValue(7);
-        fixture.relay.stop(); // the IDE may crash without a link
+        fixture.relay.stop(); // the values are saved when the link goes
         QTRY_COMPARE(SettingsManager().readAlsLuxValue(), 7);
     }
 
-    // Random replies are tried elsewhere.
+    // tst_fuzz tries random replies.
     void replyForASensorThatIsNotThere()
     {
         Fixture fixture;
@@ -203,7 +203,7 @@ private Q_SLOTS:
         QCOMPARE(fixture.manager.sensorsAvailability().keys(false), QStringList{u"als"_s});
         QCOMPARE(fixture.takeRequests(), u"enableSensor string:sonar;disableSensor string:als"_s);
         fixture.manager.makeAllSensorsAvailable();
-        QCOMPARE(fixture.manager.sensorsAvailability().keys(true), sensors); // without the sonar
+        QCOMPARE(fixture.manager.sensorsAvailability().keys(true), sensors); // not the sonar
         QCOMPARE(fixture.manager.sensorsEnabledStates().value(u"als"_s), true);
         QCOMPARE(fixture.takeRequests(), callForEach(u"enableSensor"_s));
     }
@@ -224,7 +224,7 @@ private Q_SLOTS:
         earlier->setTapSensorValue(TapModel::Y_Neg);
         const QStringList values = valuesOf(*earlier);
         earlier.reset();
-        idle.reset(); // and what it read at its start is not written
+        idle.reset(); // unchanged, so it saves nothing
         QVERIFY(fixture.reconnect());
         QCOMPARE(valuesOf(fixture.manager), values);
     }

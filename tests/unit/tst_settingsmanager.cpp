@@ -7,7 +7,7 @@
 
 using namespace EmulationManagement::Internal;
 
-/// One value: how it is read and what it must be.
+/// One value: the function that reads it, its key, its default and its saved value.
 struct Entry
 {
     const char *read;
@@ -16,7 +16,7 @@ struct Entry
     double saved;
 };
 
-static constexpr double third = 1.0 / 3; // has no short decimal form
+static constexpr double third = 1.0 / 3; // without a short decimal form
 
 static constexpr Entry entries[] = {
     {"readAccelerometerX()", "accelerometer_x", 0, 1},
@@ -47,7 +47,7 @@ static constexpr Entry entries[] = {
     {"readDoNotShowAgainResetSensorsDialog()", "do_not_show_again_reset_sensors_dialog", 0, 1},
 };
 
-/// Reads as a page does, by the method's name.
+/// Reads a value by the method's name, as a page does.
 static double read(const char *name)
 {
     SettingsManager manager;
@@ -74,7 +74,7 @@ static void saveEverything()
     manager.save3DModelRotationValues(17.5, 18.5, 19.5);
     manager.save3DModelPositionValues(20.5, 21.5, 22.5);
     manager.saveDoNotShowAgainResetSensorsDialog(true);
-    manager.saveGpsAltitude(qQNaN()); // is not
+    manager.saveGpsAltitude(qQNaN()); // not saved
 }
 
 class SettingsManagerTest : public QObject
@@ -105,7 +105,7 @@ private Q_SLOTS:
         saveEverything();
         settings.reopen();
 
-        // other versions read the same file
+        // the keys must stay the same, because other versions read the file
         QVERIFY(file.open(QIODevice::ReadOnly));
         QList<QByteArray> lines = file.readAll().trimmed().split('\n');
         QCOMPARE(lines.takeFirst(), "[emulationmanagement]");
@@ -125,7 +125,7 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("[emulationmanagement]\n");
         for (const Entry &entry : entries) {
-            // for a flag, nothing is the only junk: other texts are true
+            // every text is true for a flag, so only an empty value is junk
             const bool isFlag = QByteArray(entry.key).startsWith("do_not");
             file.write(QByteArray(entry.key) + (isFlag ? "=\n" : "=12abc\n"));
         }

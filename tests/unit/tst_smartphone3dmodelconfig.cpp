@@ -8,7 +8,7 @@
 using namespace EmulationManagement::Internal;
 using namespace Qt::StringLiterals;
 
-/// The file behind a URL, relative to the program's folder.
+/// The file of a URL, relative to the program's folder.
 static QString fileOf(const QString &uri)
 {
     const QString path = QDir::cleanPath(QUrl(uri, QUrl::StrictMode).toLocalFile());
@@ -30,7 +30,7 @@ class Smartphone3DModelConfigTest : public QObject
     QDir m_folder{QCoreApplication::applicationDirPath() + u"/configs"_s};
 
 private Q_SLOTS:
-    // The files are beside the program, not where it runs.
+    // The files must be found beside the program, not in the current folder.
     void initTestCase() { QVERIFY(QDir::setCurrent(QDir::tempPath())); }
     void cleanup() { QVERIFY(m_folder.removeRecursively()); }
 
@@ -68,7 +68,7 @@ private Q_SLOTS:
         config.updateSmartphone3DModel(device);
         QTEST(fileOf(config.smartphone3DModelMeshUri()), "mesh");
         QTEST(fileOf(config.smartphone3DModelTextureUri()), "texture");
-        QCOMPARE(changed.size(), 1); // also when the files stay the same
+        QCOMPARE(changed.size(), 1); // also without a change
     }
 
     void noFilesAtAll()

@@ -45,7 +45,7 @@ private Q_SLOTS:
 
     void validate()
     {
-        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); // writes 1,5
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); // decimal comma
         QFETCH(const QString, input);
         QFETCH(const double, bottom);
         QFETCH(const double, top);
