@@ -4,6 +4,7 @@
 
 #include <messageboxanswers.h>
 #include <waiting.h>
+#include <windowdriver.h>
 
 #include <hostsdk.h>
 
@@ -13,9 +14,13 @@
 #include <coreplugin/icore.h>
 #include <coreplugin/progressmanager/progressmanager.h>
 
+#include <utils/qtcsettings.h>
+
 #include <QApplication>
 #include <QFileInfo>
 #include <QPointer>
+#include <QQmlListReference>
+#include <QQuickItem>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
@@ -81,7 +86,9 @@ void ConnectionTest::testWindowOpensAgainWithoutCheck()
     const qsizetype start = emulatorJournal.position();
     QSignalSpy viewShowed(contextObject("emulationManagementPlugin"),
                           SIGNAL(emulationManagementViewShowed()));
+    QMetaObject::invokeMethod(sensorsManager(), "setAlsLuxValue", 77);
     view()->close();
+    QCOMPARE(Core::ICore::settings()->value("emulationmanagement/als").toInt(), 77);
     chooseAction();
     QVERIFY(view()->isVisible());
     QCOMPARE(viewShowed.size(), 1);
@@ -282,6 +289,25 @@ void ConnectionTest::testMessageLeftOpen()
     Core::ICore::mainWindow()->activateWindow();
     box->close();
     waitFor("the window to be in front again", [] { return view()->isActive(); });
+}
+
+void ConnectionTest::testDeviceRestsWhileHidden()
+{
+    Journal emulatorJournal = journal();
+    openWindow(emulatorJournal);
+    const WindowDriver driver = WindowDriver::waitForWindow("Emulation Management");
+    driver.clickButton("Orientation Management");
+    qsizetype start = emulatorJournal.position();
+    QTest::keyClick(view(), Qt::Key_Up);
+    emulatorJournal.waitForCall("setGyroscopeValues double:10 double:0 double:0", start);
+    start = emulatorJournal.position();
+    view()->close();
+    emulatorJournal.waitForCall("setGyroscopeValues double:0 double:0 double:0", start);
+    const QObject *page = QQmlListReference(view()->rootObject(), "pagesIds").at(2);
+    const QObjectList children = page->findChildren<QObject *>();
+    QVERIFY(std::ranges::none_of(children, [](const QObject *child) {
+        return child->inherits("QQmlTimer") && child->property("running").toBool();
+    }));
 }
 
 void ConnectionTest::testNextEmulatorServed()

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void testOpeningInProgress();
     void testMachineJustStarted();
     void testMessageLeftOpen();
+    void testDeviceRestsWhileHidden();
     void testNextEmulatorServed();
     void testMachineOnWithoutForwardings();
     void testDeviceModelChanged();

@@ -1,5 +1,6 @@
 #include "languagetest.h"
 
+#include <messageboxanswers.h>
 #include <plugindriver.h>
 
 #include <coreplugin/actionmanager/actionmanager.h>
@@ -9,11 +10,14 @@
 
 #include <QAccessible>
 #include <QAction>
+#include <QQmlComponent>
 #include <QQmlListReference>
 #include <QQuickItem>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTest>
+
+#include <memory>
 
 static QString language()
 {
@@ -77,6 +81,14 @@ void LanguageTest::testEveryTextIsTranslated()
         if (const auto *accessible = QAccessible::queryAccessibleInterface(object))
             texts << accessible->text(QAccessible::Name);
     }
+    QQmlComponent component(PluginDriver::view()->engine());
+    component.setData("import QtQuick.Dialogs\nimport org.plova 1.0\nWarningDialog {"
+                      "standardButtons: MessageDialog.Apply | MessageDialog.Discard }",
+                      {});
+    const std::unique_ptr<QObject> question(component.create());
+    const MessageBoxAnswers answers(QMessageBox::Discard);
+    QMetaObject::invokeMethod(question.get(), "show");
+    texts << answers.boxes().constFirst().buttonTexts;
     QVERIFY(texts.contains("[Tap Sensor]") && texts.contains("[X-Rot]"));
     texts.removeIf([](const QString &text) { return text.contains(u'[') || isData(text); });
     texts.removeDuplicates();

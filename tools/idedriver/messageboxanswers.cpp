@@ -28,11 +28,16 @@ void MessageBoxAnswers::answer()
     if (!box || box == m_last)
         return;
     m_last = box;
+    QStringList buttonTexts;
+    const QList<QAbstractButton *> buttons = box->buttons();
+    for (const QAbstractButton *button : buttons)
+        buttonTexts << button->text();
     m_boxes << Box{box->windowTitle(),
                    box->text(),
                    box->informativeText(),
                    box->icon(),
                    box->standardButtons(),
+                   buttonTexts,
                    box->textFormat(),
                    box->checkBox() && box->checkBox()->isVisible()};
     if (box->checkBox())

@@ -16,6 +16,7 @@ public:
         QString informativeText;
         QMessageBox::Icon icon;
         QMessageBox::StandardButtons buttons;
+        QStringList buttonTexts;
         Qt::TextFormat textFormat;
         bool hasVisibleCheckBox;
     };
