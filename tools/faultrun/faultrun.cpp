@@ -150,8 +150,9 @@ void FaultRun::checkThatAllWorks()
 void FaultRun::quit()
 {
     static constexpr unsigned limit = 10; // s until the process is gone
-    makeGood();
     waitFor("message boxes to close", [] { return !QApplication::activeModalWidget(); });
+    m_running = false;
+    makeGood();
     begin("Quit");
     alarm(limit);
     Core::ActionManager::command(Core::Constants::EXIT)->action()->trigger();
