@@ -43,7 +43,13 @@ static void playTrack()
     QMetaObject::invokeMethod(page, "openFile",
                               QUrl::fromLocalFile(QStringLiteral(TEST_DATA "/gga.nmea")));
     waitFor("the track", [] { return gpsManager()->property("trackLoaded").toBool(); });
-    QMetaObject::invokeMethod(gpsManager(), "startTrack");
+    const QObjectList children = page->findChildren<QObject *>();
+    for (QObject *child : children) {
+        if (QByteArrayView(child->metaObject()->className()).startsWith("TrackPlayer_QML"))
+            QMetaObject::invokeMethod(child, "start");
+    }
+    waitFor("the track to play",
+            [] { return gpsManager()->property("currentPositionIndex").toInt() > 0; });
 }
 
 static void playVideo()
