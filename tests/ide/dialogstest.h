@@ -10,5 +10,4 @@ class DialogsTest : public QObject
 private Q_SLOTS:
     void testWarningDialog_data();
     void testWarningDialog();
-    void testWarningDialogSettersNotify();
 };

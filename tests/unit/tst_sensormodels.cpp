@@ -1,15 +1,7 @@
-#include <sensors/accelerometermodel.h>
-#include <sensors/alsmodel.h>
 #include <sensors/compassmodel.h>
-#include <sensors/gyroscopemodel.h>
-#include <sensors/magneticfieldmodel.h>
-#include <sensors/magnetometermodel.h>
 #include <sensors/orientationmodel.h>
-#include <sensors/proximitymodel.h>
-#include <sensors/tapmodel.h>
 
 #include <QMatrix3x3>
-#include <QMetaProperty>
 #include <QQuaternion>
 #include <QSignalSpy>
 #include <QTest>
@@ -23,48 +15,10 @@ using namespace EmulationManagement::Internal;
 using namespace Qt::StringLiterals;
 
 using Vector = std::array<double, 3>;
-using Check = std::function<void()>;
 
 static double radians(double degrees)
 {
     return degrees * std::numbers::pi / 180.0;
-}
-
-static QList<QMetaProperty> propertiesOf(const SensorModel &model)
-{
-    QList<QMetaProperty> properties;
-    const QMetaObject *metaObject = model.metaObject();
-    for (int i = SensorModel::staticMetaObject.propertyCount(); i < metaObject->propertyCount();
-         ++i)
-        properties.append(metaObject->property(i));
-    return properties;
-}
-
-static QString valuesOf(const SensorModel &model)
-{
-    QStringList values;
-    for (const QMetaProperty &property : propertiesOf(model))
-        values.append(QString::number(property.read(&model).toDouble(), 'g', 17));
-    return values.join(u' ');
-}
-
-/// A model's values at first, after each property was set, and after a reset.
-template<typename Model>
-static void addModel(const char *name, const QString &initial, const QString &defaults)
-{
-    QTest::newRow(name) << Check([initial, defaults] {
-        Model model;
-        QCOMPARE(valuesOf(model), initial);
-        for (const QMetaProperty &property : propertiesOf(model)) {
-            QSignalSpy changed(&model, property.notifySignal());
-            QVERIFY(property.write(&model, 3));
-            QVERIFY(property.write(&model, 3)); // notifies without a change, too
-            QCOMPARE(changed.size(), 2);
-            QCOMPARE(property.read(&model).toDouble(), 3);
-        }
-        model.setDefaultValues();
-        QCOMPARE(valuesOf(model), defaults);
-    });
 }
 
 class SensorModelsTest : public QObject
@@ -72,42 +26,6 @@ class SensorModelsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void valuesAndDefaults_data()
-    {
-        QTest::addColumn<Check>("check");
-        const auto text = [](double x) { return QString::number(x, 'g', 17); };
-        const QString gyroscope = u"0 0 "_s + text(1.1459155902616465);
-        const QString magnetometer = text(4.3e-5) + u" 0 0 0"_s;
-        const QString field = u"0 "_s + text(5.95) + u' ' + text(-48.76);
-        addModel<AccelerometerModel>("accelerometer", u"0 0 1000"_s, u"0 0 1000"_s);
-        addModel<AlsModel>("als", u"100"_s, u"100"_s);
-        addModel<GyroscopeModel>("gyroscope", gyroscope, gyroscope);
-        addModel<MagneticFieldModel>("magnetic field", field, field);
-        addModel<MagnetometerModel>("magnetometer", magnetometer, magnetometer);
-        addModel<ProximityModel>("proximity", u"5"_s, u"5"_s);
-        addModel<TapModel>("tap", u"-1"_s, u"-1"_s);
-        // computed values, unset until the first reading
-        addModel<CompassModel>("compass", u"0 0"_s, u"270 0"_s);
-        addModel<OrientationModel>("orientation", u"0"_s, u"5"_s);
-    }
-
-    void valuesAndDefaults()
-    {
-        QFETCH(const Check, check);
-        check();
-    }
-
-    void azimuthIsRounded()
-    {
-        const auto azimuthOf = [](double heading) {
-            return CompassModel::calculateAzimuth(0, 0, 1000, -std::sin(radians(heading)),
-                                                  std::cos(radians(heading)), 0.0);
-        };
-        QCOMPARE(azimuthOf(44.6), 45);
-        QCOMPARE(azimuthOf(359.4), 359);
-        QCOMPARE(azimuthOf(359.6), 0);
-    }
-
     // The azimuth is the heading in any attitude and for any dip of the field. The z axis of the
     // magnetometer points into the screen, that of the accelerometer out of it.
     void azimuthIsTheHeadingInAnyAttitude()

@@ -227,6 +227,14 @@ private Q_SLOTS:
         idle.reset(); // unchanged, so it saves nothing
         QVERIFY(fixture.reconnect());
         QCOMPARE(valuesOf(fixture.manager), values);
+        fixture.manager.setDefaultValues(); // all but the magnetic field
+        QCOMPARE(valuesOf(fixture.manager),
+                 u"accelerometer.x=0 accelerometer.y=0 accelerometer.z=1000 als.lux=100 "
+                 "compass.azimuth=270 compass.calibrationLevel=0 gyroscope.x=0 gyroscope.y=0 "
+                 "gyroscope.z=1.1459155902616465 magnetometer.x=4.3e-05 magnetometer.y=0 "
+                 "magnetometer.z=0 magnetometer.calibrationLevel=0 orientation.orientation=5 "
+                 "proximity.reflectance=5 tap.tapDirection=-1 "
+                 "magneticField.x=-0.1 magneticField.y=48.76 magneticField.z=-48.76"_s.split(u' '));
     }
 };
 
