@@ -39,6 +39,16 @@ static Journal journal()
     return Journal(dataFolder(emulator()) + QStringLiteral("/journal.jsonl"));
 }
 
+/// Opens the window of the first emulator, whose journal it is.
+struct WindowJournal : Journal
+{
+    WindowJournal()
+        : Journal(dataFolder(emulator()) + QStringLiteral("/journal.jsonl"))
+    {
+        openWindow(*this);
+    }
+};
+
 static void removeEmulator()
 {
     const QPointer<Ravik::Emulator> removed = emulator();
@@ -79,26 +89,9 @@ void ConnectionTest::testMachineOff()
     QCOMPARE(viewShowed.size(), 0); // only for a machine that runs when the user asks
 }
 
-void ConnectionTest::testWindowOpensAgainWithoutCheck()
-{
-    Journal emulatorJournal = journal();
-    openWindow(emulatorJournal);
-    const qsizetype start = emulatorJournal.position();
-    QSignalSpy viewShowed(contextObject("emulationManagementPlugin"),
-                          SIGNAL(emulationManagementViewShowed()));
-    QMetaObject::invokeMethod(sensorsManager(), "setAlsLuxValue", 77);
-    view()->close();
-    QCOMPARE(Core::ICore::settings()->value("emulationmanagement/als").toInt(), 77);
-    chooseAction();
-    QVERIFY(view()->isVisible());
-    QCOMPARE(viewShowed.size(), 1);
-    QCOMPARE(emulatorJournal.countSince(start, "ssh"), 0);
-}
-
 void ConnectionTest::testMachineStopped()
 {
-    Journal emulatorJournal = journal();
-    openWindow(emulatorJournal);
+    WindowJournal emulatorJournal;
     stopMachine();
     QVERIFY(!view()->isVisible());
 
@@ -113,8 +106,7 @@ void ConnectionTest::testMachineStopped()
 
 void ConnectionTest::testMissingPackages()
 {
-    Journal emulatorJournal = journal();
-    openWindow(emulatorJournal);
+    const WindowJournal emulatorJournal;
     stopMachine();
     const MessageBoxAnswers answers(QMessageBox::Close);
     // started by the SDK, so that the packages can be taken away before the plugin looks
@@ -143,37 +135,9 @@ void ConnectionTest::testMissingPackages()
     QCOMPARE(answers.boxes().size(), 1);
 }
 
-void ConnectionTest::testLinkLostWithTrack()
-{
-    Journal emulatorJournal = journal();
-    openWindow(emulatorJournal);
-    const QVariantList track = {QVariantMap{{"latitude", 60.0}, {"longitude", 30.0}}};
-    QVERIFY(QMetaObject::invokeMethod(gpsManager(), "loadTrack", Q_ARG(QVariantList, track)));
-    emulatorJournal.waitForCall("loadTrack array:array:double:60.0000000,30.0000000,0.00,0", 0);
-    const MessageBoxAnswers answers(QMessageBox::Ok);
-    QSignalSpy disconnected(invoker(), SIGNAL(webSocketDisconnected()));
-    QSignalSpy gpsReply(gpsManager(), SIGNAL(replyFromEmulatorReceived(QString)));
-
-    control("relay close");
-    // the attempts to reconnect that fail stay silent
-    waitFor("attempts to reconnect", [&] { return disconnected.size() > 5; });
-    QCOMPARE(answers.texts(),
-             QStringList{"Emulator connection is lost. Please, run Nimbra OS Emulator if it is "
-                         "needed and load the GPS-track again."});
-    QCOMPARE(answers.boxes().constFirst().buttons, QMessageBox::Ok);
-    QCOMPARE(gpsReply.count(QVariantList{QString()}), 1);
-    QVERIFY(!gpsManager()->property("trackLoaded").toBool());
-
-    const qsizetype start = emulatorJournal.position();
-    control("relay open");
-    emulatorJournal.waitForCall("setTapSensorValue int32:-1", start);
-    QCOMPARE(answers.boxes().size(), 1);
-}
-
 void ConnectionTest::testLinkLostWithoutTrack()
 {
-    Journal emulatorJournal = journal();
-    openWindow(emulatorJournal);
+    WindowJournal emulatorJournal;
     const MessageBoxAnswers answers(QMessageBox::Ok);
     QSignalSpy disconnected(invoker(), SIGNAL(webSocketDisconnected()));
     control("relay close");
@@ -189,8 +153,7 @@ void ConnectionTest::testLinkLostWithoutTrack()
 
 void ConnectionTest::testWindowBroughtToFront()
 {
-    Journal emulatorJournal = journal();
-    openWindow(emulatorJournal);
+    const WindowJournal emulatorJournal;
     QObject *camera = contextObject("cameraEmulationManager");
     camera->setProperty("width", 77);
     view()->setWindowStates(Qt::WindowMaximized);
@@ -209,17 +172,24 @@ void ConnectionTest::testWindowBroughtToFront()
     view()->setWindowStates(Qt::WindowNoState);
 }
 
-void ConnectionTest::testWindowGeometry()
+void ConnectionTest::testWindowOpensAgain()
 {
-    Journal emulatorJournal = journal();
-    openWindow(emulatorJournal);
+    WindowJournal emulatorJournal;
+    const qsizetype start = emulatorJournal.position();
+    QSignalSpy viewShowed(contextObject("emulationManagementPlugin"),
+                          SIGNAL(emulationManagementViewShowed()));
     const QRect available = view()->screen()->availableGeometry();
     const QRect geometry = QRect(available.topLeft(), available.size() / 2).translated(20, 30);
     view()->setGeometry(geometry);
+    QMetaObject::invokeMethod(sensorsManager(), "setAlsLuxValue", 77);
     view()->close();
+    QCOMPARE(Core::ICore::settings()->value("emulationmanagement/als").toInt(), 77);
     view()->setGeometry(0, 0, 10, 10);
     chooseAction();
+    QVERIFY(view()->isVisible());
     QCOMPARE(view()->geometry(), geometry);
+    QCOMPARE(viewShowed.size(), 1);
+    QCOMPARE(emulatorJournal.countSince(start, "ssh"), 0); // the packages are not checked again
 
     view()->setGeometry(QRect(available.center(), 2 * available.size()));
     view()->close();
@@ -293,8 +263,7 @@ void ConnectionTest::testMessageLeftOpen()
 
 void ConnectionTest::testDeviceRestsWhileHidden()
 {
-    Journal emulatorJournal = journal();
-    openWindow(emulatorJournal);
+    WindowJournal emulatorJournal;
     const WindowDriver driver = WindowDriver::waitForWindow("Emulation Management");
     driver.clickButton("Orientation Management");
     qsizetype start = emulatorJournal.position();

@@ -10,13 +10,11 @@ class ConnectionTest : public QObject
 private Q_SLOTS:
     void cleanup();
     void testMachineOff();
-    void testWindowOpensAgainWithoutCheck();
     void testMachineStopped();
     void testMissingPackages();
-    void testLinkLostWithTrack();
     void testLinkLostWithoutTrack();
     void testWindowBroughtToFront();
-    void testWindowGeometry();
+    void testWindowOpensAgain();
     void testOpeningInProgress();
     void testMachineJustStarted();
     void testMessageLeftOpen();

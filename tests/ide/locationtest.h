@@ -1,21 +1,16 @@
 #pragma once
 
+#include <gpspagedriver.h>
 #include <journal.h>
 
 #include <QObject>
 
 #include <memory>
 
-class GpsPageDriver;
-
 /// What the emulator hears of positions and tracks that are set and played on the GPS page.
 class LocationTest : public QObject
 {
     Q_OBJECT
-
-public:
-    LocationTest();
-    ~LocationTest() override;
 
 private Q_SLOTS:
     void initTestCase();
