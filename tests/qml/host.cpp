@@ -34,21 +34,11 @@ void Host::setContextProperties(QQmlContext *context)
     });
 }
 
-QStringList Host::questions() const
-{
-    return m_questions;
-}
-
 QMessageBox::StandardButton Host::ask(const QString &question)
 {
     m_questions.append(question);
     receive(m_meanwhile);
     return m_answer;
-}
-
-bool Host::doNotShowAgain() const
-{
-    return m_doNotShowAgain;
 }
 
 void Host::reset()

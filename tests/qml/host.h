@@ -31,19 +31,18 @@ class Host : public QObject
     Q_PROPERTY(QMessageBox::StandardButton answer MEMBER m_answer)
     Q_PROPERTY(bool doNotShowAgain MEMBER m_doNotShowAgain)
     Q_PROPERTY(QString meanwhile MEMBER m_meanwhile)
-    Q_PROPERTY(QStringList questions READ questions)
+    /// The warnings that were shown since reset().
+    Q_PROPERTY(QStringList questions MEMBER m_questions)
 
 public:
     explicit Host(QObject *parent = nullptr);
 
     void setContextProperties(QQmlContext *context);
 
-    /// The warnings that were shown since reset().
-    [[nodiscard]] QStringList questions() const;
     /// Notes a question. Returns its answer: none until a test chooses one.
     QMessageBox::StandardButton ask(const QString &question);
     /// The state of the box "Do not show again" in each warning.
-    [[nodiscard]] bool doNotShowAgain() const;
+    [[nodiscard]] bool doNotShowAgain() const { return m_doNotShowAgain; }
 
     /// Undoes what an earlier test did to the settings, the sensors and the answer.
     Q_INVOKABLE void reset();
