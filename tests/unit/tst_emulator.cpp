@@ -27,7 +27,6 @@ static constexpr const char *requests[] = {
     "S setGyroscopeX double:1.50e-07 > setGyroscopeX:1.50e-07::", // the reply repeats the text
     "S explode  > explode:::DBUS.UnknownMethod",
     "S setTapSensorValue double:-1 > setTapSensorValue:-1::DBUS.UnknownMethod",
-    "S setAlsValue int32:1 int32:2 > setAlsValue:1|2::DBUS.UnknownMethod",
     "L pauseTrack > pauseTrack:::", // the last space is optional
     "L goToPositionOnTrack int32:0 > goToPositionOnTrack:0::ERROR.IndexOutOfRange",
     "L loadTrack array:array:double:60.0,30,12.50,0;1,2,3,4 > loadTrack:60.0,30,12.50,0;1,2,3,4::",

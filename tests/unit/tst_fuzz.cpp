@@ -107,13 +107,7 @@ private Q_SLOTS:
                 mutated({"enabled:als:1::", "enabled:|tap|x:false::", "x:1|2:y:org.x.Bad:No such",
                          "connection refused"},
                         {":", "|", "::::", "%1", "\xd1\x8f", "0", "enabled:"}));
-            QStringList fields(1);
-            for (const QChar character : line) {
-                if (character == u':')
-                    fields.append(QString());
-                else
-                    fields.last() += character;
-            }
+            const QStringList fields = line.split(u':');
             QVariantMap states = manager->sensorsEnabledStates();
             manager->processReplyFromEmulator(line);
             const bool grammatical = fields.size() == 5;
@@ -132,38 +126,6 @@ private Q_SLOTS:
                     states[name] = on && manager->sensorsAvailability().value(name).toBool();
             }
             QCOMPARE(manager->sensorsEnabledStates(), states);
-        });
-    }
-
-    void framerates()
-    {
-        repeat([&] {
-            // ranges, lists and single values, as GStreamer writes them
-            const qint64 low = number(200), high = low + number(200);
-            const qint64 divisor = 1 + number(3), numerator = number(100'000);
-            QStringList framerates;
-            initAvailableFramerates(&framerates,
-                                    u"[ %1/%3, %2/%3 ]"_s.arg(low).arg(high).arg(divisor));
-            QList<qint64> rates;
-            for (const QString &rate : std::as_const(framerates)) {
-                QVERIFY(rate.endsWith("/1"_L1));
-                rates.prepend(rate.chopped(2).toLongLong());
-            }
-            QVERIFY(std::ranges::is_sorted(rates));
-            QVERIFY(rates.constFirst() * divisor <= low
-                    && low < (rates.constFirst() + 1) * divisor);
-            QVERIFY(rates.constLast() >= high / divisor);
-            for (qsizetype i = 2; i < rates.size(); ++i)
-                QVERIFY(rates.at(i) % 5 == 0 && rates.at(i) - rates.at(i - 1) <= 5);
-
-            framerates.clear();
-            const QString list
-                = u"{ (fraction)%1/%2, (fraction)7/1 }"_s.arg(numerator).arg(divisor);
-            initAvailableFramerates(&framerates, list);
-            QCOMPARE(framerates.size(), 2);
-            framerates.removeOne(u"7/1"_s);
-            const qint64 whole = framerates.constFirst().section(u'/', 0, 0).toLongLong();
-            QVERIFY(whole * divisor <= numerator && numerator < (whole + 1) * divisor);
         });
     }
 

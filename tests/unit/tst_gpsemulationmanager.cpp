@@ -23,8 +23,6 @@ static constexpr const char *calls[] = {
     "setPosition(NaN, NaN, 0) > setPosition double:1.5000000 double:2.5000000 double:0.00"
     " > 1.5 2.5 0 false false 1 7 false > ",
     "setAltitude(NaN) >  > 1.5 2.5 3.5 false false 1 7 false > ",
-    "startTrack() > startTrack  > 1.5 2.5 3.5 false false 1 7 false > ",
-    "pauseTrack() > pauseTrack  > 1.5 2.5 3.5 false false 1 7 false > ",
     "stopTrack() > stopTrack  > 1.5 2.5 3.5 false false 1 0 false > index",
     "setTrackLooped(true) > setTrackLooped boolean:1 > 1.5 2.5 3.5 true false 1 7 false > looped",
     // no change, but a signal

@@ -74,20 +74,6 @@ private Q_SLOTS:
         QCOMPARE(relay.takeRequests(link), QStringList());
     }
 
-    void reconnectsWhenTheRelayRestarts()
-    {
-        TestSupport::RecordingRelay relay;
-        Link link;
-        QVERIFY(relay.connectLink(link));
-        QSignalSpy connected(&link, &Link::webSocketConnected);
-        QSignalSpy disconnected(&link, &Link::webSocketDisconnected);
-        relay.stop();
-        QVERIFY(disconnected.wait());
-        QVERIFY(relay.listen());
-        QTRY_COMPARE(connected.size(), 1);
-        QCOMPARE(relay.takeRequests(link), QStringList());
-    }
-
     void subclassSeesASuccessBeforeThePages()
     {
         TestSupport::RecordingRelay relay;
@@ -115,24 +101,6 @@ private Q_SLOTS:
         relay.reply(QString(qsizetype(Link::maxReplySize) + 1, u'x'));
         QVERIFY(connected.wait());
         QCOMPARE(replies.size(), 1);
-    }
-
-    void invokerSetTwiceDoublesEverythingButCalls()
-    {
-        TestSupport::RecordingRelay relay;
-        Link link;
-        LampManager manager;
-        QSignalSpy changed(&manager, &EmulationManager::rdbusinvokerChanged);
-        QSignalSpy connected(&manager, &EmulationManager::emulatorConnected);
-        manager.setRdbusinvoker(&link);
-        manager.setRdbusinvoker(&link);
-        QCOMPARE(changed.size(), 2);
-        QVERIFY(relay.connectLink(link));
-        QCOMPARE(connected.size(), 2);
-        relay.reply(u"m::::"_s);
-        QTRY_COMPARE(manager.seen.size(), 2);
-        manager.callDBusMethod(u"dim"_s, {});
-        QCOMPARE(relay.takeRequests(link).size(), 1);
     }
 };
 

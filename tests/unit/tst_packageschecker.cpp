@@ -24,13 +24,9 @@ class PackagesCheckerTest : public QObject
         checker.checkPackages(second);
         if (!finished.wait() || finished.size() != 1)
             return u"%1 answers"_s.arg(finished.size());
-        const QString head = u"Necessary packages not found on emulator!\n"
-                             "Packages is not installed: \n"_s;
-        const QString text = finished.constFirst().at(0).toString() + u'\n'
-                             + finished.constFirst().at(1).toString();
-        if (!text.startsWith(head))
-            return text.trimmed();
-        QStringList packages = text.sliced(head.size()).split(u'\n', Qt::SkipEmptyParts);
+        QStringList packages = finished.constFirst().at(1).toString().split(u'\n');
+        packages.removeIf(
+            [](const QString &line) { return line.isEmpty() || line.contains(u':'); });
         packages.sort();
         return packages.join(u' ');
     }

@@ -33,7 +33,6 @@ private Q_SLOTS:
         QTest::addColumn<int>("hostPort");
         QTest::addColumn<bool>("accepted"); // beside the rule "a", tcp, 5454
         QTest::newRow("another name and port") << u"b"_s << u"udp"_s << 34343 << true;
-        QTest::newRow("same rule") << u"a"_s << u"tcp"_s << 5454 << false;
         QTest::newRow("same name") << u"a"_s << u"udp"_s << 34343 << false;
         QTest::newRow("same host port") << u"b"_s << u"udp"_s << 5454 << false;
         QTest::newRow("the SDK's own name") << u"ssh"_s << u"tcp"_s << 9 << false;
