@@ -32,14 +32,10 @@ void MessageBoxAnswers::answer()
     const QList<QAbstractButton *> buttons = box->buttons();
     for (const QAbstractButton *button : buttons)
         buttonTexts << button->text();
-    m_boxes << Box{box->windowTitle(),
-                   box->text(),
-                   box->informativeText(),
-                   box->icon(),
-                   box->standardButtons(),
-                   buttonTexts,
-                   box->textFormat(),
-                   box->checkBox() && box->checkBox()->isVisible()};
+    m_boxes << Box{box->windowTitle(),     box->text(),
+                   box->informativeText(), box->icon(),
+                   box->standardButtons(), buttonTexts,
+                   box->textFormat(),      box->checkBox() && box->checkBox()->isVisible()};
     if (box->checkBox())
         box->checkBox()->setChecked(m_tick);
     if (QAbstractButton *button = box->button(m_answer)) // boxes of the IDE may lack it
