@@ -6,6 +6,7 @@
 #include <link/remotedbusinvokerservice.h>
 
 #include <QJSEngine>
+#include <QLocale>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -34,6 +35,7 @@ struct ConnectedManager
     explicit ConnectedManager(const QString &service)
         : address(u"system %1 /%2 %1 "_s.arg(service, QString(service).replace(u'.', u'/')))
     {
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); // decimal comma
         if (!relay.connectLink(link))
             qFatal("The relay cannot be reached");
         manager.setRdbusinvoker(&link);

@@ -1,7 +1,6 @@
 #include <location/gpsemulationmanager.h>
 #include <support/connectedmanager.h>
 
-#include <QLocale>
 #include <QTest>
 
 using namespace EmulationManagement::Internal;
@@ -56,11 +55,6 @@ class GpsEmulationManagerTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); // decimal comma
-    }
-
     void call_data() { TestSupport::addCallRows(calls); }
 
     void call()
