@@ -186,10 +186,10 @@ void ConnectionTest::testWindowOpensAgain()
     QCOMPARE(Core::ICore::settings()->value("emulationmanagement/als").toInt(), 77);
     view()->setGeometry(0, 0, 10, 10);
     chooseAction();
-    QVERIFY(view()->isVisible());
     QCOMPARE(view()->geometry(), geometry);
     QCOMPARE(viewShowed.size(), 1);
     QCOMPARE(emulatorJournal.countSince(start, "ssh"), 0); // the packages are not checked again
+    waitFor("the pages to fit", [&] { return view()->rootObject()->size() == geometry.size(); });
 
     view()->setGeometry(QRect(available.center(), 2 * available.size()));
     view()->close();

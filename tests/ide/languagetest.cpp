@@ -24,8 +24,7 @@ static QString language()
     return ExtensionSystem::PluginManager::settings()->value("General/OverrideLanguage").toString();
 }
 
-/// What is said alike in every language: numbers, and enumerators that apps for the device know
-/// too.
+/// What is alike in every language: numbers, and enumerators that apps for the device know.
 static bool isData(const QString &text)
 {
     static const QRegularExpression data("^([-0-9., =%x/]*|…|Undefined|Light|TopUp)$");

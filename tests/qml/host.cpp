@@ -7,6 +7,8 @@
 #include <QColor>
 #include <QQmlContext>
 
+using namespace Qt::StringLiterals;
+
 namespace EmulationManagement::Internal {
 
 Host::Host(QObject *parent)
@@ -19,18 +21,16 @@ Host::Host(QObject *parent)
 void Host::setContextProperties(QQmlContext *context)
 {
     context->setContextProperties({
-        {QStringLiteral("host"), QVariant::fromValue(this)},
-        {QStringLiteral("mediaUrl"), QStringLiteral(MEDIA_URL)},
-        {QStringLiteral("gpsEmulationManager"), QVariant::fromValue(&m_gpsEmulationManager)},
-        {QStringLiteral("sensorsEmulationManager"),
-         QVariant::fromValue(&m_sensorsEmulationManager)},
-        {QStringLiteral("smartphone3DModelConfig"),
-         QVariant::fromValue(&m_smartphone3DModelConfig)},
-        {QStringLiteral("cameraEmulationManager"), QVariant::fromValue(&m_cameraEmulationManager)},
-        {QStringLiteral("themeBackgroundColorNormal"), QColor(Qt::lightGray)},
-        {QStringLiteral("themeHighlightColor"), QColor(Qt::blue)},
-        {QStringLiteral("themeSeparatorColor"), QColor(Qt::darkGray)},
-        {QStringLiteral("darkUserInterface"), false},
+        {u"host"_s, QVariant::fromValue(this)},
+        {u"mediaUrl"_s, QStringLiteral(MEDIA_URL)},
+        {u"gpsEmulationManager"_s, QVariant::fromValue(&m_gpsEmulationManager)},
+        {u"sensorsEmulationManager"_s, QVariant::fromValue(&m_sensorsEmulationManager)},
+        {u"smartphone3DModelConfig"_s, QVariant::fromValue(&m_smartphone3DModelConfig)},
+        {u"cameraEmulationManager"_s, QVariant::fromValue(&m_cameraEmulationManager)},
+        {u"themeBackgroundColorNormal"_s, QColor(Qt::lightGray)},
+        {u"themeHighlightColor"_s, QColor(Qt::blue)},
+        {u"themeSeparatorColor"_s, QColor(Qt::darkGray)},
+        {u"darkUserInterface"_s, false},
     });
 }
 

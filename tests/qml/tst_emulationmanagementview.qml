@@ -57,13 +57,6 @@ Item {
             return shown[0];
         }
 
-        function saved(): bool {
-            const settings = Qt.createQmlObject("import org.plova 1.0; SettingsManager {}", test);
-            const value = settings.readDoNotShowAgainResetSensorsDialog();
-            settings.destroy();
-            return value;
-        }
-
         function test_pages() {
             compare(shownPage(), "Sensors Values");
             for (const title of [...titles, ...[...titles].reverse()]) {
@@ -96,10 +89,9 @@ Item {
         }
 
         function test_warning(row: var) {
-            if (row.silenced) {
-                Qt.createQmlObject("import org.plova 1.0; SettingsManager {}", view)
-                    .saveDoNotShowAgainResetSensorsDialog(true);
-            }
+            const settings = Qt.createQmlObject("import org.plova 1.0; SettingsManager {}", view);
+            if (row.silenced)
+                settings.saveDoNotShowAgainResetSensorsDialog(true);
             host.answer = row.answer ?? 0;
             host.doNotShowAgain = row.ticked ?? false;
             if (row.changed)
@@ -109,7 +101,7 @@ Item {
             mouseClick(button(row.target));
             compare(shownPage(), row.left ? row.target : "Sensors Values");
             compare(host.questions, row.asked ? [warning] : []);
-            compare(saved(), row.saved ?? false);
+            compare(settings.readDoNotShowAgainResetSensorsDialog(), row.saved ?? false);
         }
 
         function test_errorDialogFollowsMessages() {
