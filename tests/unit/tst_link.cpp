@@ -74,6 +74,25 @@ private Q_SLOTS:
         QCOMPARE(relay.takeRequests(link), QStringList());
     }
 
+    void lostConnectionIsOpenedAgainAtOnce()
+    {
+        TestSupport::RecordingRelay relay;
+        Link link;
+        QSignalSpy connected(&link, &Link::webSocketConnected);
+        QElapsedTimer sinceLoss;
+        connect(&link, &Link::webSocketDisconnected, this, [&] { sinceLoss.start(); });
+        QVERIFY(relay.connectLink(link));
+        // on a busy machine, one of them may be late all the same
+        bool wasAtOnce = false;
+        for (int i = 0; i < 10 && !wasAtOnce; ++i) {
+            QTest::qWait(2 * Link::retryInterval); // a shorter connection counts as refused
+            relay.dropClients();
+            QVERIFY(connected.wait());
+            wasAtOnce = sinceLoss.durationElapsed() < Link::retryInterval / 2;
+        }
+        QVERIFY(wasAtOnce);
+    }
+
     void subclassSeesASuccessBeforeThePages()
     {
         TestSupport::RecordingRelay relay;
