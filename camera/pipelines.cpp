@@ -60,13 +60,14 @@ static void play(const ObjectReference<GstElement> &pipeline)
 
 /// Adds what both pipelines end with. Returns the encoder, or null where GStreamer lacks its good
 /// plugins: no stream will play then.
-static GstElement *addOutput(GstElement *pipeline, const OutputNames &names, StreamMeter *meter)
+static ObjectReference<GstElement> addOutput(GstElement *pipeline, const OutputNames &names,
+                                             StreamMeter *meter)
 {
-    const auto jpegEncoder = createElement("jpegenc", names.jpegEncoder);
+    auto jpegEncoder = createElement("jpegenc", names.jpegEncoder);
     const auto rtpPayloader = createElement("rtpjpegpay", names.rtpPayloader);
     const auto udpSink = createElement("udpsink", names.udpSink);
     if (!jpegEncoder || !rtpPayloader || !udpSink)
-        return nullptr;
+        return {};
 
     g_object_set(jpegEncoder.get(), "quality", jpegQuality, nullptr);
     g_object_set(udpSink.get(), "host", CameraEmulationManager::localhost, "port",
@@ -75,7 +76,7 @@ static GstElement *addOutput(GstElement *pipeline, const OutputNames &names, Str
                      nullptr);
     gst_element_link_many(jpegEncoder.get(), rtpPayloader.get(), udpSink.get(), nullptr);
     meter->countFramesOf(udpSink.get());
-    return jpegEncoder.get();
+    return jpegEncoder;
 }
 
 /// Of the pads of a file, the first that carries pictures is linked; later ones fail to.
@@ -101,13 +102,14 @@ void CameraEmulationManager::constructVideoStreamPipeline()
     m_videoPipeline = createPipeline("video-stream-pipeline");
     m_fileSource = createElement("filesrc", "filesrc");
     const auto decodeBin = createElement("decodebin", "decodebin");
-    GstElement *jpegEncoder = addOutput(m_videoPipeline.get(), videoOutput, &m_meter);
+    const auto jpegEncoder = addOutput(m_videoPipeline.get(), videoOutput, &m_meter);
     if (!m_fileSource || !decodeBin || !jpegEncoder)
         return; // GStreamer lacks its base or good plugins: no file will play
 
     gst_bin_add_many(GST_BIN(m_videoPipeline.get()), m_fileSource.get(), decodeBin.get(), nullptr);
     gst_element_link(m_fileSource.get(), decodeBin.get());
-    g_signal_connect(decodeBin.get(), "pad-added", G_CALLBACK(onDecodeBinPadAdded), jpegEncoder);
+    g_signal_connect(decodeBin.get(), "pad-added", G_CALLBACK(onDecodeBinPadAdded),
+                     jpegEncoder.get());
     const ObjectReference<GstElement> udpSink(
         gst_bin_get_by_name(GST_BIN(m_videoPipeline.get()), videoOutput.udpSink));
     const ObjectReference<GstPad> sinkPad(gst_element_get_static_pad(udpSink.get(), "sink"));
@@ -123,7 +125,7 @@ void CameraEmulationManager::constructCameraStreamPipeline()
     const CameraSource camera = m_cameras.value(m_cameraName).source;
     const auto source = createElement(camera.factory.toUtf8().constData(), "sourcePluginCam");
     const auto capsFilter = createElement("capsfilter", "capsfilterCam");
-    GstElement *jpegEncoder = addOutput(m_cameraPipeline.get(), cameraOutput, &m_meter);
+    const auto jpegEncoder = addOutput(m_cameraPipeline.get(), cameraOutput, &m_meter);
     if (!source || !capsFilter || !jpegEncoder)
         return; // no camera is selected, or GStreamer lacks plugins: no camera will stream
 
@@ -140,7 +142,7 @@ void CameraEmulationManager::constructCameraStreamPipeline()
     g_object_set(capsFilter.get(), "caps", caps.get(), nullptr);
 
     gst_bin_add_many(GST_BIN(m_cameraPipeline.get()), source.get(), capsFilter.get(), nullptr);
-    gst_element_link_many(source.get(), capsFilter.get(), jpegEncoder, nullptr);
+    gst_element_link_many(source.get(), capsFilter.get(), jpegEncoder.get(), nullptr);
 }
 
 void CameraEmulationManager::stopPipelines()
