@@ -232,8 +232,11 @@ void EmulationManagementPlugin::showMessageBox(const QString &text, const QStrin
     box->setInformativeText(informativeText);
     translateButtons(box);
     connect(box, &QDialog::finished, this, [this](int answer) {
-        if (m_emulationManagementView.isVisible())
-            m_emulationManagementView.bringToFront(); // the box has raised the IDE above it
+        // The box has raised the IDE above the window. One that is minimised stays so.
+        if (m_emulationManagementView.isVisible()
+            && !(m_emulationManagementView.windowStates() & Qt::WindowMinimized)) {
+            m_emulationManagementView.bringToFront();
+        }
         if (answer == QMessageBox::Retry)
             showEmulationManagementView();
     });

@@ -259,6 +259,13 @@ void ConnectionTest::testMessageLeftOpen()
     Core::ICore::mainWindow()->activateWindow();
     box->close();
     waitFor("the window to be in front again", [] { return view()->isActive(); });
+
+    view()->setWindowStates(Qt::WindowMinimized);
+    QMetaObject::invokeMethod(gpsManager(), "loadTrack", QVariantList());
+    QMetaObject::invokeMethod(invoker(), "webSocketDisconnected");
+    waitFor("the message", [] { return QApplication::activeModalWidget(); });
+    QApplication::activeModalWidget()->close();
+    QCOMPARE(view()->windowStates(), Qt::WindowMinimized);
 }
 
 void ConnectionTest::testDeviceRestsWhileHidden()
