@@ -120,7 +120,7 @@ double LocationBenchmark::parse(const QString &log)
     const QVariant text = QString::fromLatin1(file.readAll());
     QQmlComponent component(view()->engine());
     component.setData("import QtQml\n"
-                      "import 'qrc:/emulationmanagement/js/nmea-parsing.js' as Nmea\n"
+                      "import 'qrc:/emulationmanagement/js/location/nmea-parsing.js' as Nmea\n"
                       "QtObject { function parse(text) { return Nmea.loadNmeaLog(text).length } }",
                       {});
     const std::unique_ptr<QObject> parser(component.create());

@@ -12,6 +12,7 @@
 #include <QStringList>
 #include <QTimer>
 #include <QVariantList>
+#include <QtQmlIntegration>
 
 class QUrl;
 
@@ -30,6 +31,8 @@ class QUrl;
 class CameraEmulationManager : public QObject
 {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("cameraEmulationManager is the only instance")
     Q_PROPERTY(bool streamRunning READ streamRunning NOTIFY streamRunningChanged)
     Q_PROPERTY(bool videoStreamRunning READ videoStreamRunning NOTIFY streamRunningChanged)
     Q_PROPERTY(int streamFramesPerSecond READ streamFramesPerSecond NOTIFY streamMeasured)

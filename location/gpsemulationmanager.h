@@ -8,6 +8,7 @@
 
 #include <QUrl>
 #include <QVariantList>
+#include <QtQmlIntegration>
 
 namespace EmulationManagement::Internal {
 
@@ -21,6 +22,8 @@ namespace EmulationManagement::Internal {
 class GPSEmulationManager : public EmulationManager
 {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("gpsEmulationManager is the only instance")
     Q_PROPERTY(EmulationManagement::Internal::PositionModel *currentPosition READ currentPosition
                    CONSTANT)
     Q_PROPERTY(bool trackLooped READ trackLooped NOTIFY trackLoopedChanged)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QtQmlIntegration>
 
 namespace EmulationManagement::Internal {
 
@@ -12,6 +13,7 @@ namespace EmulationManagement::Internal {
 class PositionModel : public QObject
 {
     Q_OBJECT
+    QML_ANONYMOUS
     Q_PROPERTY(double latitude READ latitude WRITE setLatitude NOTIFY latitudeChanged)
     Q_PROPERTY(double longitude READ longitude WRITE setLongitude NOTIFY longitudeChanged)
     Q_PROPERTY(double altitude READ altitude WRITE setAltitude NOTIFY altitudeChanged)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDoubleValidator>
+#include <QtQmlIntegration>
 
 /*!
  * Validates real numbers in the C locale so strictly that a number outside of the range cannot
@@ -9,6 +10,7 @@
 class TextFieldDoubleValidator : public QDoubleValidator
 {
     Q_OBJECT
+    QML_ELEMENT
 
 public:
     using QDoubleValidator::QDoubleValidator;

@@ -3,6 +3,7 @@
 #include <QMessageBox>
 #include <QObject>
 #include <QString>
+#include <QtQmlIntegration>
 
 namespace EmulationManagement::Internal {
 
@@ -10,6 +11,7 @@ namespace EmulationManagement::Internal {
 class WarningDialog : public QObject
 {
     Q_OBJECT
+    QML_ELEMENT
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
     Q_PROPERTY(QMessageBox::StandardButtons standardButtons READ standardButtons
                    WRITE setStandardButtons NOTIFY standardButtonsChanged)

@@ -2,12 +2,15 @@
 
 #include "xyzmodel.h"
 
+#include <QtQmlIntegration>
+
 namespace EmulationManagement::Internal {
 
 /// Acceleration in thousandths of standard gravity: 1000 is 1 g.
 class AccelerometerModel final : public IntXYZModel
 {
     Q_OBJECT
+    QML_ANONYMOUS
 
 public:
     /// Standard gravity in m/s² (CGPM 1901).

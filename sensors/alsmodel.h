@@ -2,12 +2,16 @@
 
 #include "sensormodel.h"
 
+#include <QtQmlIntegration>
+
 namespace EmulationManagement::Internal {
 
 /// Ambient light in lux.
 class AlsModel final : public SensorModel
 {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Could not create the AlsModel instance")
     Q_PROPERTY(int lux READ lux WRITE setLux NOTIFY luxChanged)
 
 public:

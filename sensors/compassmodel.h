@@ -2,12 +2,15 @@
 
 #include "sensormodel.h"
 
+#include <QtQmlIntegration>
+
 namespace EmulationManagement::Internal {
 
 /// Heading in whole degrees from magnetic north, and the magnetometer's calibration level.
 class CompassModel final : public SensorModel
 {
     Q_OBJECT
+    QML_ANONYMOUS
     Q_PROPERTY(int azimuth READ azimuth WRITE setAzimuth NOTIFY azimuthChanged)
     Q_PROPERTY(int calibrationLevel READ calibrationLevel WRITE setCalibrationLevel
                    NOTIFY calibrationLevelChanged)

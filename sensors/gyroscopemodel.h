@@ -2,12 +2,15 @@
 
 #include "xyzmodel.h"
 
+#include <QtQmlIntegration>
+
 namespace EmulationManagement::Internal {
 
 /// Angular velocity in degrees per second.
 class GyroscopeModel final : public DoubleXYZModel
 {
     Q_OBJECT
+    QML_ANONYMOUS
 
 public:
     /// 0.02 rad/s

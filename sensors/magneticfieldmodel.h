@@ -2,12 +2,15 @@
 
 #include "xyzmodel.h"
 
+#include <QtQmlIntegration>
+
 namespace EmulationManagement::Internal {
 
 /// The ambient magnetic field around the device in microtesla. It stays on the host.
 class MagneticFieldModel final : public DoubleXYZModel
 {
     Q_OBJECT
+    QML_ANONYMOUS
 
 public:
     static constexpr double defaultYValue = 5.95;

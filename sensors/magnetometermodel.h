@@ -2,12 +2,15 @@
 
 #include "xyzmodel.h"
 
+#include <QtQmlIntegration>
+
 namespace EmulationManagement::Internal {
 
 /// Magnetic flux density in tesla, and how well the sensor is calibrated (0 to 3).
 class MagnetometerModel final : public DoubleXYZModel
 {
     Q_OBJECT
+    QML_ANONYMOUS
     Q_PROPERTY(int calibrationLevel READ calibrationLevel WRITE setCalibrationLevel
                    NOTIFY calibrationLevelChanged)
 

@@ -3,6 +3,7 @@
 #include "sensormodel.h"
 
 #include <QOrientationReading>
+#include <QtQmlIntegration>
 
 namespace EmulationManagement::Internal {
 
@@ -10,6 +11,7 @@ namespace EmulationManagement::Internal {
 class OrientationModel final : public SensorModel
 {
     Q_OBJECT
+    QML_ANONYMOUS
     Q_PROPERTY(QOrientationReading::Orientation orientation READ orientation WRITE setOrientation
                    NOTIFY orientationChanged)
 

@@ -2,12 +2,15 @@
 
 #include "sensormodel.h"
 
+#include <QtQmlIntegration>
+
 namespace EmulationManagement::Internal {
 
 /// Reflectance in front of the proximity sensor: 0 is near, 10 is far.
 class ProximityModel final : public SensorModel
 {
     Q_OBJECT
+    QML_ANONYMOUS
     Q_PROPERTY(int reflectance READ reflectance WRITE setReflectance NOTIFY reflectanceChanged)
 
 public:

@@ -17,6 +17,7 @@
 #include <QMap>
 #include <QSet>
 #include <QVariant>
+#include <QtQmlIntegration>
 
 namespace EmulationManagement::Internal {
 
@@ -36,6 +37,7 @@ namespace EmulationManagement::Internal {
 class SensorsEmulationManager : public EmulationManager
 {
     Q_OBJECT
+    QML_ELEMENT
     Q_PROPERTY(EmulationManagement::Internal::AccelerometerModel *accelerometer READ accelerometer
                    CONSTANT)
     Q_PROPERTY(EmulationManagement::Internal::MagnetometerModel *magnetometer READ magnetometer

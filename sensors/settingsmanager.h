@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QString>
 #include <QVariant>
+#include <QtQmlIntegration>
 
 namespace Utils {
 class QtcSettings;
@@ -21,6 +22,7 @@ namespace EmulationManagement::Internal {
 class SettingsManager : public QObject
 {
     Q_OBJECT
+    QML_ELEMENT
 
 public:
     static const QString groupName;

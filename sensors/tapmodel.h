@@ -2,12 +2,16 @@
 
 #include "sensormodel.h"
 
+#include <QtQmlIntegration>
+
 namespace EmulationManagement::Internal {
 
 /// The direction from which the device was last tapped.
 class TapModel final : public SensorModel
 {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Could not create the TapModel instance")
     Q_PROPERTY(EmulationManagement::Internal::TapModel::TapDirection tapDirection READ tapDirection
                    WRITE setTapDirection NOTIFY tapDirectionChanged)
 

@@ -2,6 +2,8 @@
 
 #include "sensormodel.h"
 
+#include <QtQmlIntegration>
+
 namespace EmulationManagement::Internal {
 
 /// Holds a reading along the device's three axes.
@@ -42,6 +44,7 @@ protected:
 class IntXYZModel : public XYZModel<int>
 {
     Q_OBJECT
+    QML_ANONYMOUS
     Q_PROPERTY(int x READ x WRITE setX NOTIFY xChanged)
     Q_PROPERTY(int y READ y WRITE setY NOTIFY yChanged)
     Q_PROPERTY(int z READ z WRITE setZ NOTIFY zChanged)
@@ -63,6 +66,7 @@ Q_SIGNALS:
 class DoubleXYZModel : public XYZModel<double>
 {
     Q_OBJECT
+    QML_ANONYMOUS
     Q_PROPERTY(double x READ x WRITE setX NOTIFY xChanged)
     Q_PROPERTY(double y READ y WRITE setY NOTIFY yChanged)
     Q_PROPERTY(double z READ z WRITE setZ NOTIFY zChanged)

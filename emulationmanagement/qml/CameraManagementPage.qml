@@ -5,11 +5,16 @@ import QtQuick.Controls
 import QtQuick.Dialogs
 import QtQuick.Layouts
 
+import org.plova 1.0
+
+import "camera"
+import "shared"
+
 // What the emulator's camera sees: a camera of the host or a video file.
 EmulationPage {
     id: root
 
-    readonly property var cameraManager: cameraEmulationManager // qmllint disable unqualified
+    readonly property CameraEmulationManager cameraManager: cameraEmulationManager // qmllint disable unqualified
     readonly property bool hasCamera: cameraManager.cameras.length > 0
     required property ErrorMessageDialog errorDialog
     // The source that is chosen. It follows what plays, and otherwise whether there are cameras.

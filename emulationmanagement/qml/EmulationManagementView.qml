@@ -4,6 +4,7 @@ import QtQuick.Window
 
 import org.plova 1.0
 
+import "shared"
 import "../js/sensor-controls-view-logic.js" as Logic
 
 Rectangle {
@@ -18,7 +19,7 @@ Rectangle {
     ]
     // The sensor that "Apply" switched last, until the emulator refuses a call.
     property string lastChangedSensorName: ""
-    readonly property var sensorsManager: sensorsEmulationManager // qmllint disable unqualified
+    readonly property SensorsEmulationManager sensorsManager: sensorsEmulationManager // qmllint disable unqualified
     readonly property color separatorColor: themeSeparatorColor // qmllint disable unqualified
     // Gives the window a palette, which follows the IDE's theme. Controls and dialogs that are made
     // later take it; below a window without one they would get the style's own.

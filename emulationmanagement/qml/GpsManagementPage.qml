@@ -5,9 +5,13 @@ import QtQuick.Controls
 import QtQuick.Dialogs
 import QtQuick.Layouts
 
-import "../js/nmea-parsing.js" as Nmea
-import "../js/text-file.js" as TextFile
-import "../js/track-rows.js" as TrackRows
+import org.plova 1.0
+
+import "location"
+import "shared"
+import "../js/location/nmea-parsing.js" as Nmea
+import "../js/location/text-file.js" as TextFile
+import "../js/location/track-rows.js" as TrackRows
 
 // Sets a position, or loads a track and plays it.
 EmulationPage {
@@ -16,7 +20,7 @@ EmulationPage {
     required property ErrorMessageDialog errorDialog
     required property MessageDialog messageDialog
 
-    readonly property var gpsManager: gpsEmulationManager // qmllint disable unqualified
+    readonly property GPSEmulationManager gpsManager: gpsEmulationManager // qmllint disable unqualified
     readonly property var locale: Qt.locale("en_US")
     readonly property double latitudeMinValue: -90
     readonly property double latitudeMaxValue: 90

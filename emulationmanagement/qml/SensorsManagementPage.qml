@@ -7,12 +7,13 @@ import QtQuick.Layouts
 
 import org.plova 1.0
 
-import "../js/sensor-dependencies.js" as Dependencies
+import "shared"
+import "../js/sensors/sensor-dependencies.js" as Dependencies
 
 EmulationPage {
     id: root
 
-    readonly property var sensorsManager: sensorsEmulationManager // qmllint disable unqualified
+    readonly property SensorsEmulationManager sensorsManager: sensorsEmulationManager // qmllint disable unqualified
     readonly property var titles: ({
         accelerometer: qsTr("Accelerometer"),
         compass: qsTr("Compass"),

@@ -4,10 +4,15 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 
+import org.plova 1.0
+
+import "sensors"
+import "shared"
+
 EmulationPage {
     id: root
 
-    readonly property var sensorsManager: sensorsEmulationManager // qmllint disable unqualified
+    readonly property SensorsEmulationManager sensorsManager: sensorsEmulationManager // qmllint disable unqualified
     // A sensor that the device model page drives too was changed since this page was shown.
     property bool modelSensorChanged: false
 
@@ -142,19 +147,19 @@ EmulationPage {
     }
 
     ModelWatch {
-        target: root.sensorsManager.accelerometer
+        target: root.sensorsManager.accelerometer // qmllint disable incompatible-type
     }
 
     ModelWatch {
-        target: root.sensorsManager.magnetometer
+        target: root.sensorsManager.magnetometer // qmllint disable incompatible-type
     }
 
     ModelWatch {
-        target: root.sensorsManager.magneticField
+        target: root.sensorsManager.magneticField // qmllint disable incompatible-type
     }
 
     ModelWatch {
-        target: root.sensorsManager.gyroscope
+        target: root.sensorsManager.gyroscope // qmllint disable incompatible-type
     }
 
     Connections {

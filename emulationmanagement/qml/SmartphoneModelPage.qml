@@ -4,7 +4,11 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 
-import "../js/smartphone-model-page-logic.js" as Logic
+import org.plova 1.0
+
+import "devicemodel"
+import "shared"
+import "../js/devicemodel/smartphone-model-page-logic.js" as Logic
 
 EmulationPage {
     id: root
@@ -18,7 +22,7 @@ EmulationPage {
     readonly property double moveMinValue: -2
     readonly property double moveMaxValue: 2
 
-    readonly property var sensorsManager: sensorsEmulationManager // qmllint disable unqualified
+    readonly property SensorsEmulationManager sensorsManager: sensorsEmulationManager // qmllint disable unqualified
     property bool rotationMode: true
     property bool controlModifierPressed: false
 

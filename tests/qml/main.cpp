@@ -30,6 +30,11 @@ public Q_SLOTS:
         qmlRegisterType<WarningDialogDouble>(qmlModule, 1, 0, "WarningDialog");
         qmlRegisterType<SettingsManager>(qmlModule, 1, 0, "SettingsManager");
         qmlRegisterType<TextFieldDoubleValidator>(qmlModule, 1, 0, "TextFieldDoubleValidator");
+        qmlRegisterUncreatableType<GPSEmulationManager>(qmlModule, 1, 0, "GPSEmulationManager",
+                                                        QString());
+        qmlRegisterUncreatableType<CameraEmulationManager>(qmlModule, 1, 0,
+                                                           "CameraEmulationManager", QString());
+        qmlRegisterType<SensorsEmulationManager>(qmlModule, 1, 0, "SensorsEmulationManager");
         qmlRegisterUncreatableType<AlsModel>(qmlModule, 1, 0, "AlsModel", QString());
         qmlRegisterUncreatableType<TapModel>(qmlModule, 1, 0, "TapModel", QString());
     }

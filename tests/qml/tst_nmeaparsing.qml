@@ -1,7 +1,7 @@
 import QtQuick
 import QtTest
 
-import "qrc:/emulationmanagement/js/nmea-parsing.js" as Nmea
+import "qrc:/emulationmanagement/js/location/nmea-parsing.js" as Nmea
 
 import "nmea-logs.js" as Logs
 import "nmea-reference.js" as Reference

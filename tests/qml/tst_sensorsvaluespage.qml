@@ -3,6 +3,8 @@ import QtQuick.Controls
 import QtTest
 
 import "qrc:/emulationmanagement/qml"
+import "qrc:/emulationmanagement/qml/sensors"
+import "qrc:/emulationmanagement/qml/shared"
 
 import "find.js" as Find
 

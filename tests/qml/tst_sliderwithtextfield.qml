@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Controls
 import QtTest
 
-import "qrc:/emulationmanagement/qml"
+import "qrc:/emulationmanagement/qml/shared"
 
 import "find.js" as Find
 

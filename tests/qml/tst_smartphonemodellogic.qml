@@ -1,7 +1,7 @@
 import QtQuick
 import QtTest
 
-import "qrc:/emulationmanagement/js/smartphone-model-page-logic.js" as Logic
+import "qrc:/emulationmanagement/js/devicemodel/smartphone-model-page-logic.js" as Logic
 
 // Compares the formulas with quaternions [w, x, y, z] that are made of axes and angles.
 TestCase {

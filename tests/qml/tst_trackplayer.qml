@@ -1,7 +1,7 @@
 import QtQuick
 import QtTest
 
-import "qrc:/emulationmanagement/qml"
+import "qrc:/emulationmanagement/qml/location"
 
 // When the steps of a track come, by a clock that the test sets.
 TestCase {

@@ -3,6 +3,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 
+import "../shared"
+
 // For a sensor that the emulator does not have yet: nothing is bound, and no page shows it.
 SensorControls {
     id: root

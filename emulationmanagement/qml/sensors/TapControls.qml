@@ -2,10 +2,14 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
+import org.plova 1.0
+
+import "../shared"
+
 SensorControls {
     id: root
 
-    required property var sensorsManager
+    required property SensorsEmulationManager sensorsManager
 
     sensorName: "tap"
     title: qsTr("Tap Sensor")

@@ -2,10 +2,12 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
+import org.plova 1.0
+
 SensorControls {
     id: root
 
-    required property var sensorsManager
+    required property SensorsEmulationManager sensorsManager
 
     sensorName: "gyroscope"
     title: qsTr("Gyroscope")

@@ -4,10 +4,14 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 
+import org.plova 1.0
+
+import "../shared"
+
 SensorControls {
     id: root
 
-    required property var sensorsManager
+    required property SensorsEmulationManager sensorsManager
 
     readonly property double percentPerUnit: 100 / 1023 // of the sensor's ten bits
 

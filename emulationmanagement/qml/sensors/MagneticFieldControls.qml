@@ -2,11 +2,13 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
+import org.plova 1.0
+
 // The field around the device has no sensor of its own: it comes and goes with the magnetometer.
 SensorControls {
     id: root
 
-    required property var sensorsManager
+    required property SensorsEmulationManager sensorsManager
 
     sensorName: "magnetometer"
     title: qsTr("Magnetic Field")

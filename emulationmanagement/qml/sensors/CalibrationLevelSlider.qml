@@ -1,5 +1,7 @@
 import QtQuick
 
+import "../shared"
+
 // How well the magnetometer is calibrated, which the compass tells too.
 SliderWithTextField {
     id: root

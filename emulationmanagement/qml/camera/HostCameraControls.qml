@@ -4,11 +4,15 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 
+import org.plova 1.0
+
+import "../shared"
+
 // What the host's camera streams, and the choices of what it is to stream next.
 RowLayout {
     id: root
 
-    required property var cameraManager
+    required property CameraEmulationManager cameraManager
     property string currentCameraName: ""
     property string currentResolution: ""
     property string currentFramerate: ""

@@ -9,6 +9,7 @@ Item {
 
     enum Playback { Stopped, Playing, Paused }
 
+    // A GPSEmulationManager; the test of this component gives one whose clock it sets.
     required property var gpsManager
     required property TrackModel track
     // The track as the emulator was given it.

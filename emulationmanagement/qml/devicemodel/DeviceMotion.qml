@@ -1,13 +1,15 @@
 import QtQuick
 
-import "../js/smartphone-model-page-logic.js" as Logic
+import org.plova 1.0
+
+import "../../js/devicemodel/smartphone-model-page-logic.js" as Logic
 
 // The device that is turned and moved: computes what it reads, and sends it. Triples are arrays of
 // x, y and z.
 QtObject {
     id: root
 
-    required property var sensorsManager
+    required property SensorsEmulationManager sensorsManager
     required property bool active
     // Turned, or moved.
     required property bool rotationMode

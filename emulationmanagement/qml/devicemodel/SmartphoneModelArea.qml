@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Controls
 
-import "../js/smartphone-model-page-logic.js" as Logic
+import "../../js/devicemodel/smartphone-model-page-logic.js" as Logic
 
 // Where the device is seen, and turned and moved with the mouse.
 Rectangle {

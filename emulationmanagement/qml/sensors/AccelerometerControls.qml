@@ -2,10 +2,12 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
+import org.plova 1.0
+
 SensorControls {
     id: root
 
-    required property var sensorsManager
+    required property SensorsEmulationManager sensorsManager
 
     readonly property double gravityAccelEarth: 9.80665 // m/s²
     readonly property double unitsPerG: 1000

@@ -2,11 +2,13 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 
+import org.plova 1.0
+
 // Fields for a position to be set.
 GroupBox {
     id: root
 
-    required property var gpsManager
+    required property GPSEmulationManager gpsManager
     required property var numberLocale
     required property int coordinateDecimals
     required property int altitudeDecimals

@@ -2,6 +2,8 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 
+import "../shared"
+
 // A field for one number of a position. What is no number gives way to the last one that was.
 RowLayout {
     id: root

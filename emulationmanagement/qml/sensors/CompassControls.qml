@@ -3,10 +3,14 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 
+import org.plova 1.0
+
+import "../shared"
+
 SensorControls {
     id: root
 
-    required property var sensorsManager
+    required property SensorsEmulationManager sensorsManager
 
     sensorName: "compass"
     title: qsTr("Compass")

@@ -5,12 +5,13 @@ import QtQuick.Layouts
 
 import org.plova 1.0
 
-import "../js/light-levels.js" as LightLevels
+import "../shared"
+import "../../js/sensors/light-levels.js" as LightLevels
 
 SensorControls {
     id: root
 
-    required property var sensorsManager
+    required property SensorsEmulationManager sensorsManager
 
     readonly property var levels: [
         { name: "Undefined", lux: AlsModel.Undefined },

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls
 
-import "../js/smartphone-model-page-logic.js" as Logic
+import "../../js/devicemodel/smartphone-model-page-logic.js" as Logic
 
 // Buttons for the attitudes that are needed most.
 GroupBox {

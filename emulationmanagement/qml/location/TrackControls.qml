@@ -1,11 +1,15 @@
 import QtQuick
 import QtQuick.Controls
 
+import org.plova 1.0
+
+import "../shared"
+
 // Buttons to play a track, and how it is played.
 Flow {
     id: root
 
-    required property var gpsManager
+    required property GPSEmulationManager gpsManager
     property bool playing: false
     property bool stopped: true
     // The track has no speed of its own.

@@ -2,10 +2,14 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
+import org.plova 1.0
+
+import "../shared"
+
 SensorControls {
     id: root
 
-    required property var sensorsManager
+    required property SensorsEmulationManager sensorsManager
 
     sensorName: "orientation"
     title: qsTr("Orientation Sensor")
@@ -13,7 +17,7 @@ SensorControls {
     controls: Component {
         LabeledComboBox {
             // the value before TopUp means that the orientation is not known
-            index: root.sensorsManager.orientation.orientation - 1
+            index: root.sensorsManager.orientation.orientation - 1 // qmllint disable unresolved-type
             label: qsTr("Orientation")
             model: ["TopUp", "TopDown", "LeftUp", "RightUp", "FaceUp", "FaceDown"]
 

@@ -3,6 +3,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 
+import "../shared"
+
 // Sliders for the x, y and z of a model, one below the other.
 ColumnLayout {
     id: root
