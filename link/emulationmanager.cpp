@@ -2,15 +2,13 @@
 
 #include "remotedbusinvokerservice.h"
 
-namespace EmulationManagement::Internal {
+using namespace Qt::StringLiterals;
 
-namespace {
+namespace EmulationManagement::Internal {
 
 constexpr qsizetype replyFieldCount = 5;
 constexpr qsizetype errorNameField = 3;
 constexpr qsizetype errorTextField = 4;
-
-} // namespace
 
 EmulationManager::EmulationManager(QObject *parent)
     : QObject(parent)
@@ -41,11 +39,11 @@ void EmulationManager::processReplyFromEmulator(const QString &reply)
     const QStringList fields = reply.split(u':');
     if (!fields.at(errorNameField).isEmpty()) {
         Q_EMIT replyFromEmulatorReceived(
-            QStringLiteral("%1 %2").arg(fields.at(errorNameField), fields.at(errorTextField)));
+            u"%1 %2"_s.arg(fields.at(errorNameField), fields.at(errorTextField)));
         return;
     }
     processDBusMethodsReturnValues(fields);
-    Q_EMIT replyFromEmulatorReceived(QStringLiteral("OK"));
+    Q_EMIT replyFromEmulatorReceived(u"OK"_s);
 }
 
 void EmulationManager::callDBusMethod(const QString &method, const QString &arguments)

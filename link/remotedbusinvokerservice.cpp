@@ -2,10 +2,11 @@
 
 #include <QUrl>
 
+using namespace Qt::StringLiterals;
+
 namespace EmulationManagement::Internal {
 
-const QString RemoteDBusInvokerService::portForwardingRule
-    = QStringLiteral("emulationmanagementtcp");
+const QString RemoteDBusInvokerService::portForwardingRule = u"emulationmanagementtcp"_s;
 
 RemoteDBusInvokerService::RemoteDBusInvokerService(QObject *parent)
     : QObject(parent)
@@ -42,7 +43,7 @@ void RemoteDBusInvokerService::connectToEmulator()
     m_retryTimer.stop();
     if (!m_webSocket)
         createWebSocket();
-    m_webSocket->open(QUrl(QStringLiteral("ws://127.0.0.1:%1").arg(hostTcpPort)));
+    m_webSocket->open(QUrl(u"ws://127.0.0.1:%1"_s.arg(hostTcpPort)));
 }
 
 void RemoteDBusInvokerService::handleDisconnected()
@@ -65,8 +66,7 @@ void RemoteDBusInvokerService::callDBusMethod(const QString &bus, const QString 
     if (!m_webSocket)
         return;
     // Filled one after the other, the arguments last: nothing in them is taken for a placeholder.
-    m_webSocket->sendTextMessage(QStringLiteral("%1 %2 %3 %4 %5 %6")
-                                     .arg(bus)
+    m_webSocket->sendTextMessage(u"%1 %2 %3 %4 %5 %6"_s.arg(bus)
                                      .arg(service)
                                      .arg(objectPath)
                                      .arg(interface)

@@ -1,40 +1,32 @@
 #include "gpsemulationmanager.h"
 
+#include <link/argumentencoding.h>
+
 #include <QFileInfo>
 
 #include <chrono>
 #include <cmath>
 
-namespace EmulationManagement::Internal {
+using namespace Qt::StringLiterals;
 
-namespace {
+namespace EmulationManagement::Internal {
 
 constexpr int coordinateDecimals = 7;
 constexpr int altitudeDecimals = 2;
 
 // Of a point of a track.
-const QString latitudeKey = QStringLiteral("latitude");
-const QString longitudeKey = QStringLiteral("longitude");
-const QString altitudeKey = QStringLiteral("altitude");
-const QString intervalKey = QStringLiteral("interval");
+const QString latitudeKey = u"latitude"_s;
+const QString longitudeKey = u"longitude"_s;
+const QString altitudeKey = u"altitude"_s;
+const QString intervalKey = u"interval"_s;
 
-QString coordinateText(double degrees)
-{
-    return QString::number(degrees, 'f', coordinateDecimals);
-}
-
-QString altitudeText(double metres)
-{
-    return QString::number(metres, 'f', altitudeDecimals);
-}
-
-double numberOr(double value, double replacement)
+static double numberOr(double value, double replacement)
 {
     return std::isnan(value) ? replacement : value;
 }
 
 // What a point of a track lacks, or what is no number, counts as 0.
-double numberOf(const QVariantMap &point, const QString &key)
+static double numberOf(const QVariantMap &point, const QString &key)
 {
     const auto value = point.constFind(key);
     if (value == point.cend())
@@ -43,23 +35,6 @@ double numberOf(const QVariantMap &point, const QString &key)
     const auto *text = get_if<QString>(&*value);
     return numberOr(text ? text->toDouble() : value->toDouble(), 0);
 }
-
-QString doubleArgument(const QString &value)
-{
-    return QStringLiteral("double:%1").arg(value);
-}
-
-QString booleanArgument(bool value)
-{
-    return QStringLiteral("boolean:%1").arg(value ? 1 : 0);
-}
-
-QString intArgument(int value)
-{
-    return QStringLiteral("int32:%1").arg(value);
-}
-
-} // namespace
 
 GPSEmulationManager::GPSEmulationManager(QObject *parent)
     : EmulationManager(parent)
@@ -70,17 +45,17 @@ GPSEmulationManager::GPSEmulationManager(QObject *parent)
 
 QString GPSEmulationManager::bus() const
 {
-    return QStringLiteral("system");
+    return u"system"_s;
 }
 
 QString GPSEmulationManager::dbusService() const
 {
-    return QStringLiteral("org.vexa.GeoclueEmulationManagement");
+    return u"org.vexa.GeoclueEmulationManagement"_s;
 }
 
 QString GPSEmulationManager::dbusObject() const
 {
-    return QStringLiteral("/org/vexa/GeoclueEmulationManagement");
+    return u"/org/vexa/GeoclueEmulationManagement"_s;
 }
 
 QString GPSEmulationManager::dbusInterface() const
@@ -155,10 +130,9 @@ void GPSEmulationManager::setPosition(double latitude, double longitude, double 
     latitude = numberOr(latitude, m_currentPosition->latitude());
     longitude = numberOr(longitude, m_currentPosition->longitude());
     altitude = numberOr(altitude, m_currentPosition->altitude());
-    callDBusMethod(
-        QStringLiteral("setPosition"),
-        QStringLiteral("double:%1 double:%2 double:%3")
-            .arg(coordinateText(latitude), coordinateText(longitude), altitudeText(altitude)));
+    callDBusMethod(u"setPosition"_s, joinArguments({doubleArgument(latitude, coordinateDecimals),
+                                                    doubleArgument(longitude, coordinateDecimals),
+                                                    doubleArgument(altitude, altitudeDecimals)}));
     setLocalPosition(latitude, longitude, altitude);
 }
 
@@ -166,7 +140,7 @@ void GPSEmulationManager::setLatitude(double latitude)
 {
     if (std::isnan(latitude))
         return;
-    callDBusMethod(QStringLiteral("setLatitude"), doubleArgument(coordinateText(latitude)));
+    callDBusMethod(u"setLatitude"_s, doubleArgument(latitude, coordinateDecimals));
     m_currentPosition->setLatitude(latitude);
     m_settings.saveGpsLatitude(latitude);
 }
@@ -175,7 +149,7 @@ void GPSEmulationManager::setLongitude(double longitude)
 {
     if (std::isnan(longitude))
         return;
-    callDBusMethod(QStringLiteral("setLongitude"), doubleArgument(coordinateText(longitude)));
+    callDBusMethod(u"setLongitude"_s, doubleArgument(longitude, coordinateDecimals));
     m_currentPosition->setLongitude(longitude);
     m_settings.saveGpsLongitude(longitude);
 }
@@ -184,7 +158,7 @@ void GPSEmulationManager::setAltitude(double altitude)
 {
     if (std::isnan(altitude))
         return;
-    callDBusMethod(QStringLiteral("setAltitude"), doubleArgument(altitudeText(altitude)));
+    callDBusMethod(u"setAltitude"_s, doubleArgument(altitude, altitudeDecimals));
     m_currentPosition->setAltitude(altitude);
     m_settings.saveGpsAltitude(altitude);
 }
@@ -192,63 +166,62 @@ void GPSEmulationManager::setAltitude(double altitude)
 void GPSEmulationManager::loadTrack(const QVariantList &trackPoints)
 {
     static constexpr qsizetype usualPointSize = 40; // characters
-    QString arguments = QStringLiteral("array:array:double:");
-    arguments.reserve(arguments.size() + trackPoints.size() * usualPointSize);
-    for (qsizetype i = 0; i < trackPoints.size(); ++i) {
-        const QVariantMap point = trackPoints.at(i).toMap();
-        if (i > 0)
-            arguments += u';';
-        arguments += coordinateText(numberOf(point, latitudeKey)) + u','
-                     + coordinateText(numberOf(point, longitudeKey)) + u','
-                     + altitudeText(numberOf(point, altitudeKey)) + u','
-                     + QString::number(numberOf(point, intervalKey));
+    DoubleArraysArgument points(trackPoints.size() * usualPointSize);
+    for (const QVariant &trackPoint : trackPoints) {
+        const QVariantMap point = trackPoint.toMap();
+        points.append({
+            QString::number(numberOf(point, latitudeKey), 'f', coordinateDecimals),
+            QString::number(numberOf(point, longitudeKey), 'f', coordinateDecimals),
+            QString::number(numberOf(point, altitudeKey), 'f', altitudeDecimals),
+            QString::number(numberOf(point, intervalKey)),
+        });
     }
     // before the call: the loss of the link, which may show in it, takes the track away again
     m_currentPositionIndex = 0;
     m_trackLoaded = true;
-    callDBusMethod(QStringLiteral("loadTrack"), arguments);
+    callDBusMethod(u"loadTrack"_s, points.toString());
 }
 
 void GPSEmulationManager::startTrack()
 {
-    callDBusMethod(QStringLiteral("startTrack"), {});
+    callDBusMethod(u"startTrack"_s, {});
 }
 
 void GPSEmulationManager::pauseTrack()
 {
-    callDBusMethod(QStringLiteral("pauseTrack"), {});
+    callDBusMethod(u"pauseTrack"_s, {});
 }
 
 void GPSEmulationManager::stopTrack()
 {
-    callDBusMethod(QStringLiteral("stopTrack"), {});
+    callDBusMethod(u"stopTrack"_s, {});
     setCurrentPositionIndex(0);
 }
 
 void GPSEmulationManager::setTrackLooped(bool looped)
 {
-    callDBusMethod(QStringLiteral("setTrackLooped"), booleanArgument(looped));
+    callDBusMethod(u"setTrackLooped"_s, booleanArgument(looped));
     m_trackLooped = looped;
     Q_EMIT trackLoopedChanged();
 }
 
 void GPSEmulationManager::setTrackIntervalMode(bool useDefaultInterval)
 {
-    callDBusMethod(QStringLiteral("setTrackIntervalMode"), booleanArgument(useDefaultInterval));
+    callDBusMethod(u"setTrackIntervalMode"_s, booleanArgument(useDefaultInterval));
     m_useDefaultInterval = useDefaultInterval;
     Q_EMIT defaultIntervalUsingChanged();
 }
 
 void GPSEmulationManager::setTrackSpeed(int speed)
 {
-    callDBusMethod(QStringLiteral("setTrackSpeed"), intArgument(speed));
+    callDBusMethod(u"setTrackSpeed"_s, int32Argument(speed));
     m_trackSpeed = speed;
     Q_EMIT trackSpeedChanged();
 }
 
 void GPSEmulationManager::goToPositionOnTrack(int index)
 {
-    callDBusMethod(QStringLiteral("goToPositionOnTrack"), intArgument(index));
+    callDBusMethod(u"goToPositionOnTrack"_s, int32Argument(index));
     setCurrentPositionIndex(index);
 }
 

@@ -11,6 +11,8 @@
 #include <coreplugin/coreconstants.h>
 #include <coreplugin/icore.h>
 
+#include <devicemodel/devicemodelfiles.h>
+
 #include <extensionsystem/pluginmanager.h>
 
 #include <ravik/sdk.h>
@@ -21,7 +23,6 @@
 
 #include <QAction>
 #include <QDebug>
-#include <QDir>
 #include <QLocale>
 #include <QQmlContext>
 #include <QQmlEngine>
@@ -29,15 +30,13 @@
 #include <QSettings>
 #include <QTranslator>
 
-namespace EmulationManagement::Internal {
+using namespace Qt::StringLiterals;
 
-namespace {
+namespace EmulationManagement::Internal {
 
 constexpr char qmlModule[] = "org.plova";
 constexpr int qmlMajorVersion = 1;
 constexpr int qmlMinorVersion = 0;
-
-} // namespace
 
 bool EmulationManagementPlugin::initialize(const QStringList &arguments, QString *errorString)
 {
@@ -101,7 +100,7 @@ void EmulationManagementPlugin::setupTranslations()
     const QString directory = Core::ICore::resourcePath("translations").toFSPathString();
 
     auto *translator = new QTranslator(this);
-    if (translator->load(locale, QLatin1StringView(catalogue), QStringLiteral("_"), directory))
+    if (translator->load(locale, QLatin1StringView(catalogue), u"_"_s, directory))
         QCoreApplication::installTranslator(translator);
     else
         qDebug() << "Failed to load translator:" << directory << catalogue;
@@ -118,12 +117,19 @@ void EmulationManagementPlugin::registerQmlTypes()
                                              "SensorsEmulationManager");
     qmlRegisterType<TextFieldDoubleValidator>(qmlModule, qmlMajorVersion, qmlMinorVersion,
                                               "TextFieldDoubleValidator");
+    // The pages name these types; their instances are context properties.
+    qmlRegisterUncreatableType<GPSEmulationManager>(qmlModule, qmlMajorVersion, qmlMinorVersion,
+                                                    "GPSEmulationManager",
+                                                    u"gpsEmulationManager is the only instance"_s);
+    qmlRegisterUncreatableType<CameraEmulationManager>(
+        qmlModule, qmlMajorVersion, qmlMinorVersion, "CameraEmulationManager",
+        u"cameraEmulationManager is the only instance"_s);
     qRegisterMetaType<AlsModel::LightLevel>("AlsModel::LightLevel");
     qRegisterMetaType<TapModel::TapDirection>("TapModel::TapDirection");
     qmlRegisterUncreatableType<AlsModel>(qmlModule, qmlMajorVersion, qmlMinorVersion, "AlsModel",
-                                         QStringLiteral("Could not create the AlsModel instance"));
+                                         u"Could not create the AlsModel instance"_s);
     qmlRegisterUncreatableType<TapModel>(qmlModule, qmlMajorVersion, qmlMinorVersion, "TapModel",
-                                         QStringLiteral("Could not create the TapModel instance"));
+                                         u"Could not create the TapModel instance"_s);
 }
 
 void EmulationManagementPlugin::setupContextProperties()
@@ -151,8 +157,7 @@ void EmulationManagementPlugin::setupContextProperties()
 void EmulationManagementPlugin::setupView()
 {
     QQmlContext *context = m_emulationManagementView.rootContext();
-    context->setContextProperty(QStringLiteral("cameraEmulationManager"),
-                                &m_cameraEmulationManager);
+    context->setContextProperty(u"cameraEmulationManager"_s, &m_cameraEmulationManager);
 
     // Where the platform has no dialogs of its own, those of the style of the controls are chosen.
     QQmlEngine *engine = m_emulationManagementView.engine();
@@ -161,7 +166,7 @@ void EmulationManagementPlugin::setupView()
     m_emulationManagementView.setTitle(tr("Emulation Management"));
     m_emulationManagementView.setResizeMode(QQuickView::SizeRootObjectToView);
     m_emulationManagementView.setSource(
-        QUrl(QStringLiteral("qrc:/emulationmanagement/qml/EmulationManagementView.qml")));
+        QUrl(u"qrc:/emulationmanagement/qml/EmulationManagementView.qml"_s));
 
     connect(&m_emulationManagementView, &QWindow::visibleChanged, this, [this](bool visible) {
         if (!visible)
@@ -187,25 +192,22 @@ void EmulationManagementPlugin::setupMenu()
     Core::ActionManager::actionContainer(Core::Constants::M_TOOLS)->addMenu(sdkMenu);
 }
 
+/// Which sensors the device model of this file has, by their names.
+static QVariantMap readSensors(QSettings &file)
+{
+    QVariantMap sensors;
+    file.beginGroup(u"sensors"_s);
+    const QStringList names = file.childKeys();
+    for (const QString &name : names)
+        sensors.insert(name, file.value(name, true).toBool());
+    file.endGroup();
+    return sensors;
+}
+
 void EmulationManagementPlugin::initEmulatorModesSensorsConfigurations()
 {
-    m_deviceSensorsConfigurations.clear();
-    const QDir directory(
-        QStringLiteral("%1/%2").arg(QCoreApplication::applicationDirPath(), QString()));
-    const QStringList fileNames
-        = directory.entryList({QStringLiteral("*.ini")}, QDir::Files, QDir::Unsorted);
-    for (const QString &fileName : fileNames) {
-        QSettings file(QStringLiteral("%1/%2").arg(directory.path(), fileName),
-                       QSettings::IniFormat);
-        QVariantMap sensors;
-        file.beginGroup(QStringLiteral("sensors"));
-        const QStringList names = file.childKeys();
-        for (const QString &name : names)
-            sensors.insert(name, file.value(name, true).toBool());
-        file.endGroup();
-        m_deviceSensorsConfigurations.insert(file.value(QStringLiteral("device-name")).toString(),
-                                             sensors);
-    }
+    m_deviceSensorsConfigurations
+        = readDeviceModelFiles(QCoreApplication::applicationDirPath(), &readSensors);
 }
 
 void EmulationManagementPlugin::updateSensorsConfiguration(const QString &deviceModelName)

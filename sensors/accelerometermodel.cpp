@@ -1,5 +1,7 @@
 #include "accelerometermodel.h"
 
+using namespace Qt::StringLiterals;
+
 namespace EmulationManagement::Internal {
 
 AccelerometerModel::AccelerometerModel(QObject *parent)
@@ -8,7 +10,7 @@ AccelerometerModel::AccelerometerModel(QObject *parent)
 
 QString AccelerometerModel::name() const
 {
-    return QStringLiteral("accelerometer");
+    return u"accelerometer"_s;
 }
 
 void AccelerometerModel::setDefaultValues()

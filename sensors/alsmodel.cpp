@@ -1,5 +1,7 @@
 #include "alsmodel.h"
 
+using namespace Qt::StringLiterals;
+
 namespace EmulationManagement::Internal {
 
 AlsModel::AlsModel(QObject *parent)
@@ -8,7 +10,7 @@ AlsModel::AlsModel(QObject *parent)
 
 QString AlsModel::name() const
 {
-    return QStringLiteral("als");
+    return u"als"_s;
 }
 
 void AlsModel::setDefaultValues()

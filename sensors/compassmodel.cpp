@@ -3,17 +3,16 @@
 #include "accelerometermodel.h"
 #include "magnetometermodel.h"
 
+#include <QtMath>
+
 #include <cmath>
+
+using namespace Qt::StringLiterals;
 
 namespace EmulationManagement::Internal {
 
-namespace {
-
-constexpr double degreesPerRadian = 57.29577951308232;
 constexpr double fullTurn = 360.0;
 constexpr double gPerUnit = 0.001;
-
-} // namespace
 
 CompassModel::CompassModel(QObject *parent)
     : SensorModel(parent)
@@ -21,7 +20,7 @@ CompassModel::CompassModel(QObject *parent)
 
 QString CompassModel::name() const
 {
-    return QStringLiteral("compass");
+    return u"compass"_s;
 }
 
 void CompassModel::setDefaultValues()
@@ -68,7 +67,7 @@ int CompassModel::calculateAzimuth(int ax, int ay, int az, double mx, double my,
         my * std::cos(pitch) + (mx * std::sin(roll) + mz * std::cos(roll)) * std::sin(pitch));
     if (!std::isfinite(yaw)) // free fall: nothing says where the horizon is
         return 0;
-    return static_cast<int>(std::lround(yaw * -degreesPerRadian + fullTurn))
+    return static_cast<int>(std::lround(fullTurn - qRadiansToDegrees(yaw)))
            % static_cast<int>(fullTurn);
 }
 

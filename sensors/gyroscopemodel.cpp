@@ -1,5 +1,7 @@
 #include "gyroscopemodel.h"
 
+using namespace Qt::StringLiterals;
+
 namespace EmulationManagement::Internal {
 
 GyroscopeModel::GyroscopeModel(QObject *parent)
@@ -8,7 +10,7 @@ GyroscopeModel::GyroscopeModel(QObject *parent)
 
 QString GyroscopeModel::name() const
 {
-    return QStringLiteral("gyroscope");
+    return u"gyroscope"_s;
 }
 
 void GyroscopeModel::setDefaultValues()

@@ -1,5 +1,7 @@
 #include "magneticfieldmodel.h"
 
+using namespace Qt::StringLiterals;
+
 namespace EmulationManagement::Internal {
 
 MagneticFieldModel::MagneticFieldModel(QObject *parent)
@@ -8,7 +10,7 @@ MagneticFieldModel::MagneticFieldModel(QObject *parent)
 
 QString MagneticFieldModel::name() const
 {
-    return QStringLiteral("magneticField");
+    return u"magneticField"_s;
 }
 
 void MagneticFieldModel::setDefaultValues()

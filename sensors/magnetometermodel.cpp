@@ -1,5 +1,7 @@
 #include "magnetometermodel.h"
 
+using namespace Qt::StringLiterals;
+
 namespace EmulationManagement::Internal {
 
 MagnetometerModel::MagnetometerModel(QObject *parent)
@@ -8,7 +10,7 @@ MagnetometerModel::MagnetometerModel(QObject *parent)
 
 QString MagnetometerModel::name() const
 {
-    return QStringLiteral("magnetometer");
+    return u"magnetometer"_s;
 }
 
 void MagnetometerModel::setDefaultValues()

@@ -2,26 +2,27 @@
 
 #include "accelerometermodel.h"
 
+#include <QtMath>
+
 #include <cmath>
+
+using namespace Qt::StringLiterals;
 
 namespace EmulationManagement::Internal {
 
-namespace {
-
-constexpr double degreesPerRadian = 57.29577951308232;
 // A turn to the side is taken later than one to the front or back, so that a device held upright
 // and a little askew stays in portrait.
 constexpr long sideThreshold = 25;
 constexpr long topThreshold = 21;
 constexpr double faceThreshold = 300.0;
 
-long tiltInDegrees(double component, double otherA, double otherB)
+static long tiltInDegrees(double component, double otherA, double otherB)
 {
     const double tilt = std::atan(component / std::sqrt(otherA * otherA + otherB * otherB));
-    return std::isfinite(tilt) ? std::lround(tilt * degreesPerRadian) : 0; // free fall: no tilt
+    return std::isfinite(tilt) ? std::lround(qRadiansToDegrees(tilt)) : 0; // free fall: no tilt
 }
 
-QOrientationReading::Orientation tiltOf(double x, double y, double z)
+static QOrientationReading::Orientation tiltOf(double x, double y, double z)
 {
     const long side = tiltInDegrees(x, y, z);
     if (std::abs(side) > sideThreshold)
@@ -32,15 +33,13 @@ QOrientationReading::Orientation tiltOf(double x, double y, double z)
     return QOrientationReading::Undefined;
 }
 
-} // namespace
-
 OrientationModel::OrientationModel(QObject *parent)
     : SensorModel(parent)
 {}
 
 QString OrientationModel::name() const
 {
-    return QStringLiteral("orientation");
+    return u"orientation"_s;
 }
 
 void OrientationModel::setDefaultValues()

@@ -1,5 +1,7 @@
 #include "proximitymodel.h"
 
+using namespace Qt::StringLiterals;
+
 namespace EmulationManagement::Internal {
 
 ProximityModel::ProximityModel(QObject *parent)
@@ -8,7 +10,7 @@ ProximityModel::ProximityModel(QObject *parent)
 
 QString ProximityModel::name() const
 {
-    return QStringLiteral("proximity");
+    return u"proximity"_s;
 }
 
 void ProximityModel::setDefaultValues()

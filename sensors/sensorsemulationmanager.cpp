@@ -1,51 +1,30 @@
 #include "sensorsemulationmanager.h"
 
+#include <link/argumentencoding.h>
 #include <link/remotedbusinvokerservice.h>
 
 #include <QStringTokenizer>
+#include <QtMath>
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace EmulationManagement::Internal {
 
-namespace {
-
-constexpr double radiansPerDegree = 0.017453292519943295;
 // Horizontal flux density of the readings that stand for an azimuth, in tesla.
 constexpr double azimuthFluxDensity = 4.358898943540674e-05;
 // Accelerations that stand for an orientation, in thousandths of g.
 constexpr int tiltedAcceleration = 100;
 constexpr int facingAcceleration = 300;
 
-QString stringArgument(const QString &value)
-{
-    return QStringLiteral("string:%1").arg(value);
-}
-
 /// The first of the arguments that a reply joins with "|", without a list of all of them.
-QString firstArgument(const QString &arguments)
+static QString firstArgument(const QString &arguments)
 {
     for (const QStringView argument : qTokenize(arguments, u'|', Qt::SkipEmptyParts))
         return argument.toString();
     return {};
 }
-
-QString intArgument(int value)
-{
-    return QStringLiteral("int32:%1").arg(value);
-}
-
-QString doubleArgument(double value)
-{
-    return QStringLiteral("double:%1").arg(value);
-}
-
-QString doubleArguments(double x, double y, double z)
-{
-    return QStringLiteral("double:%1 double:%2 double:%3").arg(x).arg(y).arg(z);
-}
-
-} // namespace
 
 SensorsEmulationManager::SensorsEmulationManager(QObject *parent)
     : EmulationManager(parent)
@@ -84,17 +63,17 @@ SensorsEmulationManager::~SensorsEmulationManager()
 
 QString SensorsEmulationManager::bus() const
 {
-    return QStringLiteral("system");
+    return u"system"_s;
 }
 
 QString SensorsEmulationManager::dbusService() const
 {
-    return QStringLiteral("org.vexa.SensorfwEmulationManagement");
+    return u"org.vexa.SensorfwEmulationManagement"_s;
 }
 
 QString SensorsEmulationManager::dbusObject() const
 {
-    return QStringLiteral("/org/vexa/SensorfwEmulationManagement");
+    return u"/org/vexa/SensorfwEmulationManagement"_s;
 }
 
 QString SensorsEmulationManager::dbusInterface() const
@@ -201,17 +180,17 @@ void SensorsEmulationManager::makeAllSensorsAvailable()
 
 void SensorsEmulationManager::enableSensor(const QString &sensorName)
 {
-    callDBusMethod(QStringLiteral("enableSensor"), stringArgument(sensorName));
+    callDBusMethod(u"enableSensor"_s, stringArgument(sensorName));
 }
 
 void SensorsEmulationManager::disableSensor(const QString &sensorName)
 {
-    callDBusMethod(QStringLiteral("disableSensor"), stringArgument(sensorName));
+    callDBusMethod(u"disableSensor"_s, stringArgument(sensorName));
 }
 
 void SensorsEmulationManager::checkSensorState(const QString &sensorName)
 {
-    callDBusMethod(QStringLiteral("enabled"), stringArgument(sensorName));
+    callDBusMethod(u"enabled"_s, stringArgument(sensorName));
 }
 
 void SensorsEmulationManager::setSensorEnabled(const QString &name, bool enabled)
@@ -231,8 +210,8 @@ void SensorsEmulationManager::noteSensorState(const QString &name, bool enabled)
 
 void SensorsEmulationManager::setAccelerometerValues(int x, int y, int z)
 {
-    callDBusMethod(QStringLiteral("setAccelerometerValues"),
-                   QStringLiteral("int32:%1 int32:%2 int32:%3").arg(x).arg(y).arg(z));
+    callDBusMethod(u"setAccelerometerValues"_s,
+                   joinArguments({int32Argument(x), int32Argument(y), int32Argument(z)}));
     m_accelerometer->setValues(x, y, z);
     updateAzimuth();
     updateOrientation();
@@ -240,7 +219,7 @@ void SensorsEmulationManager::setAccelerometerValues(int x, int y, int z)
 
 void SensorsEmulationManager::setAccelerometerX(int x)
 {
-    callDBusMethod(QStringLiteral("setAccelerometerX"), intArgument(x));
+    callDBusMethod(u"setAccelerometerX"_s, int32Argument(x));
     m_accelerometer->setX(x);
     updateAzimuth();
     updateOrientation();
@@ -248,7 +227,7 @@ void SensorsEmulationManager::setAccelerometerX(int x)
 
 void SensorsEmulationManager::setAccelerometerY(int y)
 {
-    callDBusMethod(QStringLiteral("setAccelerometerY"), intArgument(y));
+    callDBusMethod(u"setAccelerometerY"_s, int32Argument(y));
     m_accelerometer->setY(y);
     updateAzimuth();
     updateOrientation();
@@ -256,7 +235,7 @@ void SensorsEmulationManager::setAccelerometerY(int y)
 
 void SensorsEmulationManager::setAccelerometerZ(int z)
 {
-    callDBusMethod(QStringLiteral("setAccelerometerZ"), intArgument(z));
+    callDBusMethod(u"setAccelerometerZ"_s, int32Argument(z));
     m_accelerometer->setZ(z);
     updateAzimuth();
     updateOrientation();
@@ -264,7 +243,7 @@ void SensorsEmulationManager::setAccelerometerZ(int z)
 
 void SensorsEmulationManager::setAlsLuxValue(int lux)
 {
-    callDBusMethod(QStringLiteral("setAlsValue"), intArgument(lux));
+    callDBusMethod(u"setAlsValue"_s, int32Argument(lux));
     m_als->setLux(lux);
 }
 
@@ -275,60 +254,61 @@ void SensorsEmulationManager::setAlsLightLevel(AlsModel::LightLevel level)
 
 void SensorsEmulationManager::setGyroscopeValues(double x, double y, double z)
 {
-    callDBusMethod(QStringLiteral("setGyroscopeValues"), doubleArguments(x, y, z));
+    callDBusMethod(u"setGyroscopeValues"_s,
+                   joinArguments({doubleArgument(x), doubleArgument(y), doubleArgument(z)}));
     m_gyroscope->setValues(x, y, z);
 }
 
 void SensorsEmulationManager::setGyroscopeX(double x)
 {
-    callDBusMethod(QStringLiteral("setGyroscopeX"), doubleArgument(x));
+    callDBusMethod(u"setGyroscopeX"_s, doubleArgument(x));
     m_gyroscope->setX(x);
 }
 
 void SensorsEmulationManager::setGyroscopeY(double y)
 {
-    callDBusMethod(QStringLiteral("setGyroscopeY"), doubleArgument(y));
+    callDBusMethod(u"setGyroscopeY"_s, doubleArgument(y));
     m_gyroscope->setY(y);
 }
 
 void SensorsEmulationManager::setGyroscopeZ(double z)
 {
-    callDBusMethod(QStringLiteral("setGyroscopeZ"), doubleArgument(z));
+    callDBusMethod(u"setGyroscopeZ"_s, doubleArgument(z));
     m_gyroscope->setZ(z);
 }
 
 void SensorsEmulationManager::setMagnetometerValues(double x, double y, double z)
 {
-    callDBusMethod(QStringLiteral("setMagnetometerValues"), doubleArguments(x, y, z));
+    callDBusMethod(u"setMagnetometerValues"_s,
+                   joinArguments({doubleArgument(x), doubleArgument(y), doubleArgument(z)}));
     m_magnetometer->setValues(x, y, z);
     updateAzimuth();
 }
 
 void SensorsEmulationManager::setMagnetometerX(double x)
 {
-    callDBusMethod(QStringLiteral("setMagnetometerX"), doubleArgument(x));
+    callDBusMethod(u"setMagnetometerX"_s, doubleArgument(x));
     m_magnetometer->setX(x);
     updateAzimuth();
 }
 
 void SensorsEmulationManager::setMagnetometerY(double y)
 {
-    callDBusMethod(QStringLiteral("setMagnetometerY"), doubleArgument(y));
+    callDBusMethod(u"setMagnetometerY"_s, doubleArgument(y));
     m_magnetometer->setY(y);
     updateAzimuth();
 }
 
 void SensorsEmulationManager::setMagnetometerZ(double z)
 {
-    callDBusMethod(QStringLiteral("setMagnetometerZ"), doubleArgument(z));
+    callDBusMethod(u"setMagnetometerZ"_s, doubleArgument(z));
     m_magnetometer->setZ(z);
     updateAzimuth();
 }
 
 void SensorsEmulationManager::setMagnetometerCalibrationLevel(int calibrationLevel)
 {
-    callDBusMethod(QStringLiteral("setMagnetometerCalibrationLevel"),
-                   intArgument(calibrationLevel));
+    callDBusMethod(u"setMagnetometerCalibrationLevel"_s, int32Argument(calibrationLevel));
     m_magnetometer->setCalibrationLevel(calibrationLevel);
     m_compass->setCalibrationLevel(calibrationLevel);
 }
@@ -357,7 +337,7 @@ void SensorsEmulationManager::setCompassAzimuth(int azimuth)
 {
     m_compass->setAzimuth(azimuth);
     setAccelerometerValues(0, 0, AccelerometerModel::defaultZValue);
-    const double angle = -azimuth * radiansPerDegree;
+    const double angle = qDegreesToRadians(double(-azimuth));
     setMagnetometerValues(std::sin(angle) * azimuthFluxDensity,
                           std::cos(angle) * azimuthFluxDensity, 0.0);
 }
@@ -390,7 +370,7 @@ void SensorsEmulationManager::setOrientation(int orientation)
 
 void SensorsEmulationManager::setProximitySensorReflectanceValue(int reflectance)
 {
-    callDBusMethod(QStringLiteral("setProximitySensorValue"), intArgument(reflectance));
+    callDBusMethod(u"setProximitySensorValue"_s, int32Argument(reflectance));
     m_proximity->setReflectance(reflectance);
 }
 
@@ -402,7 +382,7 @@ void SensorsEmulationManager::setProximitySensorNearValue(bool near)
 
 void SensorsEmulationManager::setTapSensorValue(TapModel::TapDirection tapDirection)
 {
-    callDBusMethod(QStringLiteral("setTapSensorValue"), intArgument(tapDirection));
+    callDBusMethod(u"setTapSensorValue"_s, int32Argument(tapDirection));
     m_tap->setTapDirection(tapDirection);
 }
 

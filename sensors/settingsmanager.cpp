@@ -13,42 +13,43 @@
 
 #include <QtNumeric>
 
+using namespace Qt::StringLiterals;
+
 namespace EmulationManagement::Internal {
 
-const QString SettingsManager::groupName = QStringLiteral("emulationmanagement");
+const QString SettingsManager::groupName = u"emulationmanagement"_s;
 
-const QString SettingsManager::accelerometerXKey = QStringLiteral("accelerometer_x");
-const QString SettingsManager::accelerometerYKey = QStringLiteral("accelerometer_y");
-const QString SettingsManager::accelerometerZKey = QStringLiteral("accelerometer_z");
-const QString SettingsManager::alsKey = QStringLiteral("als");
-const QString SettingsManager::gyroscopeXKey = QStringLiteral("gyroscope_x");
-const QString SettingsManager::gyroscopeYKey = QStringLiteral("gyroscope_y");
-const QString SettingsManager::gyroscopeZKey = QStringLiteral("gyroscope_z");
-const QString SettingsManager::magneticFieldXKey = QStringLiteral("magnetic_field_x");
-const QString SettingsManager::magneticFieldYKey = QStringLiteral("magnetic_field_y");
-const QString SettingsManager::magneticFieldZKey = QStringLiteral("magnetic_field_z");
-const QString SettingsManager::magnetometerXKey = QStringLiteral("magnetometer_x");
-const QString SettingsManager::magnetometerYKey = QStringLiteral("magnetometer_y");
-const QString SettingsManager::magnetometerZKey = QStringLiteral("magnetometer_z");
-const QString SettingsManager::magnetometerCalibLevelKey
-    = QStringLiteral("magnetometer_calib_level");
-const QString SettingsManager::proximityReflectanceKey = QStringLiteral("proximity_reflectance");
-const QString SettingsManager::tapKey = QStringLiteral("tap");
-const QString SettingsManager::gpsLatitudeKey = QStringLiteral("gps_latitude");
-const QString SettingsManager::gpsLongitudeKey = QStringLiteral("gps_longitude");
-const QString SettingsManager::gpsAltitudeKey = QStringLiteral("gps_altitude");
-const QString SettingsManager::modelRotationXKey = QStringLiteral("model_rotation_x");
-const QString SettingsManager::modelRotationYKey = QStringLiteral("model_rotation_y");
-const QString SettingsManager::modelRotationZKey = QStringLiteral("model_rotation_z");
-const QString SettingsManager::modelPositionXKey = QStringLiteral("model_position_x");
-const QString SettingsManager::modelPositionYKey = QStringLiteral("model_position_y");
-const QString SettingsManager::modelPositionZKey = QStringLiteral("model_position_z");
+const QString SettingsManager::accelerometerXKey = u"accelerometer_x"_s;
+const QString SettingsManager::accelerometerYKey = u"accelerometer_y"_s;
+const QString SettingsManager::accelerometerZKey = u"accelerometer_z"_s;
+const QString SettingsManager::alsKey = u"als"_s;
+const QString SettingsManager::gyroscopeXKey = u"gyroscope_x"_s;
+const QString SettingsManager::gyroscopeYKey = u"gyroscope_y"_s;
+const QString SettingsManager::gyroscopeZKey = u"gyroscope_z"_s;
+const QString SettingsManager::magneticFieldXKey = u"magnetic_field_x"_s;
+const QString SettingsManager::magneticFieldYKey = u"magnetic_field_y"_s;
+const QString SettingsManager::magneticFieldZKey = u"magnetic_field_z"_s;
+const QString SettingsManager::magnetometerXKey = u"magnetometer_x"_s;
+const QString SettingsManager::magnetometerYKey = u"magnetometer_y"_s;
+const QString SettingsManager::magnetometerZKey = u"magnetometer_z"_s;
+const QString SettingsManager::magnetometerCalibLevelKey = u"magnetometer_calib_level"_s;
+const QString SettingsManager::proximityReflectanceKey = u"proximity_reflectance"_s;
+const QString SettingsManager::tapKey = u"tap"_s;
+const QString SettingsManager::gpsLatitudeKey = u"gps_latitude"_s;
+const QString SettingsManager::gpsLongitudeKey = u"gps_longitude"_s;
+const QString SettingsManager::gpsAltitudeKey = u"gps_altitude"_s;
+const QString SettingsManager::modelRotationXKey = u"model_rotation_x"_s;
+const QString SettingsManager::modelRotationYKey = u"model_rotation_y"_s;
+const QString SettingsManager::modelRotationZKey = u"model_rotation_z"_s;
+const QString SettingsManager::modelPositionXKey = u"model_position_x"_s;
+const QString SettingsManager::modelPositionYKey = u"model_position_y"_s;
+const QString SettingsManager::modelPositionZKey = u"model_position_z"_s;
 const QString SettingsManager::doNotShowAgainResetSensorsDialogKey
-    = QStringLiteral("do_not_show_again_reset_sensors_dialog");
+    = u"do_not_show_again_reset_sensors_dialog"_s;
 
 static Utils::Key groupedKey(const QString &key)
 {
-    return Utils::keyFromString(QStringLiteral("%1/%2").arg(SettingsManager::groupName, key));
+    return Utils::keyFromString(u"%1/%2"_s.arg(SettingsManager::groupName, key));
 }
 
 SettingsManager::SettingsManager(QObject *parent)

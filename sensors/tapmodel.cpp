@@ -2,6 +2,8 @@
 
 #include <QMetaEnum>
 
+using namespace Qt::StringLiterals;
+
 namespace EmulationManagement::Internal {
 
 TapModel::TapModel(QObject *parent)
@@ -15,7 +17,7 @@ bool TapModel::isTapDirection(int value)
 
 QString TapModel::name() const
 {
-    return QStringLiteral("tap");
+    return u"tap"_s;
 }
 
 void TapModel::setDefaultValues()
