@@ -1,14 +1,16 @@
 #include "emulationmanagementpackageschecker.h"
 
+using namespace Qt::StringLiterals;
+
 const QString EmulationManagementPackagesChecker::sensorfwPluginsPackageName
-    = QStringLiteral("sensorfw-qt5-emulator-plugins");
+    = u"sensorfw-qt5-emulator-plugins"_s;
 const QString EmulationManagementPackagesChecker::rdbusinvokerPackageName
-    = QStringLiteral("remote-dbus-invoker");
+    = u"remote-dbus-invoker"_s;
 const QString EmulationManagementPackagesChecker::geoclueEmulatorPackageName
-    = QStringLiteral("geoclue-emulator");
+    = u"geoclue-emulator"_s;
 const QString EmulationManagementPackagesChecker::gtsreamerEmulatorPackageName
-    = QStringLiteral("gstreamer-emulator");
-const QString EmulationManagementPackagesChecker::searchPackagesCommand = QStringLiteral("rpm -qa");
+    = u"gstreamer-emulator"_s;
+const QString EmulationManagementPackagesChecker::searchPackagesCommand = u"rpm -qa"_s;
 
 EmulationManagementPackagesChecker::EmulationManagementPackagesChecker(QObject *parent)
     : QObject(parent)

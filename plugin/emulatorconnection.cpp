@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 namespace EmulationManagement::Internal {
 
 namespace {
@@ -27,10 +29,10 @@ struct PortForwarding
 
 QList<PortForwarding> portForwardings()
 {
-    return {{RemoteDBusInvokerService::portForwardingRule, QStringLiteral("tcp"),
+    return {{RemoteDBusInvokerService::portForwardingRule, u"tcp"_s,
              RemoteDBusInvokerService::hostTcpPort, RemoteDBusInvokerService::emulatorTcpPort},
-            {CameraEmulationManager::portForwardingRule, QStringLiteral("udp"),
-             CameraEmulationManager::udpPort, CameraEmulationManager::udpPort}};
+            {CameraEmulationManager::portForwardingRule, u"udp"_s, CameraEmulationManager::udpPort,
+             CameraEmulationManager::udpPort}};
 }
 
 } // namespace

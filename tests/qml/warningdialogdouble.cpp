@@ -5,11 +5,13 @@
 #include <QQmlContext>
 #include <QtQml>
 
+using namespace Qt::StringLiterals;
+
 namespace EmulationManagement::Internal {
 
 void WarningDialogDouble::show()
 {
-    auto *host = qmlContext(this)->contextProperty(QStringLiteral("host")).value<Host *>();
+    auto *host = qmlContext(this)->contextProperty(u"host"_s).value<Host *>();
     const QMessageBox::StandardButton answer = host->ask(text());
     if (answer != QMessageBox::NoButton && !standardButtons().testFlag(answer))
         qWarning() << "The dialog does not offer" << answer;
