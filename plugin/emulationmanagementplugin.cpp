@@ -35,8 +35,7 @@ using namespace Qt::StringLiterals;
 namespace EmulationManagement::Internal {
 
 constexpr char qmlModule[] = "org.plova";
-constexpr int qmlMajorVersion = 1;
-constexpr int qmlMinorVersion = 0;
+constexpr int qmlMajorVersion = 1; // the pages import 1.0
 
 bool EmulationManagementPlugin::initialize(const QStringList &arguments, QString *errorString)
 {
@@ -47,8 +46,8 @@ bool EmulationManagementPlugin::initialize(const QStringList &arguments, QString
     registerQmlTypes();
     setupContextProperties();
     initEmulatorModesSensorsConfigurations();
-    // The GPS manager listens to the invoker twice: it sets the emulator up a second time on each
-    // connection and handles every reply twice.
+    // The GPS manager is connected to the invoker a second time: on each connection it sends its
+    // state twice, and it handles every reply twice.
     m_gpsEmulationManager.setRdbusinvoker(&m_remoteDBusInvokerService);
     setupView();
     setupMenu();
@@ -68,7 +67,7 @@ void EmulationManagementPlugin::extensionsInitialized()
             &EmulationManagementPlugin::setUpEmulatorConnection);
     connect(m_sdk, &Ravik::Sdk::aboutToRemoveEmulator, this,
             &EmulationManagementPlugin::setUpEmulatorConnection);
-    // Once the emulator is out of the list, another one that is left takes its place.
+    // Queued: runs once the removed emulator has left the list, and takes the next one.
     connect(m_sdk, &Ravik::Sdk::aboutToRemoveEmulator, this,
             &EmulationManagementPlugin::setUpEmulatorConnection, Qt::QueuedConnection);
     connect(m_sdk, &Ravik::Sdk::deviceModelsChanged, this,
@@ -84,7 +83,7 @@ ExtensionSystem::IPlugin::ShutdownFlag EmulationManagementPlugin::aboutToShutdow
 void EmulationManagementPlugin::prepareShutdown()
 {
     abandonOpening();
-    // The emulator may end with the IDE, which is no news then.
+    // The emulator may stop together with the IDE: do not report the lost connection then.
     disconnect(&m_remoteDBusInvokerService, nullptr, this, nullptr);
     m_messageBoxes.clear();
     m_emulationManagementView.close();
@@ -110,26 +109,13 @@ void EmulationManagementPlugin::registerQmlTypes()
 {
     qputenv("QML_XHR_ALLOW_FILE_READ", "1");
 
-    qmlRegisterType<WarningDialog>(qmlModule, qmlMajorVersion, qmlMinorVersion, "WarningDialog");
-    qmlRegisterType<SettingsManager>(qmlModule, qmlMajorVersion, qmlMinorVersion,
-                                     "SettingsManager");
-    qmlRegisterType<SensorsEmulationManager>(qmlModule, qmlMajorVersion, qmlMinorVersion,
-                                             "SensorsEmulationManager");
-    qmlRegisterType<TextFieldDoubleValidator>(qmlModule, qmlMajorVersion, qmlMinorVersion,
-                                              "TextFieldDoubleValidator");
-    // The pages name these types; their instances are context properties.
-    qmlRegisterUncreatableType<GPSEmulationManager>(qmlModule, qmlMajorVersion, qmlMinorVersion,
-                                                    "GPSEmulationManager",
-                                                    u"gpsEmulationManager is the only instance"_s);
-    qmlRegisterUncreatableType<CameraEmulationManager>(
-        qmlModule, qmlMajorVersion, qmlMinorVersion, "CameraEmulationManager",
-        u"cameraEmulationManager is the only instance"_s);
+    // The classes' headers name them (QML_ELEMENT) and say which of them QML cannot create.
+    qmlRegisterTypesAndRevisions<WarningDialog, SettingsManager, TextFieldDoubleValidator,
+                                 SensorsEmulationManager, GPSEmulationManager,
+                                 CameraEmulationManager, AlsModel, TapModel>(qmlModule,
+                                                                             qmlMajorVersion);
     qRegisterMetaType<AlsModel::LightLevel>("AlsModel::LightLevel");
     qRegisterMetaType<TapModel::TapDirection>("TapModel::TapDirection");
-    qmlRegisterUncreatableType<AlsModel>(qmlModule, qmlMajorVersion, qmlMinorVersion, "AlsModel",
-                                         u"Could not create the AlsModel instance"_s);
-    qmlRegisterUncreatableType<TapModel>(qmlModule, qmlMajorVersion, qmlMinorVersion, "TapModel",
-                                         u"Could not create the TapModel instance"_s);
 }
 
 void EmulationManagementPlugin::setupContextProperties()
@@ -159,7 +145,7 @@ void EmulationManagementPlugin::setupView()
     QQmlContext *context = m_emulationManagementView.rootContext();
     context->setContextProperty(u"cameraEmulationManager"_s, &m_cameraEmulationManager);
 
-    // Where the platform has no dialogs of its own, those of the style of the controls are chosen.
+    // On platforms without native dialogs, this selects the dialogs of the controls' style.
     QQmlEngine *engine = m_emulationManagementView.engine();
     new QQmlFileSelector(engine, engine);
 
@@ -172,7 +158,7 @@ void EmulationManagementPlugin::setupView()
         if (!visible)
             handleViewHidden();
     });
-    // The IDE quits when its last window has closed, and this one counts.
+    // The IDE quits when its last window closes, so this window must close first.
     connect(Core::ICore::instance(), &Core::ICore::coreAboutToClose, this,
             &EmulationManagementPlugin::prepareShutdown);
 }
@@ -186,13 +172,14 @@ void EmulationManagementPlugin::setupMenu()
     connect(action, &QAction::triggered, this,
             &EmulationManagementPlugin::showEmulationManagementView);
 
-    // made by the SDK's main plugin when it came first, and titled by it
+    // Returns the existing menu if the SDK's main plugin has created it; that plugin sets its
+    // title.
     Core::ActionContainer *sdkMenu = Core::ActionManager::createMenu(Constants::sdkToolsMenuId);
     sdkMenu->addAction(command);
     Core::ActionManager::actionContainer(Core::Constants::M_TOOLS)->addMenu(sdkMenu);
 }
 
-/// Which sensors the device model of this file has, by their names.
+/// Returns whether the device model of this file has each sensor, by sensor name.
 static QVariantMap readSensors(QSettings &file)
 {
     QVariantMap sensors;
@@ -230,11 +217,11 @@ void EmulationManagementPlugin::showMessageBox(const QString &text, const QStrin
     m_messageBoxes.add(box);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setWindowModality(Qt::ApplicationModal);
-    box->setTextFormat(Qt::PlainText); // it may hold the emulator's name
+    box->setTextFormat(Qt::PlainText); // the emulator's name may contain markup
     box->setInformativeText(informativeText);
     translateButtons(box);
     connect(box, &QDialog::finished, this, [this](int answer) {
-        // The box has raised the IDE above the window. One that is minimised stays so.
+        // The box raised the IDE above the window: bring it back, unless it is minimised.
         if (m_emulationManagementView.isVisible()
             && !(m_emulationManagementView.windowStates() & Qt::WindowMinimized)) {
             m_emulationManagementView.bringToFront();
@@ -242,7 +229,7 @@ void EmulationManagementPlugin::showMessageBox(const QString &text, const QStrin
         if (answer == QMessageBox::Retry)
             showEmulationManagementView();
     });
-    // The caller may be in the middle of somebody else's signal.
+    // The caller may be inside another object's signal: show the box from the event loop.
     QMetaObject::invokeMethod(box, &QWidget::show, Qt::QueuedConnection);
 }
 

@@ -7,7 +7,7 @@
 namespace EmulationManagement::Internal {
 
 /// Ambient light in lux.
-class AlsModel final : public SensorModel
+class AlsModel : public SensorModel
 {
     Q_OBJECT
     QML_ELEMENT

@@ -7,7 +7,7 @@
 namespace EmulationManagement::Internal {
 
 /// The direction from which the device was last tapped.
-class TapModel final : public SensorModel
+class TapModel : public SensorModel
 {
     Q_OBJECT
     QML_ELEMENT

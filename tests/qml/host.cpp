@@ -22,7 +22,7 @@ void Host::setContextProperties(QQmlContext *context)
 {
     context->setContextProperties({
         {u"host"_s, QVariant::fromValue(this)},
-        {u"mediaUrl"_s, QStringLiteral(MEDIA_URL)},
+        {u"mediaUrl"_s, QString::fromUtf8(MEDIA_URL)},
         {u"gpsEmulationManager"_s, QVariant::fromValue(&m_gpsEmulationManager)},
         {u"sensorsEmulationManager"_s, QVariant::fromValue(&m_sensorsEmulationManager)},
         {u"smartphone3DModelConfig"_s, QVariant::fromValue(&m_smartphone3DModelConfig)},

@@ -26,17 +26,9 @@ public Q_SLOTS:
         QLocale::setDefault(QLocale(QLocale::German));
         m_settings = std::make_unique<TestSupport::IdeSettings>();
 
-        constexpr char qmlModule[] = "org.plova";
-        qmlRegisterType<WarningDialogDouble>(qmlModule, 1, 0, "WarningDialog");
-        qmlRegisterType<SettingsManager>(qmlModule, 1, 0, "SettingsManager");
-        qmlRegisterType<TextFieldDoubleValidator>(qmlModule, 1, 0, "TextFieldDoubleValidator");
-        qmlRegisterUncreatableType<GPSEmulationManager>(qmlModule, 1, 0, "GPSEmulationManager",
-                                                        QString());
-        qmlRegisterUncreatableType<CameraEmulationManager>(qmlModule, 1, 0,
-                                                           "CameraEmulationManager", QString());
-        qmlRegisterType<SensorsEmulationManager>(qmlModule, 1, 0, "SensorsEmulationManager");
-        qmlRegisterUncreatableType<AlsModel>(qmlModule, 1, 0, "AlsModel", QString());
-        qmlRegisterUncreatableType<TapModel>(qmlModule, 1, 0, "TapModel", QString());
+        qmlRegisterTypesAndRevisions<WarningDialogDouble, SettingsManager, TextFieldDoubleValidator,
+                                     SensorsEmulationManager, GPSEmulationManager,
+                                     CameraEmulationManager, AlsModel, TapModel>("org.plova", 1);
     }
 
     void qmlEngineAvailable(QQmlEngine *engine)

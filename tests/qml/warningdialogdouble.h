@@ -8,6 +8,7 @@ namespace EmulationManagement::Internal {
 class WarningDialogDouble : public WarningDialog
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(WarningDialog)
 
 public:
     using WarningDialog::WarningDialog;
