@@ -31,7 +31,7 @@ void EmulationManager::setRdbusinvoker(RemoteDBusInvokerService *invoker)
 
 void EmulationManager::processReplyFromEmulator(const QString &reply)
 {
-    // counted first: fields by the million would take many times the memory of the line
+    // Count before splitting: millions of fields would take many times the memory of the line.
     if (reply.count(u':') != replyFieldCount - 1) {
         Q_EMIT replyFromEmulatorReceived(reply);
         return;

@@ -11,9 +11,9 @@ class RemoteDBusInvokerService;
 /*!
  * Base of the managers that drive a D-Bus service inside the emulator.
  *
- * A subclass names its service; the base sends its calls through the invoker and turns every
- * reply line into a success or an error text for the pages. Each manager gets all replies,
- * whichever manager called, and must ignore those that are not its own.
+ * A subclass names its service. The base sends calls through the invoker and turns each reply line
+ * into "OK" or an error text for the pages. Every manager receives the replies to the calls of all
+ * managers, and must ignore replies to methods of other services.
  */
 class EmulationManager : public QObject
 {
@@ -39,33 +39,32 @@ public:
     /*!
      * Sets the invoker, which must outlive this object, and listens to it.
      *
-     * Each call listens once more, also to an invoker that was set before: every reply and every
-     * connection is then handled as often as the invoker was set.
+     * Each call adds connections, even if the invoker is the same: every reply and every new
+     * connection is handled as often as an invoker was set.
      */
     void setRdbusinvoker(RemoteDBusInvokerService *invoker);
 
     /*!
      * Handles the reply line "method:arguments:returned value:error name:error text".
      *
-     * With an empty error name the subclass gets the fields and the pages get "OK". Otherwise the
-     * pages get "error name error text". A line of more or fewer fields goes to the pages as it is.
+     * If the error name is empty, the subclass gets the fields and the pages get "OK". Otherwise
+     * the pages get "error name error text". A line with another number of fields goes to the pages
+     * unchanged.
      */
     void processReplyFromEmulator(const QString &reply);
 
 Q_SIGNALS:
     void rdbusinvokerChanged();
     void emulatorConnected();
-    /// "OK", or what the user should read.
+    /// "OK", or an error text for the user.
     void replyFromEmulatorReceived(const QString &reply);
 
 protected:
     /*!
      * Calls \a method of the subclass's service.
      *
-     * \a arguments are tokens "type:value" separated by single spaces, with the types int32,
-     * double, boolean (1 or 0), string and "array:array:double:" (points separated by ";", their
-     * numbers by ","). No value may hold a space: the relay splits the arguments on spaces.
-     * An invoker must have been set.
+     * \a arguments are written by the functions of argumentencoding.h, or empty. An invoker must
+     * have been set.
      */
     void callDBusMethod(const QString &method, const QString &arguments);
 

@@ -17,7 +17,7 @@ RemoteDBusInvokerService::RemoteDBusInvokerService(QObject *parent)
 
 RemoteDBusInvokerService::~RemoteDBusInvokerService()
 {
-    // a socket that goes reports its end, which would open it again
+    // A socket that is destroyed emits disconnected(), which would open it again.
     if (m_webSocket)
         m_webSocket->disconnect(this);
 }
@@ -48,7 +48,7 @@ void RemoteDBusInvokerService::connectToEmulator()
 
 void RemoteDBusInvokerService::handleDisconnected()
 {
-    // A relay that takes connections only to close them is no better than one that refuses them.
+    // Wait before reconnecting to a relay that accepts connections only to close them.
     const bool wasUsable
         = m_sinceConnected.isValid() && m_sinceConnected.durationElapsed() >= retryInterval;
     m_sinceConnected.invalidate();
@@ -65,14 +65,14 @@ void RemoteDBusInvokerService::callDBusMethod(const QString &bus, const QString 
 {
     if (!m_webSocket)
         return;
-    // Filled one after the other, the arguments last: nothing in them is taken for a placeholder.
+    // Fill the arguments last: a "%1" in them must not be taken for a placeholder.
     m_webSocket->sendTextMessage(u"%1 %2 %3 %4 %5 %6"_s.arg(bus)
                                      .arg(service)
                                      .arg(objectPath)
                                      .arg(interface)
                                      .arg(method)
                                      .arg(arguments));
-    // The call is under way while the pages follow the models.
+    // Send now: the pages update before the event loop would flush the socket.
     m_webSocket->flush();
 }
 

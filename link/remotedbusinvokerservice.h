@@ -13,12 +13,12 @@ namespace EmulationManagement::Internal {
 /*!
  * The one link to the services inside the emulator.
  *
- * A relay inside the emulator performs D-Bus calls: each text frame of a WebSocket (RFC 6455) is
- * one request, each text frame that comes back one reply. Replies carry no request identifier.
+ * A relay inside the emulator performs D-Bus calls. Each text frame (RFC 6455) that is sent is one
+ * request, each text frame that arrives is one reply. Replies carry no request identifier.
  *
- * Once opened, the link reconnects for as long as the object lives: at once when a connection was
- * lost, and then every retryInterval. Without a pause, a loopback that refuses connections would be
- * asked tens of thousands of times a second for as long as the emulator is off.
+ * Once opened, the link reconnects as long as the object lives: at once after a connection is lost,
+ * then every retryInterval. The interval limits the load while the emulator is off, when each
+ * attempt fails within microseconds.
  */
 class RemoteDBusInvokerService : public QObject
 {
@@ -29,12 +29,13 @@ public:
     static constexpr unsigned short hostTcpPort = 5454;
     /// Emulator end of the forwarded TCP port, where the relay listens.
     static constexpr unsigned short emulatorTcpPort = 1234;
-    /// Bytes of the longest reply; a longer one ends the connection. A reply repeats the arguments
-    /// of its call: this holds the longest track, see maximumPoints of GpsManagementPage.qml.
+    /// Length of the longest reply in bytes; a longer one ends the connection. A reply repeats the
+    /// arguments of its call, so this has room for the longest track (maximumPoints of
+    /// GpsManagementPage.qml).
     static constexpr quint64 maxReplySize = 64 << 20;
-    /// Name of the SDK's port forwarding rule for the two.
+    /// Name of the SDK's port forwarding rule for these two ports.
     static const QString portForwardingRule;
-    /// From an attempt to connect that failed until the next one.
+    /// Time between a failed attempt to connect and the next one.
     static constexpr std::chrono::milliseconds retryInterval{100};
 
     explicit RemoteDBusInvokerService(QObject *parent = nullptr);
@@ -46,8 +47,8 @@ public:
     /*!
      * Sends "bus service objectPath interface method arguments" as one text frame.
      *
-     * \a arguments are "type:value" tokens separated by single spaces, or empty. The other texts
-     * must not hold spaces. While the link is down the call is dropped without a reply.
+     * \a arguments are tokens as argumentencoding.h writes them, or empty. The other texts must not
+     * contain spaces. While the link is down, the call is dropped without a reply.
      */
     void callDBusMethod(const QString &bus, const QString &service, const QString &objectPath,
                         const QString &interface, const QString &method, const QString &arguments);
@@ -56,15 +57,15 @@ Q_SIGNALS:
     void webSocketConnected();
     /// A connection was lost, or an attempt to connect failed.
     void webSocketDisconnected();
-    /// A reply line of the relay, as it came.
+    /// A reply line of the relay, unchanged.
     void replyReceived(const QString &reply);
 
 private:
     void createWebSocket();
     void handleDisconnected();
 
-    // Made with the first connection: the first socket of a process loads its TLS library, which
-    // takes longer than all else that the plugin does in C++ when the IDE starts.
+    // Created by the first connectToEmulator(): the first socket of a process loads the TLS
+    // library, which would be the largest part of the plugin's C++ start-up time.
     std::optional<QWebSocket> m_webSocket;
     QElapsedTimer m_sinceConnected; // invalid while there is no connection
     QTimer m_retryTimer;

@@ -32,7 +32,7 @@ void EmulationManagementPackagesChecker::checkPackages(
 
 void EmulationManagementPackagesChecker::handleSshProcessFinished(const QString &error)
 {
-    Q_UNUSED(error) // an emulator that cannot be reached has no package either
+    Q_UNUSED(error) // without an answer, all packages count as missing
     if (!m_runner.command().contains(searchPackagesCommand))
         return;
 

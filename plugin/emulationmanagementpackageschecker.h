@@ -10,8 +10,8 @@
 /*!
  * Finds out whether the emulator carries the packages that the plugin talks to.
  *
- * One SSH command lists the installed packages; a package counts as found when its name stands
- * anywhere in the list. An emulator that cannot be reached lists nothing.
+ * One SSH command lists the installed packages. A package counts as found if its name occurs
+ * anywhere in the output. If the emulator cannot be reached, all packages count as missing.
  */
 class EmulationManagementPackagesChecker : public QObject
 {
@@ -30,7 +30,8 @@ public:
     void checkPackages(const QSsh::SshConnectionParameters &parameters);
 
 Q_SIGNALS:
-    /// Both texts are empty when all packages were found; else \a detailedText lists the others.
+    /// Both texts are empty if all packages were found; otherwise \a detailedText lists the missing
+    /// ones.
     void checkFinished(const QString &message, const QString &detailedText);
 
 private:

@@ -49,15 +49,15 @@ public:
     ShutdownFlag aboutToShutdown() override;
 
     /*!
-     * Brings the window to the front, or tells the user what is in the way.
+     * Brings the window to the front, or tells the user why that is impossible.
      *
-     * Starts the emulator and checks its packages first where needed, which takes a while. Calls
-     * that come meanwhile do nothing.
+     * If needed, it first starts the emulator and checks its packages, which may take minutes.
+     * Calls during that time do nothing.
      */
     void showEmulationManagementView();
 
 Q_SIGNALS:
-    /// The emulator was found running with its ports forwarded, before anything is shown.
+    /// The emulator runs and its ports are forwarded. Emitted before the window is shown.
     void emulationManagementViewShowed();
 
 private:
@@ -71,14 +71,13 @@ private:
     /*!
      * Takes the SDK's first emulator and follows it.
      *
-     * Earlier connections stay, so after several changes of the SDK's lists a handler runs once
-     * for each of them.
+     * Earlier connections remain, so each handler runs as often as this was called.
      */
     void setUpEmulatorConnection();
-    /// Returns whether the window may be opened; adds missing forwardings to a machine that is off.
+    /// Returns whether the window may be opened. Adds missing forwardings if the machine is off.
     bool setUpPortForwarding();
-    /// Has the SDK start the machine, or wait until it is reachable if it runs; the package check
-    /// follows then.
+    /// Asks the SDK to start the machine, or to wait until a running one is reachable. The package
+    /// check follows.
     void startMachine(const std::function<void()> &handleFailure);
     void checkEmulationPackages();
     void handlePackagesChecked(const QString &message, const QString &detailedText);
@@ -88,7 +87,7 @@ private:
     void openView();
     void handleViewHidden();
     void handleConnectionLost();
-    /// Ends all that would keep the IDE from quitting, or show up while it quits.
+    /// Ends everything that would keep the IDE from quitting or appear while it quits.
     void prepareShutdown();
     void updateSensorsConfiguration(const QString &deviceModelName);
     /// Returns at once; the box is shown from the event loop.
@@ -109,7 +108,7 @@ private:
     QMap<QString, QVariant> m_deviceSensorsConfigurations;
     EmulationManagementPackagesChecker m_packagesChecker;
     OpeningProgress m_openingProgress{this};
-    QObjectCleanupHandler m_messageBoxes; // those that are open or about to be
+    QObjectCleanupHandler m_messageBoxes; // open, or queued to be shown
 };
 
 } // namespace EmulationManagement::Internal

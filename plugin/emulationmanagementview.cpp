@@ -15,7 +15,7 @@ namespace EmulationManagement::Internal {
 static constexpr char geometryKey[] = "emulationmanagement/window_geometry";
 static constexpr char maximizedKey[] = "emulationmanagement/window_maximized";
 
-/// The window manager gives the IDE's window the frame that this one will have.
+/// The frame of the IDE's main window: this window will get the same one.
 static QMargins expectedFrame()
 {
     const QWindow *mainWindow = Core::ICore::mainWindow()->windowHandle();
@@ -26,7 +26,7 @@ void EmulationManagementView::bringToFront()
 {
     if (!isVisible()) {
         restoreGeometry();
-        // QWindow::show() would make a maximised window normal
+        // setVisible() keeps a maximised window maximised; QWindow::show() does not.
         setVisible(true);
     } else if (windowStates() & Qt::WindowMinimized) {
         setWindowStates(windowStates() & ~Qt::WindowMinimized);
@@ -56,7 +56,7 @@ void EmulationManagementView::restoreGeometry()
                                     available.bottom() + 1 - geometry.height()));
         setGeometry(geometry);
     } else {
-        // the window manager finds a place
+        // The window manager chooses the position.
         resize(size().boundedTo(available.size()));
     }
     if (settings->value(maximizedKey).toBool())
@@ -68,7 +68,7 @@ void EmulationManagementView::saveGeometry() const
     Utils::QtcSettings *settings = Core::ICore::settings();
     const bool isMaximized = windowStates() & Qt::WindowMaximized;
     settings->setValueWithDefault(maximizedKey, isMaximized, false);
-    // The size before it was maximised is not known: the one saved earlier is kept.
+    // A maximised window does not know its normal size: keep the saved one.
     if (!isMaximized && settings->value(geometryKey).toRect() != geometry())
         settings->setValue(geometryKey, geometry());
 }

@@ -5,8 +5,8 @@
 namespace EmulationManagement::Internal {
 
 /*!
- * The tool window. It remembers its size and place, also over restarts of the IDE, and never opens
- * larger than the free area of the screen.
+ * The tool window. Its size and position survive restarts of the IDE. It never opens larger than
+ * the available area of the screen.
  */
 class EmulationManagementView final : public QQuickView
 {

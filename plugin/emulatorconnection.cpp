@@ -14,10 +14,10 @@ using namespace Qt::StringLiterals;
 
 namespace EmulationManagement::Internal {
 
-namespace {
+/// The machine's state once the emulator answers over SSH.
+static constexpr int reachableState = 4;
 
-/// The machine state in which the emulator can be reached.
-constexpr int reachableState = 4;
+namespace {
 
 struct PortForwarding
 {
@@ -27,15 +27,15 @@ struct PortForwarding
     unsigned short emulatorPort;
 };
 
-QList<PortForwarding> portForwardings()
+} // namespace
+
+static QList<PortForwarding> portForwardings()
 {
     return {{RemoteDBusInvokerService::portForwardingRule, u"tcp"_s,
              RemoteDBusInvokerService::hostTcpPort, RemoteDBusInvokerService::emulatorTcpPort},
             {CameraEmulationManager::portForwardingRule, u"udp"_s, CameraEmulationManager::udpPort,
              CameraEmulationManager::udpPort}};
 }
-
-} // namespace
 
 void EmulationManagementPlugin::setUpEmulatorConnection()
 {
@@ -61,7 +61,7 @@ void EmulationManagementPlugin::setUpEmulatorConnection()
         if (off) {
             m_emulationManagementView.hide();
             m_packagesChecked = false;
-            // A machine that was asked to start while it was stopping starts now.
+            // If a start was requested while the machine was stopping, the machine starts now.
             if (!m_startRequested)
                 abandonOpening();
         }
@@ -95,7 +95,7 @@ void EmulationManagementPlugin::showEmulationManagementView()
     }
     if (!m_packagesChecked)
         m_openingProgress.start();
-    // waits in an event loop, during which the emulator may be removed or the opening cancelled
+    // This runs an event loop, in which the emulator may be removed and the opening cancelled.
     if (!setUpPortForwarding() || !m_currentEmulator) {
         abandonOpening();
         return;
@@ -103,7 +103,7 @@ void EmulationManagementPlugin::showEmulationManagementView()
 
     if (!m_vmRunning) {
         if (m_openingProgress.isRunning())
-            startMachine([] {}); // the SDK tells why a start has failed
+            startMachine([] {}); // the SDK itself reports a failed start
         return;
     }
     Q_EMIT emulationManagementViewShowed();
@@ -146,7 +146,7 @@ void EmulationManagementPlugin::handleOpeningTimedOut()
 
 void EmulationManagementPlugin::openView()
 {
-    // A window that the user sees keeps its stream and its choices.
+    // Setting up resets stream and selection, so leave a visible window alone.
     if (!m_emulationManagementView.isVisible())
         m_cameraEmulationManager.setupCameraStreamPipeline();
     m_emulationManagementView.bringToFront();
@@ -175,7 +175,7 @@ bool EmulationManagementPlugin::setUpPortForwarding()
                        {}, QMessageBox::Ok);
         return false;
     }
-    // The machine refuses a rule that it has.
+    // Both rules are added, even if one exists: the machine refuses a duplicate.
     for (const PortForwarding &port : forwardings) {
         Ravik::execAsynchronous(
             [this, &port](const QObject *context, const std::function<void(bool)> &callback) {
@@ -201,11 +201,11 @@ void EmulationManagementPlugin::checkEmulationPackages()
 void EmulationManagementPlugin::handlePackagesChecked(const QString &message,
                                                       const QString &detailedText)
 {
-    disconnect(&m_packagesChecker, nullptr, nullptr, nullptr); // each check is answered once
+    disconnect(&m_packagesChecker, nullptr, nullptr, nullptr); // handle each check once
     const auto showMessage = [this, message, detailedText] {
         showMessageBox(message, detailedText, QMessageBox::Close);
     };
-    // A machine that somebody else has just started cannot be asked yet.
+    // The machine may run without answering yet, for example when the user started it elsewhere.
     if (!message.isEmpty() && m_currentEmulator
         && m_currentEmulator->virtualMachine()->state() != reachableState) {
         startMachine(showMessage);
@@ -225,7 +225,7 @@ void EmulationManagementPlugin::handleConnectionLost()
 {
     if (!m_gpsEmulationManager.trackLoaded())
         return;
-    // no track is loaded after that, so the attempts to reconnect that fail now stay silent
+    // This forgets the track, so that failed attempts to reconnect show no further message.
     m_gpsEmulationManager.setupGPSData();
     Q_EMIT m_gpsEmulationManager.replyFromEmulatorReceived({});
     const QString name = m_currentEmulator ? m_currentEmulator->name() : QString();

@@ -11,7 +11,7 @@ using namespace std::chrono_literals;
 namespace EmulationManagement::Internal {
 
 static constexpr char taskType[] = "EmulationManagement.Opening";
-// Of an emulator that is started; the indicator is nearly full then.
+// How long an emulator usually takes to start. The indicator is nearly full after this time.
 static constexpr std::chrono::seconds usualDuration = 20s;
 
 OpeningProgress::OpeningProgress(QObject *parent)

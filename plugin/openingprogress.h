@@ -38,19 +38,19 @@ public:
 
     [[nodiscard]] bool isRunning() const;
     void start();
-    /// Says what is being waited for. Ignored unless it runs.
+    /// Shows what the opening waits for. Ignored unless it runs.
     void setStep(const QString &text);
-    /// Takes the indicator away. Neither canceled() nor timedOut() follows.
+    /// Removes the indicator. Neither canceled() nor timedOut() follows.
     void finish();
 
 Q_SIGNALS:
-    /// The user cancelled; it has finished.
+    /// The user cancelled it. It no longer runs.
     void canceled();
-    /// timeLimit has passed; it has finished.
+    /// timeLimit has passed. It no longer runs.
     void timedOut();
 
 private:
-    std::unique_ptr<QPromise<void>> m_promise; // while it runs
+    std::unique_ptr<QPromise<void>> m_promise; // null unless it runs
     QFutureWatcher<void> m_watcher;
     QPointer<Core::FutureProgress> m_indicator;
     QTimer m_timer;

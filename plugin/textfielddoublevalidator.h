@@ -4,8 +4,8 @@
 #include <QtQmlIntegration>
 
 /*!
- * Validates real numbers in the C locale so strictly that a number outside of the range cannot
- * even be begun: with a bottom of 10, typing "1" is refused.
+ * Validates real numbers in the C locale. Text outside the range is never Intermediate: with a
+ * bottom of 10, typing "1" is refused although "10" would follow.
  */
 class TextFieldDoubleValidator : public QDoubleValidator
 {
@@ -22,7 +22,7 @@ public:
     State validate(QString &input, int &pos) const override;
 
 Q_SIGNALS:
-    /// A text was Invalid. A field drops the key or the paste that would have led to it.
+    /// A text was Invalid; the field ignores the key press or paste that produced it.
     void refused() const;
 
 private:

@@ -10,7 +10,7 @@
 
 namespace EmulationManagement::Internal {
 
-/// Of the item that the dialog was declared in.
+/// The window of the item in which the dialog was declared.
 static QQuickWindow *windowOf(const WarningDialog &dialog)
 {
     const auto *item = qobject_cast<QQuickItem *>(dialog.parent());
@@ -60,7 +60,7 @@ void WarningDialog::show()
     translateButtons(&box);
 
     const int answer = box.exec();
-    // The box has raised the IDE above the window that asks.
+    // The box raised the IDE above the asking window: bring that window back.
     if (QQuickWindow *window = windowOf(*this); window && window->isVisible()) {
         window->raise();
         window->requestActivate();
