@@ -50,7 +50,7 @@ void RestartBenchmark::testMemory()
     static constexpr int first = 20;
     static constexpr int restarts = 100;
     const MessageBoxAnswers answers(QMessageBox::Ok);
-    Journal journal(dataFolder(emulator()) + "/journal.jsonl");
+    Journal journal(journalPath());
     openWindow(journal);
     QStringList state;
     double memory = 0;

@@ -50,7 +50,7 @@ static std::vector<double> gapsWhileDragging(QWindow *window, QPoint centre, int
 
 void SliderBenchmark::testLongestGap()
 {
-    Journal journal(dataFolder(emulator()) + "/journal.jsonl");
+    Journal journal(journalPath());
     openWindow(journal);
     const WindowDriver driver(view());
     driver.clickButton("Sensors Values");

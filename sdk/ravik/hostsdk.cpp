@@ -67,6 +67,11 @@ void HostSdk::removeEmulator(int index)
         connect(machine, &VirtualMachine::stateChanged, emulator, &QObject::deleteLater);
 }
 
+QString HostSdk::dataFolder(int index) const
+{
+    return m_settings.host.dataFolder(m_emulators.at(index)->machine()->settings());
+}
+
 QStringList HostSdk::deviceModels() const
 {
     return m_settings.deviceModels;

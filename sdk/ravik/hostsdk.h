@@ -33,6 +33,10 @@ public:
     /// stays.
     void removeEmulator(int index);
 
+    /// The folder of an emulator's files, among them its journal "journal.jsonl" and its socket
+    /// "control".
+    [[nodiscard]] QString dataFolder(int index) const;
+
     [[nodiscard]] QStringList deviceModels() const;
     /// An emulator whose model is not in \a names gets the first one. An empty list is ignored.
     void setDeviceModels(const QStringList &names);

@@ -36,14 +36,14 @@ static constexpr unsigned short udpPort = 34343;
 
 static Journal journal()
 {
-    return Journal(dataFolder(emulator()) + QStringLiteral("/journal.jsonl"));
+    return Journal(journalPath());
 }
 
 /// Opens the window of the first emulator, whose journal it is.
 struct WindowJournal : Journal
 {
     WindowJournal()
-        : Journal(dataFolder(emulator()) + QStringLiteral("/journal.jsonl"))
+        : Journal(journalPath())
     {
         openWindow(*this);
     }

@@ -18,7 +18,7 @@ using namespace PluginDriver;
 
 static Journal journal()
 {
-    return Journal(dataFolder(emulator()) + "/journal.jsonl");
+    return Journal(journalPath());
 }
 
 static QList<QQuickItem *> accelerometerFields(const WindowDriver &driver)

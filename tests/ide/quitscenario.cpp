@@ -31,7 +31,7 @@ static constexpr unsigned quitLimit = 10; // s
 
 static void openTool()
 {
-    Journal journal(dataFolder(emulator()) + "/journal.jsonl");
+    Journal journal(journalPath());
     openWindow(journal);
 }
 

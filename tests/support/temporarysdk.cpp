@@ -69,7 +69,7 @@ QByteArray TemporarySdk::journal() const
 
 QString TemporarySdk::dataFile(const QString &name) const
 {
-    return m_folder.filePath(u"emulators/nimbra-os-emulator/"_s + name);
+    return m_sdk->dataFolder(0) + u'/' + name;
 }
 
 } // namespace TestSupport

@@ -138,7 +138,7 @@ void FaultRun::checkThatAllWorks()
     });
     m_watch.stop();
 
-    Journal journal(dataFolder(emulator()) + "/journal.jsonl");
+    Journal journal(journalPath());
     openWindow(journal);
     const qsizetype start = journal.position();
     QMetaObject::invokeMethod(sensorsManager(), "setAlsLuxValue", 4321);
@@ -264,7 +264,7 @@ void FaultRun::askEmulatorForFault()
     connect(socket, &QLocalSocket::readyRead, socket, &QObject::deleteLater);
     connect(socket, &QLocalSocket::connected, socket,
             [socket, fault] { socket->write(QByteArray(fault) + '\n'); });
-    socket->connectToServer(dataFolder(emulator()) + "/control");
+    socket->connectToServer(dataFolder() + "/control");
 }
 
 void FaultRun::takeOrFreePort()

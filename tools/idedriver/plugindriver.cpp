@@ -4,20 +4,16 @@
 
 #include <coreplugin/actionmanager/actionmanager.h>
 #include <coreplugin/actionmanager/command.h>
-#include <coreplugin/icore.h>
 
 #include <hostsdk.h>
 
 #include <ravik/emulator.h>
 #include <ravik/virtualmachine.h>
 
-#include <utils/filepath.h>
-
 #include <QAction>
 #include <QGuiApplication>
 #include <QLocalSocket>
 #include <QQmlContext>
-#include <QRegularExpression>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
@@ -103,18 +99,21 @@ void stopMachine()
     waitFor(u"the machine to end"_s, [] { return machine()->isOff(nullptr, nullptr); });
 }
 
-QString dataFolder(const Ravik::Emulator *emulator)
+QString dataFolder()
 {
-    static const QRegularExpression separators(u"[^\\p{L}\\p{N}]+"_s);
-    const QString slug
-        = emulator->name().toLower().replace(separators, u" "_s).trimmed().replace(u' ', u'-');
-    return Core::ICore::userResourcePath("emulators").pathAppended(slug).toFSPathString();
+    emulator(); // waits for it
+    return sdk()->dataFolder(0);
+}
+
+QString journalPath()
+{
+    return dataFolder() + u"/journal.jsonl";
 }
 
 void control(const QString &command)
 {
     QLocalSocket socket;
-    socket.connectToServer(dataFolder(emulator()) + u"/control"_s);
+    socket.connectToServer(dataFolder() + u"/control");
     socket.write(command.toUtf8() + '\n');
     waitFor(u"the answer to \"%1\""_s.arg(command), [&] {
         return socket.canReadLine() || socket.state() == QLocalSocket::UnconnectedState;

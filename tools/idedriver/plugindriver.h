@@ -32,7 +32,10 @@ Ravik::VirtualMachine *machine();
 /// Opens the window with the emulator and waits until the two are connected.
 void openWindow(Journal &journal);
 void stopMachine();
-QString dataFolder(const Ravik::Emulator *emulator);
+/// The folder of the emulator's files.
+QString dataFolder();
+/// The file of the emulator's journal, which Journal reads.
+QString journalPath();
 /// Requests a fault of the running emulator; throws WaitingFailed when it refuses.
 void control(const QString &command);
 
