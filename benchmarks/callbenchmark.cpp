@@ -38,7 +38,7 @@ void CallBenchmark::initTestCase()
     m_echo.open(QUrl("ws://127.0.0.1:" + port));
     waitFor("the echo", [&] { return m_echo.state() == QAbstractSocket::ConnectedState; });
 
-    Journal journal(journalPath());
+    JournalReader journal(journalPath());
     openWindow(journal);
     view()->close();
     // replies to the set-up calls may still arrive: wait for the last one
@@ -121,7 +121,7 @@ void CallBenchmark::testThroughput()
                    }
                });
     };
-    Journal journal(journalPath());
+    JournalReader journal(journalPath());
     const qsizetype start = journal.position();
     const QSignalSpy replies(invoker(), SIGNAL(replyReceived(QString)));
     const double callRate = measure(replies, [&] {

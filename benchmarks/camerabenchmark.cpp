@@ -97,7 +97,7 @@ QString CameraBenchmark::makeVideo(int frames) const
 
 void CameraBenchmark::initTestCase()
 {
-    Journal journal(journalPath());
+    JournalReader journal(journalPath());
     openWindow(journal);
 }
 
@@ -134,7 +134,7 @@ void CameraBenchmark::testFramesReceived()
 {
     static constexpr int frames = framesPerSecond * 60;
     const QString path = makeVideo(frames);
-    Journal journal(journalPath());
+    JournalReader journal(journalPath());
     const qsizetype start = journal.position();
     QSignalSpy ended(manager(), SIGNAL(videoStreamStopped()));
     startVideo(path);
@@ -272,7 +272,7 @@ void CameraBenchmark::testEndurance()
             static_cast<double>(entryCount("/proc/self/task") + entryCount("/proc/self/fd")));
     };
 
-    Journal journal(journalPath());
+    JournalReader journal(journalPath());
     for (int round = 0; round < rounds / 10; ++round)
         change();
     const Usage before = usage();

@@ -29,7 +29,7 @@ static double privateMemory()
 }
 
 // The calls that the emulator received, the plugin's state of the sensors, and the track's state.
-static QStringList stateAfterRestart(Journal &journal)
+static QStringList stateAfterRestart(JournalReader &journal)
 {
     QStringList state = journal.callsSince(0);
     const QVariantMap enabled = sensorsManager()->property("sensorsEnabledStates").toMap();
@@ -50,7 +50,7 @@ void RestartBenchmark::testMemory()
     static constexpr int first = 20;
     static constexpr int restarts = 100;
     const MessageBoxAnswers answers(QMessageBox::Ok);
-    Journal journal(journalPath());
+    JournalReader journal(journalPath());
     openWindow(journal);
     QStringList state;
     double memory = 0;

@@ -50,7 +50,7 @@ static std::vector<double> gapsWhileDragging(QWindow *window, QPoint centre, int
 
 void SliderBenchmark::testLongestGap()
 {
-    Journal journal(journalPath());
+    JournalReader journal(journalPath());
     openWindow(journal);
     const WindowDriver driver(view());
     driver.clickButton("Sensors Values");

@@ -1,6 +1,6 @@
 #include "control.h"
 
-#include "journal.h"
+#include "journalwriter.h"
 #include "packagelist.h"
 #include "relay.h"
 
@@ -33,7 +33,7 @@ static QString noMilliseconds()
 }
 
 Control::Control(Relay &relay, const QDBusConnection &services, PackageList &packages,
-                 Journal &journal, QObject *parent)
+                 JournalWriter &journal, QObject *parent)
     : QObject(parent)
     , m_relay(relay)
     , m_services(services)

@@ -6,7 +6,7 @@
 
 namespace NimbraEmulator {
 
-class Journal;
+class JournalWriter;
 class PackageList;
 class Relay;
 
@@ -29,8 +29,8 @@ class Control : public QObject
 
 public:
     /// \a services is the bus connection on which the services are registered.
-    Control(Relay &relay, const QDBusConnection &services, PackageList &packages, Journal &journal,
-            QObject *parent = nullptr);
+    Control(Relay &relay, const QDBusConnection &services, PackageList &packages,
+            JournalWriter &journal, QObject *parent = nullptr);
 
     /// Listens on \a socket and replaces a socket that an earlier run left there.
     [[nodiscard]] bool listen(const QString &socket);
@@ -48,7 +48,7 @@ private:
     Relay &m_relay;
     QDBusConnection m_services;
     PackageList &m_packages;
-    Journal &m_journal;
+    JournalWriter &m_journal;
     QLocalServer m_server;
 };
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "control.h"
-#include "journal.h"
+#include "journalwriter.h"
 #include "locationservice.h"
 #include "options.h"
 #include "packagelist.h"
@@ -44,7 +44,7 @@ private:
     [[nodiscard]] SshCommandServer::Answer answerCommand(const QString &command);
 
     Options m_options;
-    Journal m_journal;
+    JournalWriter m_journal;
     PackageList m_packages;
     SensorService m_sensors;
     LocationService m_location;

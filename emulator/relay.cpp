@@ -1,6 +1,6 @@
 #include "relay.h"
 
-#include "journal.h"
+#include "journalwriter.h"
 #include "relayclient.h"
 
 #include <QWebSocket>
@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 // that would be too long for D-Bus is refused on its own.
 static constexpr quint64 maxRequestBytes = 64 << 20;
 
-Relay::Relay(const QHostAddress &address, const QDBusConnection &bus, Journal &journal,
+Relay::Relay(const QHostAddress &address, const QDBusConnection &bus, JournalWriter &journal,
              QObject *parent)
     : QObject(parent)
     , m_address(address)

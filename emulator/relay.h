@@ -11,7 +11,7 @@
 
 namespace NimbraEmulator {
 
-class Journal;
+class JournalWriter;
 class RelayClient;
 
 /// Faults of the relay that were requested.
@@ -37,7 +37,7 @@ class Relay : public QObject
 public:
     static constexpr quint16 port = 1234;
 
-    Relay(const QHostAddress &address, const QDBusConnection &bus, Journal &journal,
+    Relay(const QHostAddress &address, const QDBusConnection &bus, JournalWriter &journal,
           QObject *parent = nullptr);
     ~Relay() override;
 
@@ -54,7 +54,7 @@ private:
 
     QHostAddress m_address;
     QDBusConnection m_bus;
-    Journal &m_journal;
+    JournalWriter &m_journal;
     QWebSocketServer m_server;
     RelayFaults m_faults;
     QList<RelayClient *> m_clients; // children of the relay

@@ -1,6 +1,6 @@
 #include "relayclient.h"
 
-#include "journal.h"
+#include "journalwriter.h"
 #include "relay.h"
 #include "requestline.h"
 
@@ -56,7 +56,7 @@ static QString replyLine(const Request &request, const QDBusMessage &reply)
 }
 
 RelayClient::RelayClient(QWebSocket *socket, const QDBusConnection &bus, RelayFaults &faults,
-                         Journal &journal, QObject *parent)
+                         JournalWriter &journal, QObject *parent)
     : QObject(parent)
     , m_socket(socket)
     , m_bus(bus)

@@ -14,7 +14,7 @@ QT_END_NAMESPACE
 
 namespace NimbraEmulator {
 
-class Journal;
+class JournalWriter;
 struct RelayFaults;
 struct Request;
 
@@ -28,7 +28,7 @@ public:
     /// Takes ownership of \a socket. \a faults and \a journal belong to the relay, which outlives
     /// this object.
     RelayClient(QWebSocket *socket, const QDBusConnection &bus, RelayFaults &faults,
-                Journal &journal, QObject *parent);
+                JournalWriter &journal, QObject *parent);
     ~RelayClient() override;
 
 Q_SIGNALS:
@@ -47,7 +47,7 @@ private:
     QWebSocket *m_socket;
     QDBusConnection m_bus;
     RelayFaults &m_faults;
-    Journal &m_journal;
+    JournalWriter &m_journal;
     std::deque<PendingReply> m_pending; // in the order of the requests
 };
 

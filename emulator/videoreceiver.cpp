@@ -1,6 +1,6 @@
 #include "videoreceiver.h"
 
-#include "journal.h"
+#include "journalwriter.h"
 
 #include <gst/app/gstappsink.h>
 #include <gst/gst.h>
@@ -19,7 +19,7 @@ static constexpr auto pipelineText
       " caps=\"application/x-rtp,media=video,clock-rate=90000,encoding-name=JPEG\""
       " ! rtpjpegdepay ! appsink name=sink sync=false emit-signals=true"_L1;
 
-VideoReceiver::VideoReceiver(Journal &journal)
+VideoReceiver::VideoReceiver(JournalWriter &journal)
     : m_journal(journal)
 {
     m_secondTimer.setInterval(1s);

@@ -12,7 +12,7 @@ using GstElement = struct _GstElement;
 
 namespace NimbraEmulator {
 
-class Journal;
+class JournalWriter;
 
 /*!
  * The source of the device's camera: receives pictures as RTP/JPEG (RFC 2435) over UDP.
@@ -27,7 +27,7 @@ class VideoReceiver : public QObject
 public:
     static constexpr quint16 port = 34343;
 
-    explicit VideoReceiver(Journal &journal);
+    explicit VideoReceiver(JournalWriter &journal);
     ~VideoReceiver() override;
 
     /// On failure puts one sentence into \a error.
@@ -54,7 +54,7 @@ private:
     void endSecond();
     void writeSecond();
 
-    Journal &m_journal;
+    JournalWriter &m_journal;
     std::unique_ptr<GstElement, StopPipeline> m_pipeline;
     QImage m_picture;
     QTimer m_secondTimer;

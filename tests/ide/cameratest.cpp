@@ -29,7 +29,7 @@ void CameraTest::testPlugging()
 
 void CameraTest::testEndOfStream()
 {
-    Journal journal(journalPath());
+    JournalReader journal(journalPath());
     qsizetype start = 0;
     const auto startStream = [&](const char *method, const auto &...arguments) {
         start = journal.position();

@@ -34,16 +34,16 @@ using namespace PluginDriver;
 static constexpr unsigned short tcpPort = 5454;
 static constexpr unsigned short udpPort = 34343;
 
-static Journal journal()
+static JournalReader journal()
 {
-    return Journal(journalPath());
+    return JournalReader(journalPath());
 }
 
 /// Opens the window of the first emulator, whose journal it is.
-struct WindowJournal : Journal
+struct WindowJournal : JournalReader
 {
     WindowJournal()
-        : Journal(journalPath())
+        : JournalReader(journalPath())
     {
         openWindow(*this);
     }
@@ -64,7 +64,7 @@ void ConnectionTest::cleanup()
 
 void ConnectionTest::testMachineOff()
 {
-    Journal emulatorJournal = journal();
+    JournalReader emulatorJournal = journal();
     QVERIFY(!machine()->hasPortForwarding(tcpPort, nullptr));
     QSignalSpy viewShowed(contextObject("emulationManagementPlugin"),
                           SIGNAL(emulationManagementViewShowed()));
@@ -204,7 +204,7 @@ void ConnectionTest::testOpeningInProgress()
     QSignalSpy finished(Core::ProgressManager::instance(),
                         &Core::ProgressManager::allTasksFinished);
     const MessageBoxAnswers answers(QMessageBox::Ok);
-    Journal emulatorJournal = journal();
+    JournalReader emulatorJournal = journal();
     const qsizetype start = emulatorJournal.position();
 
     chooseAction();

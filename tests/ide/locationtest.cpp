@@ -41,7 +41,7 @@ static QObject *errorDialog()
 
 void LocationTest::initTestCase()
 {
-    m_journal = std::make_unique<Journal>(journalPath());
+    m_journal = std::make_unique<JournalReader>(journalPath());
     openWindow(*m_journal);
     m_page = std::make_unique<GpsPageDriver>(window());
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <gpspagedriver.h>
-#include <journal.h>
+#include <journalreader.h>
 
 #include <QObject>
 
@@ -39,7 +39,7 @@ private:
     [[nodiscard]] QString enabledButtons() const;
     [[nodiscard]] int rowCount() const;
 
-    std::unique_ptr<Journal> m_journal;
+    std::unique_ptr<JournalReader> m_journal;
     std::unique_ptr<GpsPageDriver> m_page;
     qsizetype m_position = 0;
 };

@@ -16,9 +16,9 @@
 
 using namespace PluginDriver;
 
-static Journal journal()
+static JournalReader journal()
 {
-    return Journal(journalPath());
+    return JournalReader(journalPath());
 }
 
 static QList<QQuickItem *> accelerometerFields(const WindowDriver &driver)
@@ -28,7 +28,7 @@ static QList<QQuickItem *> accelerometerFields(const WindowDriver &driver)
 
 void PersistenceTest::testSet()
 {
-    Journal emulatorJournal = journal();
+    JournalReader emulatorJournal = journal();
     openWindow(emulatorJournal);
     const WindowDriver driver = WindowDriver::waitForWindow("Emulation Management");
     const QList<QQuickItem *> fields = accelerometerFields(driver);
@@ -54,7 +54,7 @@ void PersistenceTest::testRestored()
     QCOMPARE(settings->value("emulationmanagement/accelerometer_y").toInt(), -2500);
     QCOMPARE(settings->value("emulationmanagement/accelerometer_z").toInt(), 1001);
 
-    Journal emulatorJournal = journal();
+    JournalReader emulatorJournal = journal();
     const qsizetype start = emulatorJournal.position();
     openWindow(emulatorJournal);
     QVERIFY(emulatorJournal.callsSince(start).contains(

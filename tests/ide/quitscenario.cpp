@@ -31,7 +31,7 @@ static constexpr unsigned quitLimit = 10; // s
 
 static void openTool()
 {
-    Journal journal(journalPath());
+    JournalReader journal(journalPath());
     openWindow(journal);
 }
 

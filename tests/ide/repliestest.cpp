@@ -17,7 +17,7 @@ using namespace PluginDriver;
 void RepliesTest::initTestCase()
 {
     QSignalSpy replies(sensorsManager(), SIGNAL(replyFromEmulatorReceived(QString)));
-    Journal journal(journalPath());
+    JournalReader journal(journalPath());
     openWindow(journal);
     waitFor("all replies", [&] { return replies.size() == journal.callsSince(0).size(); });
 }
@@ -78,7 +78,7 @@ void RepliesTest::testErrorDialogClosesWithTheWindow()
 // The emulator is asked what is on, and that once: it may refuse to say.
 void RepliesTest::testRefusedApply()
 {
-    Journal journal(journalPath());
+    JournalReader journal(journalPath());
     auto *dialog = view()->rootObject()->property("errorDialog").value<QObject *>();
     const WindowDriver driver(view());
     driver.clickButton("Sensors Management");

@@ -138,7 +138,7 @@ void FaultRun::checkThatAllWorks()
     });
     m_watch.stop();
 
-    Journal journal(journalPath());
+    JournalReader journal(journalPath());
     openWindow(journal);
     const qsizetype start = journal.position();
     QMetaObject::invokeMethod(sensorsManager(), "setAlsLuxValue", 4321);

@@ -74,7 +74,7 @@ Ravik::VirtualMachine *machine()
     return emulator()->virtualMachine();
 }
 
-void openWindow(Journal &journal)
+void openWindow(JournalReader &journal)
 {
     // Showing the window opens the link again, even when it is open already.
     QSignalSpy connected(invoker(), SIGNAL(webSocketConnected()));

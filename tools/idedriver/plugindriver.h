@@ -1,6 +1,6 @@
 #pragma once
 
-#include "journal.h"
+#include "journalreader.h"
 
 #include <QObject>
 #include <QQuickView>
@@ -30,11 +30,11 @@ Ravik::HostSdk *sdk();
 Ravik::Emulator *emulator();
 Ravik::VirtualMachine *machine();
 /// Opens the window with the emulator and waits until the two are connected.
-void openWindow(Journal &journal);
+void openWindow(JournalReader &journal);
 void stopMachine();
 /// The folder of the emulator's files.
 QString dataFolder();
-/// The file of the emulator's journal, which Journal reads.
+/// The file of the emulator's journal, which JournalReader reads.
 QString journalPath();
 /// Requests a fault of the running emulator; throws WaitingFailed when it refuses.
 void control(const QString &command);

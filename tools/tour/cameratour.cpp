@@ -48,7 +48,7 @@ static WindowDriver openDialog()
     return WindowDriver(dialog);
 }
 
-CameraTour::CameraTour(const WindowDriver &driver, Journal &journal, TakePicture takePicture)
+CameraTour::CameraTour(const WindowDriver &driver, JournalReader &journal, TakePicture takePicture)
     : m_driver(driver)
     , m_journal(journal)
     , m_takePicture(std::move(takePicture))

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "journal.h"
+#include "journalreader.h"
 #include "windowdriver.h"
 
 #include <QSize>
@@ -15,7 +15,7 @@ class CameraTour
 public:
     using TakePicture = std::function<void(const QString &name)>;
 
-    CameraTour(const WindowDriver &driver, Journal &journal, TakePicture takePicture);
+    CameraTour(const WindowDriver &driver, JournalReader &journal, TakePicture takePicture);
 
     void run();
 
@@ -32,6 +32,6 @@ private:
     void waitForPictures(QSize size, qsizetype since);
 
     WindowDriver m_driver;
-    Journal &m_journal;
+    JournalReader &m_journal;
     TakePicture m_takePicture;
 };

@@ -19,7 +19,7 @@ static constexpr double unitsPerG = 1000;
 static constexpr double fieldPart = 9.9999e-05; // T along each axis, as the tour of sensors left it
 
 /// The gyroscope's z values that the emulator received, in degrees per second.
-static QList<double> gyroscopeSamples(Journal &journal, qsizetype since)
+static QList<double> gyroscopeSamples(JournalReader &journal, qsizetype since)
 {
     QList<double> samples;
     const QStringList calls = journal.callsSince(since).filter(u"setGyroscopeValues ");
@@ -28,7 +28,7 @@ static QList<double> gyroscopeSamples(Journal &journal, qsizetype since)
     return samples;
 }
 
-DeviceModelTour::DeviceModelTour(const WindowDriver &driver, Journal &journal,
+DeviceModelTour::DeviceModelTour(const WindowDriver &driver, JournalReader &journal,
                                  const TakePicture &takePicture)
     : m_driver(driver)
     , m_journal(journal)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "journal.h"
+#include "journalreader.h"
 #include "windowdriver.h"
 
 #include <QPoint>
@@ -19,7 +19,8 @@ class DeviceModelTour
 public:
     using TakePicture = std::function<void(const QString &name)>;
 
-    DeviceModelTour(const WindowDriver &driver, Journal &journal, const TakePicture &takePicture);
+    DeviceModelTour(const WindowDriver &driver, JournalReader &journal,
+                    const TakePicture &takePicture);
 
     /// Throws WaitingFailed when the device or the emulator does not reach the expected state.
     void run();
@@ -43,6 +44,6 @@ private:
     void waitForAcceleration(int x, int y, int z, qsizetype since);
 
     const WindowDriver &m_driver;
-    Journal &m_journal;
+    JournalReader &m_journal;
     TakePicture m_takePicture;
 };

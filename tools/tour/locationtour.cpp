@@ -7,7 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-LocationTour::LocationTour(const WindowDriver &driver, Journal &journal,
+LocationTour::LocationTour(const WindowDriver &driver, JournalReader &journal,
                            std::function<void(const QString &)> takePicture)
     : m_driver(driver)
     , m_journal(journal)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "journal.h"
+#include "journalreader.h"
 #include "windowdriver.h"
 
 #include <functional>
@@ -13,7 +13,7 @@ class LocationTour
 {
 public:
     /// \a takePicture saves a picture under the given name.
-    LocationTour(const WindowDriver &driver, Journal &journal,
+    LocationTour(const WindowDriver &driver, JournalReader &journal,
                  std::function<void(const QString &)> takePicture);
 
     /// \a track is the file of a track of at least ten points.
@@ -24,6 +24,6 @@ private:
     void playTrack(const GpsPageDriver &page, const QString &track);
 
     const WindowDriver &m_driver;
-    Journal &m_journal;
+    JournalReader &m_journal;
     std::function<void(const QString &)> m_takePicture;
 };

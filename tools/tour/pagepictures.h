@@ -1,6 +1,6 @@
 #pragma once
 
-#include "journal.h"
+#include "journalreader.h"
 
 #include <QString>
 
@@ -18,5 +18,5 @@ private:
     void takePicture(const QString &name) const;
 
     QString m_folder;
-    Journal m_journal;
+    JournalReader m_journal;
 };

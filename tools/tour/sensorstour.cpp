@@ -59,7 +59,7 @@ static QString callFor(const char *method, const char *type, double multiplier, 
                              number(shown, type, multiplier));
 }
 
-SensorsTour::SensorsTour(const WindowDriver &driver, Journal &journal,
+SensorsTour::SensorsTour(const WindowDriver &driver, JournalReader &journal,
                          std::function<void(const QString &)> takePicture)
     : m_driver(driver)
     , m_journal(journal)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "journal.h"
+#include "journalreader.h"
 #include "windowdriver.h"
 
 #include <functional>
@@ -13,7 +13,7 @@ class SensorsTour
 {
 public:
     /// \a takePicture saves a picture under the given name.
-    SensorsTour(const WindowDriver &driver, Journal &journal,
+    SensorsTour(const WindowDriver &driver, JournalReader &journal,
                 std::function<void(const QString &)> takePicture);
 
     void visitManagement();
@@ -34,6 +34,6 @@ private:
     void resetValues();
 
     const WindowDriver &m_driver;
-    Journal &m_journal;
+    JournalReader &m_journal;
     std::function<void(const QString &)> m_takePicture;
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "journal.h"
+#include "journalreader.h"
 #include "windowdriver.h"
 
 #include <QString>
@@ -30,6 +30,6 @@ private:
     void printCalls();
 
     QString m_pictureFolder;
-    Journal m_journal;
+    JournalReader m_journal;
     int m_pictureCount = 0;
 };

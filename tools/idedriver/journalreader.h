@@ -11,10 +11,10 @@
  *
  * A position in the journal is the number of entries before it.
  */
-class Journal
+class JournalReader
 {
 public:
-    explicit Journal(const QString &path);
+    explicit JournalReader(const QString &path);
 
     /// Forgets all entries so far: positions count from here on.
     void clear();

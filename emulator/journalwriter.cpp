@@ -1,4 +1,4 @@
-#include "journal.h"
+#include "journalwriter.h"
 
 #include <QDateTime>
 #include <QJsonDocument>
@@ -9,14 +9,14 @@ namespace NimbraEmulator {
 
 using namespace Qt::StringLiterals;
 
-Journal::Journal()
+JournalWriter::JournalWriter()
 {
     // open() fails only when standard output is closed; then nobody reads the journal.
     [[maybe_unused]] const bool opened
         = m_file.open(STDOUT_FILENO, QIODevice::WriteOnly | QIODevice::Unbuffered);
 }
 
-void Journal::write(QLatin1StringView event, QJsonObject details)
+void JournalWriter::write(QLatin1StringView event, QJsonObject details)
 {
     if (!m_file.isOpen())
         return;

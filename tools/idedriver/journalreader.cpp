@@ -1,4 +1,4 @@
-#include "journal.h"
+#include "journalreader.h"
 
 #include "waiting.h"
 
@@ -11,29 +11,29 @@ using namespace Qt::StringLiterals;
 // Bus, service, object path and interface precede the method in a request line.
 static constexpr qsizetype addressFieldCount = 4;
 
-Journal::Journal(const QString &path)
+JournalReader::JournalReader(const QString &path)
     : m_file(path)
 {}
 
-void Journal::clear()
+void JournalReader::clear()
 {
     read();
     m_entries.clear();
 }
 
-qsizetype Journal::position()
+qsizetype JournalReader::position()
 {
     read();
     return m_entries.size();
 }
 
-QList<QJsonObject> Journal::entriesSince(qsizetype position)
+QList<QJsonObject> JournalReader::entriesSince(qsizetype position)
 {
     read();
     return m_entries.sliced(position);
 }
 
-qsizetype Journal::countSince(qsizetype position, const QString &event)
+qsizetype JournalReader::countSince(qsizetype position, const QString &event)
 {
     const QList<QJsonObject> entries = entriesSince(position);
     return std::ranges::count_if(entries, [&](const QJsonObject &entry) {
@@ -41,7 +41,7 @@ qsizetype Journal::countSince(qsizetype position, const QString &event)
     });
 }
 
-QStringList Journal::callsSince(qsizetype position)
+QStringList JournalReader::callsSince(qsizetype position)
 {
     QStringList calls;
     const QList<QJsonObject> entries = entriesSince(position);
@@ -52,13 +52,13 @@ QStringList Journal::callsSince(qsizetype position)
     return calls;
 }
 
-void Journal::waitForEvent(const QString &event, qsizetype since)
+void JournalReader::waitForEvent(const QString &event, qsizetype since)
 {
     waitFor(u"the emulator's event \"%1\""_s.arg(event),
             [&] { return countSince(since, event) > 0; });
 }
 
-void Journal::waitForCall(const QString &call, qsizetype since)
+void JournalReader::waitForCall(const QString &call, qsizetype since)
 {
     try {
         waitFor(u"the emulator to get \"%1\""_s.arg(call),
@@ -69,7 +69,7 @@ void Journal::waitForCall(const QString &call, qsizetype since)
     }
 }
 
-void Journal::read()
+void JournalReader::read()
 {
     // the emulator creates the file when it starts
     if (!m_file.isOpen() && (!m_file.exists() || !m_file.open(QIODevice::ReadOnly)))
