@@ -3,22 +3,10 @@
 #include "waiting.h"
 
 #include <QFile>
-#include <QGuiApplication>
 #include <QQuickItem>
-#include <QQuickWindow>
 #include <QUrl>
 
 using namespace Qt::StringLiterals;
-
-static QQuickWindow *popupWindow()
-{
-    const QWindowList windows = QGuiApplication::allWindows();
-    for (QWindow *window : windows) {
-        if (window->isVisible() && window->inherits("QQuickPopupWindow"))
-            return qobject_cast<QQuickWindow *>(window);
-    }
-    return nullptr;
-}
 
 GpsPageDriver::GpsPageDriver(const WindowDriver &driver)
     : m_driver(driver)
@@ -40,12 +28,7 @@ void GpsPageDriver::openTrack(const QString &path, bool vanishing) const
     // the dialog opens with this file selected
     dialog->setProperty("selectedFile", QUrl::fromLocalFile(path));
     m_driver.clickButton(u"…"_s);
-    QQuickWindow *window = nullptr;
-    waitFor(u"the file dialog"_s, [&] {
-        window = popupWindow();
-        return window != nullptr;
-    });
-    const WindowDriver dialogDriver(window);
+    const WindowDriver dialogDriver = WindowDriver::waitForFileDialog();
     const QQuickItem *button = dialogDriver.item(u"QQuickAbstractButton"_s, "text", u"Open"_s);
     if (vanishing)
         QFile::remove(path);

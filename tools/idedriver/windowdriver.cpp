@@ -37,22 +37,37 @@ static QPoint centreOf(const QQuickItem *item)
     return item->window()->mapFromGlobal(centre).toPoint();
 }
 
+/// Waits until a window that fulfils \a condition is shown and can be used.
+static WindowDriver waitForShown(const QString &what,
+                                 const std::function<bool(const QWindow *)> &condition)
+{
+    QQuickWindow *window = nullptr;
+    waitFor(what, [&] {
+        const QWindowList windows = QGuiApplication::allWindows();
+        for (QWindow *candidate : windows) {
+            if (candidate->isExposed() && condition(candidate))
+                window = qobject_cast<QQuickWindow *>(candidate);
+        }
+        return window && window->isSceneGraphInitialized();
+    });
+    return WindowDriver(window);
+}
+
 WindowDriver::WindowDriver(QQuickWindow *window)
     : m_window(window)
 {}
 
 WindowDriver WindowDriver::waitForWindow(const QString &title)
 {
-    QQuickWindow *window = nullptr;
-    waitFor(u"the window \"%1\""_s.arg(title), [&] {
-        const QWindowList windows = QGuiApplication::topLevelWindows();
-        for (QWindow *candidate : windows) {
-            if (candidate->title() == title && candidate->isExposed())
-                window = qobject_cast<QQuickWindow *>(candidate);
-        }
-        return window && window->isSceneGraphInitialized();
+    return waitForShown(u"the window \"%1\""_s.arg(title),
+                        [&](const QWindow *window) { return window->title() == title; });
+}
+
+WindowDriver WindowDriver::waitForFileDialog()
+{
+    return waitForShown(u"the file dialog"_s, [](const QWindow *window) {
+        return window->inherits("QQuickPopupWindow");
     });
-    return WindowDriver(window);
 }
 
 QQuickWindow *WindowDriver::window() const

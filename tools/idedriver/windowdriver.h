@@ -12,8 +12,11 @@ class WindowDriver
 public:
     explicit WindowDriver(QQuickWindow *window);
 
-    /// Finds the tool window among the application's windows once it is shown.
+    /// Finds the window with this title once it is shown.
     static WindowDriver waitForWindow(const QString &title);
+
+    /// Finds the open file dialog, which has a window of its own.
+    static WindowDriver waitForFileDialog();
 
     [[nodiscard]] QQuickWindow *window() const;
 
