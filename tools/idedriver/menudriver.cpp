@@ -2,6 +2,8 @@
 
 #include "waiting.h"
 
+#include <coreplugin/icore.h>
+
 #include <QAction>
 #include <QApplication>
 #include <QMainWindow>
@@ -15,6 +17,11 @@
 using namespace Qt::StringLiterals;
 
 namespace MenuDriver {
+
+QMainWindow *mainWindow()
+{
+    return qobject_cast<QMainWindow *>(Core::ICore::mainWindow());
+}
 
 /// Clicks an entry of a menu or menu bar with the mouse and returns its action.
 template<typename Menu>
@@ -40,10 +47,10 @@ static QAction *use(Menu *menu, const QString &text)
 }
 
 /// Opens the menus of \a path; returns the last one, or null when a menu does not stay open.
-static QMenu *tryToOpen(QMainWindow *mainWindow, const QStringList &path)
+static QMenu *tryToOpen(const QStringList &path)
 {
     static constexpr int limit = 2000; // ms
-    QMenu *menu = use(mainWindow->menuBar(), path.first())->menu();
+    QMenu *menu = use(mainWindow()->menuBar(), path.first())->menu();
     for (const QString &text : path.sliced(1)) {
         if (!QTest::qWaitFor([&] { return menu->isVisible(); }, limit))
             return nullptr;
@@ -52,12 +59,14 @@ static QMenu *tryToOpen(QMainWindow *mainWindow, const QStringList &path)
     return QTest::qWaitFor([&] { return menu->isVisible(); }, limit) ? menu : nullptr;
 }
 
-QMenu *open(QMainWindow *mainWindow, const QStringList &path)
+QMenu *open(const QStringList &path)
 {
+    mainWindow()->activateWindow();
+    waitFor(u"the IDE's window to be active"_s, [] { return mainWindow()->isActiveWindow(); });
     QMenu *menu = nullptr;
     // Tries again: open menus close when the window manager activates another window late.
     waitFor(u"the menu \"%1\" to open"_s.arg(path.last()), [&] {
-        menu = tryToOpen(mainWindow, path);
+        menu = tryToOpen(path);
         while (!menu && QApplication::activePopupWidget())
             QApplication::activePopupWidget()->close();
         return menu != nullptr;

@@ -42,54 +42,50 @@ static QImage withPalette(const QImage &picture)
                                   Qt::ThresholdDither | Qt::AvoidDither);
 }
 
-PagePictures::PagePictures(QString folder, const QString &journalPath)
-    : m_folder(std::move(folder))
-    , m_journal(journalPath)
-{}
-
-void PagePictures::take()
+static void takePicture(const QString &folder, const QString &name)
 {
-    PluginDriver::openWindow(m_journal);
+    static constexpr int untilDrawn = 500; // milliseconds
+    QTest::qWait(untilDrawn);
+    const QImage picture = withPalette(PluginDriver::view()->grabWindow());
+    const QString path = u"%1/%2.png"_s.arg(folder, name);
+    if (!picture.save(path, nullptr, 0))
+        throw WaitingFailed("the picture " + path.toStdString() + " could not be saved");
+}
+
+void takePagePictures(const QString &folder)
+{
+    JournalReader journal(PluginDriver::journalPath());
+    PluginDriver::openWindow(journal);
     const QStringList size = qEnvironmentVariable("TOUR_SIZE").split(u'x');
     if (size.size() == 2)
         PluginDriver::view()->resize(size[0].toInt(), size[1].toInt());
 
     const WindowDriver driver(PluginDriver::view());
     showPage(driver, 0);
-    takePicture(u"sensors-management"_s);
+    takePicture(folder, u"sensors-management"_s);
     showPage(driver, 1);
-    takePicture(u"sensors-values"_s);
+    takePicture(folder, u"sensors-values"_s);
     showPage(driver, 2);
-    takePicture(u"orientation-management"_s);
+    takePicture(folder, u"orientation-management"_s);
 
     showPage(driver, 3);
     QQuickItem *gpsPage = driver.items(u"GpsManagementPage"_s).constFirst();
     // the page shows the path, which must be the same on every machine
     const QString track = QDir::temp().filePath(u"lake.nmea"_s);
     QFile::copy(SAMPLE_TRACK, track);
-    const qsizetype start = m_journal.position();
+    const qsizetype start = journal.position();
     QMetaObject::invokeMethod(gpsPage, "openFile", QUrl::fromLocalFile(track));
     waitFor(u"the track's upload"_s,
-            [&] { return !m_journal.callsSince(start).filter(u"loadTrack "_s).isEmpty(); });
+            [&] { return !journal.callsSince(start).filter(u"loadTrack "_s).isEmpty(); });
     QFile::remove(track);
-    takePicture(u"gps-management"_s);
+    takePicture(folder, u"gps-management"_s);
 
     showPage(driver, 4);
     QObject *camera = PluginDriver::contextObject("cameraEmulationManager");
     QMetaObject::invokeMethod(camera, "startCameraStream");
     waitFor(u"the camera's frames to be counted"_s,
             [&] { return camera->property("streamFramesPerSecond").toInt() > 0; });
-    takePicture(u"camera-management"_s);
+    takePicture(folder, u"camera-management"_s);
     driver.click(driver.items(u"QQuickRadioButton"_s).constLast());
-    takePicture(u"camera-management-file"_s);
-}
-
-void PagePictures::takePicture(const QString &name) const
-{
-    static constexpr int untilDrawn = 500; // milliseconds
-    QTest::qWait(untilDrawn);
-    const QImage picture = withPalette(PluginDriver::view()->grabWindow());
-    const QString path = u"%1/%2.png"_s.arg(m_folder, name);
-    if (!picture.save(path, nullptr, 0))
-        throw WaitingFailed("the picture " + path.toStdString() + " could not be saved");
+    takePicture(folder, u"camera-management-file"_s);
 }

@@ -1,35 +1,11 @@
 #pragma once
 
-#include "journalreader.h"
-#include "windowdriver.h"
+class TourGuide;
 
-#include <QString>
+/// Walks through the plugin as a user does: from the IDE's menu through every page. Throws
+/// WaitingFailed when the emulator does not receive what was sent.
+void takeTour(TourGuide &guide);
 
-/*!
- * A walk through the plugin as a user takes it: from the IDE's menu through every page.
- *
- * Prints its progress, saves a picture of every page, and throws WaitingFailed when the emulator
- * does not receive what was sent.
- */
-class Tour
-{
-public:
-    /// \a pictureFolder must exist; \a journalPath is where the emulator's journal appears.
-    Tour(const QString &pictureFolder, const QString &journalPath);
-
-    void run();
-
-private:
-    void visitAll();
-    void openWindow();
-    void chooseDeviceModel(const QString &name);
-    void visitSensors(const WindowDriver &driver);
-    void visitDeviceModel(const WindowDriver &driver);
-    void visitLocation(const WindowDriver &driver);
-    void takePicture(const QString &name);
-    void printCalls();
-
-    QString m_pictureFolder;
-    JournalReader m_journal;
-    int m_pictureCount = 0;
-};
+/// Quits the IDE as a user does, with the plugin's window open: by its menu, or by the button of
+/// its window if TOUR_CLOSE is set. A signal ends the process if that takes too long.
+void quitIde(TourGuide &guide);
