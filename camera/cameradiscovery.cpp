@@ -1,125 +1,89 @@
-// The part of the camera manager that follows the host's cameras.
-
-#include "cameraemulationmanager.h"
+#include "cameradiscovery.h"
 
 #include <gst/gst.h>
 
-#include <vector>
-
-static std::vector<ObjectReference<GstDevice>> devicesOf(GstDeviceMonitor *monitor)
+CameraDiscovery::CameraDiscovery(QObject *parent)
+    : QObject(parent)
 {
-    std::vector<ObjectReference<GstDevice>> devices;
-    GList *list = gst_device_monitor_get_devices(monitor);
-    for (const GList *entry = list; entry; entry = entry->next)
-        devices.emplace_back(static_cast<GstDevice *>(entry->data));
-    g_list_free(list);
-    return devices;
+    gst_init(nullptr, nullptr);
+    startMonitor();
 }
 
-void CameraEmulationManager::startDeviceMonitor()
+CameraDiscovery::~CameraDiscovery()
 {
-    m_deviceMonitor.reset(gst_device_monitor_new());
-    const ObjectReference<GstBus> bus(gst_device_monitor_get_bus(m_deviceMonitor.get()));
-    gst_bus_add_watch(bus.get(), &CameraEmulationManager::onDeviceListChanged, this);
+    stopMonitor();
+}
+
+const QMap<QString, CameraDiscovery::Camera> &CameraDiscovery::cameras() const
+{
+    return m_cameras;
+}
+
+void CameraDiscovery::readCameras()
+{
+    GList *devices = gst_device_monitor_get_devices(m_monitor.get());
+    for (const GList *entry = devices; entry; entry = entry->next)
+        readCamera(static_cast<GstDevice *>(entry->data));
+    g_list_free_full(devices, gst_object_unref);
+}
+
+void CameraDiscovery::restart()
+{
+    stopMonitor();
+    m_cameras.clear();
+    startMonitor();
+    readCameras();
+}
+
+void CameraDiscovery::startMonitor()
+{
+    m_monitor.reset(gst_device_monitor_new());
+    const ObjectReference<GstBus> bus(gst_device_monitor_get_bus(m_monitor.get()));
+    gst_bus_add_watch(bus.get(), &CameraDiscovery::onDeviceListChanged, this);
     const MiniObjectReference<GstCaps> caps(gst_caps_new_empty_simple("video/x-raw"));
-    gst_device_monitor_add_filter(m_deviceMonitor.get(), "Video/Source", caps.get());
-    gst_device_monitor_start(m_deviceMonitor.get());
+    gst_device_monitor_add_filter(m_monitor.get(), "Video/Source", caps.get());
+    gst_device_monitor_start(m_monitor.get());
 }
 
-void CameraEmulationManager::stopDeviceMonitor()
+void CameraDiscovery::stopMonitor()
 {
-    const ObjectReference<GstBus> bus(gst_device_monitor_get_bus(m_deviceMonitor.get()));
+    const ObjectReference<GstBus> bus(gst_device_monitor_get_bus(m_monitor.get()));
     gst_bus_remove_watch(bus.get());
-    gst_device_monitor_stop(m_deviceMonitor.get());
-    m_deviceMonitor.reset();
+    gst_device_monitor_stop(m_monitor.get());
+    m_monitor.reset();
 }
 
-void CameraEmulationManager::listCameras()
-{
-    for (const ObjectReference<GstDevice> &device : devicesOf(m_deviceMonitor.get()))
-        addCameraSettings(device.get());
-}
-
-void CameraEmulationManager::setupCameraStreamPipeline()
-{
-    listCameras();
-    if (!m_cameras.isEmpty() && !m_cameras.contains(m_cameraName))
-        selectFirstCamera();
-    applySelection(m_playing == Source::Camera);
-}
-
-void CameraEmulationManager::selectFirstCamera()
-{
-    setCameraName(m_cameras.firstKey());
-}
-
-void CameraEmulationManager::addCameraSettings(GstDevice *device)
+void CameraDiscovery::readCamera(GstDevice *device)
 {
     const MiniObjectReference<GstCaps> caps(gst_device_get_caps(device));
     m_cameras.insert(
         takeText(gst_device_get_display_name(device)),
         {.resolutions = availableResolutions(caps.get()), .source = retrieveCameraSource(device)});
-    Q_EMIT camerasChanged();
-    Q_EMIT resolutionsChanged();
-    Q_EMIT frameratesChanged();
+    Q_EMIT cameraRead();
 }
 
-void CameraEmulationManager::removeCameraSettings(const QString &name)
-{
-    const bool isSelected = name == m_cameraName;
-    if (m_playing == Source::Camera && (isSelected || name == m_appliedCameraName))
-        stopCameraStream();
-    if (name == m_appliedCameraName)
-        m_appliedCameraName.clear(); // plugged in again it may be opened in another way
-    m_cameras.remove(name);
-    Q_EMIT camerasChanged();
-    if (m_cameras.isEmpty() || !isSelected)
-        return;
-    selectFirstCamera();
-    applySelection(false);
-}
-
-void CameraEmulationManager::updateCamerasList()
-{
-    if (m_playing == Source::Camera)
-        stopCameraStream();
-    stopDeviceMonitor();
-    m_cameras.clear();
-    startDeviceMonitor();
-    listCameras();
-    // Where the main loop does not dispatch GLib's context, only this tells that no camera is left.
-    if (m_cameras.isEmpty())
-        Q_EMIT camerasChanged();
-    else
-        selectFirstCamera();
-    applySelection(false);
-}
-
-int CameraEmulationManager::onDeviceListChanged(GstBus *bus, GstMessage *message, void *manager)
+int CameraDiscovery::onDeviceListChanged(GstBus *bus, GstMessage *message, void *discovery)
 {
     Q_UNUSED(bus)
-    auto *self = static_cast<CameraEmulationManager *>(manager);
+    auto *self = static_cast<CameraDiscovery *>(discovery);
     GstDevice *device = nullptr;
-    switch (GST_MESSAGE_TYPE(message)) {
-    case GST_MESSAGE_DEVICE_ADDED:
+    if (GST_MESSAGE_TYPE(message) == GST_MESSAGE_DEVICE_ADDED)
         gst_message_parse_device_added(message, &device);
-        break;
-    case GST_MESSAGE_DEVICE_REMOVED:
+    else if (GST_MESSAGE_TYPE(message) == GST_MESSAGE_DEVICE_REMOVED)
         gst_message_parse_device_removed(message, &device);
-        break;
-    default:
+    if (!device)
         return G_SOURCE_CONTINUE;
-    }
+
     const ObjectReference<GstDevice> reference(device);
     const QString name = takeText(gst_device_get_display_name(device));
     const bool isKnown = self->m_cameras.contains(name);
-    if (GST_MESSAGE_TYPE(message) == GST_MESSAGE_DEVICE_REMOVED) {
-        if (isKnown)
-            self->removeCameraSettings(name);
-    } else if (!isKnown) {
-        self->addCameraSettings(device);
-        if (self->m_cameras.size() == 1)
-            self->applySelection(self->m_playing == Source::Camera);
+    if (GST_MESSAGE_TYPE(message) == GST_MESSAGE_DEVICE_ADDED && !isKnown) {
+        self->readCamera(device);
+        Q_EMIT self->cameraPlugged();
+    } else if (GST_MESSAGE_TYPE(message) == GST_MESSAGE_DEVICE_REMOVED && isKnown) {
+        Q_EMIT self->cameraUnplugged(name);
+        self->m_cameras.remove(name);
+        Q_EMIT self->cameraRemoved(name);
     }
     return G_SOURCE_CONTINUE;
 }

@@ -1,7 +1,5 @@
 #include "cameraemulationmanager.h"
 
-#include <gst/gst.h>
-
 #include <QUrl>
 
 #include <algorithm>
@@ -13,8 +11,17 @@ const QString CameraEmulationManager::portForwardingRule = u"emulationmanagement
 CameraEmulationManager::CameraEmulationManager(QObject *parent)
     : QObject(parent)
 {
-    gst_init(nullptr, nullptr);
-    startDeviceMonitor();
+    connect(&m_discovery, &CameraDiscovery::cameraRead, this, [this] {
+        Q_EMIT camerasChanged();
+        Q_EMIT resolutionsChanged();
+        Q_EMIT frameratesChanged();
+    });
+    connect(&m_discovery, &CameraDiscovery::cameraPlugged, this,
+            &CameraEmulationManager::handlePlugged);
+    connect(&m_discovery, &CameraDiscovery::cameraUnplugged, this,
+            &CameraEmulationManager::handleUnplugged);
+    connect(&m_discovery, &CameraDiscovery::cameraRemoved, this,
+            &CameraEmulationManager::handleRemoved);
     constructVideoStreamPipeline();
     constructCameraStreamPipeline();
     connect(this, &CameraEmulationManager::videoStreamStopped, this,
@@ -27,7 +34,6 @@ CameraEmulationManager::CameraEmulationManager(QObject *parent)
 CameraEmulationManager::~CameraEmulationManager()
 {
     stopPipelines();
-    stopDeviceMonitor();
 }
 
 bool CameraEmulationManager::streamRunning() const
@@ -63,12 +69,12 @@ QString CameraEmulationManager::localPath(const QUrl &url)
 
 QStringList CameraEmulationManager::cameras() const
 {
-    return m_cameras.keys();
+    return m_discovery.cameras().keys();
 }
 
 QVariantList CameraEmulationManager::resolutions() const
 {
-    return m_cameras.value(m_cameraName).resolutions;
+    return m_discovery.cameras().value(m_cameraName).resolutions;
 }
 
 QStringList CameraEmulationManager::framerates() const
@@ -139,4 +145,54 @@ void CameraEmulationManager::setCameraName(const QString &name)
     Q_EMIT cameraNameChanged();
     Q_EMIT resolutionsChanged();
     Q_EMIT frameratesChanged();
+}
+
+void CameraEmulationManager::selectFirstCamera()
+{
+    setCameraName(m_discovery.cameras().firstKey());
+}
+
+void CameraEmulationManager::setupCameraStreamPipeline()
+{
+    m_discovery.readCameras();
+    const auto &cameras = m_discovery.cameras();
+    if (!cameras.isEmpty() && !cameras.contains(m_cameraName))
+        selectFirstCamera();
+    applySelection(m_playing == Source::Camera);
+}
+
+void CameraEmulationManager::updateCamerasList()
+{
+    if (m_playing == Source::Camera)
+        stopCameraStream();
+    m_discovery.restart();
+    // Where the main loop does not dispatch GLib's context, only this tells that no camera is left.
+    if (m_discovery.cameras().isEmpty())
+        Q_EMIT camerasChanged();
+    else
+        selectFirstCamera();
+    applySelection(false);
+}
+
+void CameraEmulationManager::handlePlugged()
+{
+    if (m_discovery.cameras().size() == 1)
+        applySelection(m_playing == Source::Camera);
+}
+
+void CameraEmulationManager::handleUnplugged(const QString &name)
+{
+    if (m_playing == Source::Camera && (name == m_cameraName || name == m_appliedCameraName))
+        stopCameraStream();
+    if (name == m_appliedCameraName)
+        m_appliedCameraName.clear(); // plugged in again it may be opened in another way
+}
+
+void CameraEmulationManager::handleRemoved(const QString &name)
+{
+    Q_EMIT camerasChanged();
+    if (name != m_cameraName || m_discovery.cameras().isEmpty())
+        return;
+    selectFirstCamera();
+    applySelection(false);
 }

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "cameracapabilities.h"
+#include "cameradiscovery.h"
 #include "gstreferences.h"
 #include "streammeter.h"
 
 #include <QElapsedTimer>
-#include <QMap>
 #include <QObject>
 #include <QSize>
 #include <QString>
@@ -156,22 +155,11 @@ Q_SIGNALS:
 private:
     enum class Source { None, Camera, VideoFile };
 
-    struct Camera
-    {
-        QVariantList resolutions;
-        CameraSource source;
-    };
-
     static bool isStreamable(QSize size);
+    void handlePlugged();
+    void handleUnplugged(const QString &name);
+    void handleRemoved(const QString &name);
     void selectFirstCamera();
-
-    // cameradiscovery.cpp
-    void startDeviceMonitor();
-    void stopDeviceMonitor();
-    void listCameras();
-    void addCameraSettings(GstDevice *device);
-    void removeCameraSettings(const QString &name);
-    static int onDeviceListChanged(GstBus *bus, GstMessage *message, void *manager);
 
     // pipelines.cpp
     void constructVideoStreamPipeline();
@@ -184,8 +172,7 @@ private:
     // codeccheck.cpp
     bool checkVideoFile(const QString &path);
 
-    ObjectReference<GstDeviceMonitor> m_deviceMonitor;
-    QMap<QString, Camera> m_cameras;
+    CameraDiscovery m_discovery;
     QString m_framerate;
     int m_width = -1;
     int m_height = -1;

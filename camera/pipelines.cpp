@@ -122,7 +122,7 @@ void CameraEmulationManager::constructCameraStreamPipeline()
     m_appliedCameraName = m_cameraName;
     m_appliedSize = {m_width, m_height};
     m_cameraPipeline = createPipeline("camera-stream-pipeline");
-    const CameraSource camera = m_cameras.value(m_cameraName).source;
+    const CameraSource camera = m_discovery.cameras().value(m_cameraName).source;
     const auto source = createElement(camera.factory.toUtf8().constData(), "sourcePluginCam");
     const auto capsFilter = createElement("capsfilter", "capsfilterCam");
     const auto jpegEncoder = addOutput(m_cameraPipeline.get(), cameraOutput, &m_meter);
@@ -185,9 +185,9 @@ void CameraEmulationManager::startCameraStream()
 {
     stopPipelines();
     // What was applied last may be unplugged by now, too large, or nothing at all.
-    if (!m_cameras.isEmpty()
-        && (!m_cameras.contains(m_appliedCameraName) || !isStreamable(m_appliedSize))) {
-        if (!m_cameras.contains(m_cameraName))
+    if (!m_discovery.cameras().isEmpty()
+        && (!m_discovery.cameras().contains(m_appliedCameraName) || !isStreamable(m_appliedSize))) {
+        if (!m_discovery.cameras().contains(m_cameraName))
             selectFirstCamera();
         applySelection(false);
     }
