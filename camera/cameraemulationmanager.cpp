@@ -2,8 +2,6 @@
 
 #include <QUrl>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 const QString CameraEmulationManager::portForwardingRule = u"emulationmanagementudp"_s;
@@ -22,28 +20,27 @@ CameraEmulationManager::CameraEmulationManager(QObject *parent)
             &CameraEmulationManager::handleUnplugged);
     connect(&m_discovery, &CameraDiscovery::cameraRemoved, this,
             &CameraEmulationManager::handleRemoved);
-    constructVideoStreamPipeline();
-    constructCameraStreamPipeline();
+    // Forwarded on the thread that emits it: this manager's own signal queues the restart.
+    connect(&m_videoPipeline, &VideoFilePipeline::ended, this,
+            &CameraEmulationManager::videoStreamStopped, Qt::DirectConnection);
     connect(this, &CameraEmulationManager::videoStreamStopped, this,
             &CameraEmulationManager::restartVideoStream);
-    m_restartTimer.setSingleShot(true);
-    connect(&m_restartTimer, &QTimer::timeout, this, &CameraEmulationManager::restartVideoStream);
     connect(&m_meter, &StreamMeter::measured, this, &CameraEmulationManager::streamMeasured);
-}
-
-CameraEmulationManager::~CameraEmulationManager()
-{
-    stopPipelines();
 }
 
 bool CameraEmulationManager::streamRunning() const
 {
-    return m_playing != Source::None;
+    return m_playing;
 }
 
 bool CameraEmulationManager::videoStreamRunning() const
 {
-    return m_playing == Source::VideoFile;
+    return m_playing == &m_videoPipeline;
+}
+
+bool CameraEmulationManager::cameraStreamRunning() const
+{
+    return m_playing == &m_cameraPipeline;
 }
 
 int CameraEmulationManager::streamFramesPerSecond() const
@@ -54,11 +51,6 @@ int CameraEmulationManager::streamFramesPerSecond() const
 QSize CameraEmulationManager::streamSize() const
 {
     return m_meter.size();
-}
-
-bool CameraEmulationManager::isStreamable(QSize size)
-{
-    return std::max(size.width(), size.height()) <= maximumSideLength;
 }
 
 QString CameraEmulationManager::localPath(const QUrl &url)
@@ -147,23 +139,18 @@ void CameraEmulationManager::setCameraName(const QString &name)
     Q_EMIT frameratesChanged();
 }
 
-void CameraEmulationManager::selectFirstCamera()
-{
-    setCameraName(m_discovery.cameras().firstKey());
-}
-
 void CameraEmulationManager::setupCameraStreamPipeline()
 {
     m_discovery.readCameras();
     const auto &cameras = m_discovery.cameras();
     if (!cameras.isEmpty() && !cameras.contains(m_cameraName))
         selectFirstCamera();
-    applySelection(m_playing == Source::Camera);
+    applySelection(cameraStreamRunning());
 }
 
 void CameraEmulationManager::updateCamerasList()
 {
-    if (m_playing == Source::Camera)
+    if (cameraStreamRunning())
         stopCameraStream();
     m_discovery.restart();
     // Where the main loop does not dispatch GLib's context, only this tells that no camera is left.
@@ -174,15 +161,81 @@ void CameraEmulationManager::updateCamerasList()
     applySelection(false);
 }
 
+void CameraEmulationManager::startCameraStream()
+{
+    stopPlaying();
+    // What was applied last may be unplugged by now, too large, or nothing at all.
+    const auto &cameras = m_discovery.cameras();
+    if (!cameras.isEmpty()
+        && (!cameras.contains(m_appliedCameraName)
+            || !StreamPipeline::isStreamable(m_appliedSize))) {
+        if (!cameras.contains(m_cameraName))
+            selectFirstCamera();
+        applySelection(false);
+    }
+    const bool isAccepted = StreamPipeline::isStreamable(m_appliedSize);
+    if (isAccepted)
+        play(&m_cameraPipeline);
+    Q_EMIT streamRunningChanged();
+    if (!isAccepted)
+        Q_EMIT streamSizeRefused(m_appliedSize);
+}
+
+void CameraEmulationManager::stopCameraStream()
+{
+    if (cameraStreamRunning())
+        stopPlaying();
+    Q_EMIT streamRunningChanged();
+}
+
+void CameraEmulationManager::startVideoStream(const QString &filePath)
+{
+    stopPlaying();
+    if (!filePath.isEmpty() && checkVideoFile(filePath)) {
+        m_videoPipeline.setFile(filePath);
+        play(&m_videoPipeline);
+    }
+    // also without a new stream: the one before has ended
+    Q_EMIT streamRunningChanged();
+}
+
+void CameraEmulationManager::stopVideoStream()
+{
+    if (videoStreamRunning())
+        stopPlaying();
+    Q_EMIT streamRunningChanged();
+}
+
+void CameraEmulationManager::stopStreams()
+{
+    stopPlaying();
+    Q_EMIT streamRunningChanged();
+}
+
+void CameraEmulationManager::setCameraStreamSettings()
+{
+    if (StreamPipeline::isStreamable({m_width, m_height}))
+        applySelection(streamRunning());
+    else
+        Q_EMIT streamSizeRefused({m_width, m_height});
+}
+
+void CameraEmulationManager::restartVideoStream()
+{
+    // stopped while the news of the file's end was on its way here
+    if (videoStreamRunning())
+        m_videoPipeline.restart();
+}
+
 void CameraEmulationManager::handlePlugged()
 {
     if (m_discovery.cameras().size() == 1)
-        applySelection(m_playing == Source::Camera);
+        applySelection(cameraStreamRunning());
 }
 
 void CameraEmulationManager::handleUnplugged(const QString &name)
 {
-    if (m_playing == Source::Camera && (name == m_cameraName || name == m_appliedCameraName))
+    if (cameraStreamRunning() && (name == m_cameraName || name == m_appliedCameraName))
         stopCameraStream();
     if (name == m_appliedCameraName)
         m_appliedCameraName.clear(); // plugged in again it may be opened in another way
@@ -195,4 +248,37 @@ void CameraEmulationManager::handleRemoved(const QString &name)
         return;
     selectFirstCamera();
     applySelection(false);
+}
+
+void CameraEmulationManager::selectFirstCamera()
+{
+    setCameraName(m_discovery.cameras().firstKey());
+}
+
+void CameraEmulationManager::applySelection(bool restart)
+{
+    if (restart)
+        stopStreams();
+    m_appliedCameraName = m_cameraName;
+    m_appliedSize = {m_width, m_height};
+    m_cameraPipeline.setCamera(m_discovery.cameras().value(m_cameraName).source, m_appliedSize,
+                               m_framerate);
+    if (restart)
+        startCameraStream();
+    Q_EMIT cameraStreamSettingsApplied();
+}
+
+void CameraEmulationManager::play(StreamPipeline *pipeline)
+{
+    pipeline->play();
+    m_playing = pipeline;
+    m_meter.start(pipeline);
+}
+
+void CameraEmulationManager::stopPlaying()
+{
+    if (m_playing)
+        m_playing->stop();
+    m_playing = nullptr;
+    m_meter.stop();
 }

@@ -1,15 +1,14 @@
 #pragma once
 
 #include "cameradiscovery.h"
-#include "gstreferences.h"
+#include "camerapipeline.h"
 #include "streammeter.h"
+#include "videofilepipeline.h"
 
-#include <QElapsedTimer>
 #include <QObject>
 #include <QSize>
 #include <QString>
 #include <QStringList>
-#include <QTimer>
 #include <QVariantList>
 #include <QtQmlIntegration>
 
@@ -49,15 +48,14 @@ class CameraEmulationManager : public QObject
 
 public:
     /// Both ends of the forwarded UDP port.
-    static constexpr int udpPort = 34343;
-    static constexpr char localhost[] = "127.0.0.1";
+    static constexpr int udpPort = StreamPipeline::udpPort;
+    static constexpr const char *localhost = StreamPipeline::host;
     /// Name of the SDK's port forwarding rule for it.
     static const QString portForwardingRule;
     /// The largest width and height, in pixels, that RTP/JPEG has room for (RFC 2435, 3.1.5).
-    static constexpr int maximumSideLength = 2040;
+    static constexpr int maximumSideLength = StreamPipeline::maximumSideLength;
 
     explicit CameraEmulationManager(QObject *parent = nullptr);
-    ~CameraEmulationManager() override;
 
     /// True from a start of either stream, whether GStreamer can play it or not, until it ends.
     [[nodiscard]] bool streamRunning() const;
@@ -153,23 +151,14 @@ Q_SIGNALS:
     void streamSizeRefused(QSize size);
 
 private:
-    enum class Source { None, Camera, VideoFile };
-
-    static bool isStreamable(QSize size);
+    [[nodiscard]] bool cameraStreamRunning() const;
     void handlePlugged();
     void handleUnplugged(const QString &name);
     void handleRemoved(const QString &name);
     void selectFirstCamera();
-
-    // pipelines.cpp
-    void constructVideoStreamPipeline();
-    void constructCameraStreamPipeline();
     void applySelection(bool restart);
-    void setPlaying(Source source);
-    void stopPipelines();
-    void playVideo();
-
-    // codeccheck.cpp
+    void play(StreamPipeline *pipeline);
+    void stopPlaying();
     bool checkVideoFile(const QString &path);
 
     CameraDiscovery m_discovery;
@@ -178,15 +167,10 @@ private:
     int m_height = -1;
     int m_resolutionIndex = 0;
     QString m_cameraName;
-    StreamMeter m_meter; // outlives the pipelines
-    // the only home of what the pipelines do: streamRunning() and videoStreamRunning() tell it
-    Source m_playing = Source::None;
-    ObjectReference<GstElement> m_videoPipeline;
-    ObjectReference<GstElement> m_fileSource;
-    QString m_videoFile;
-    QElapsedTimer m_sinceVideoStart;
-    QTimer m_restartTimer;
-    ObjectReference<GstElement> m_cameraPipeline;
-    QString m_appliedCameraName; // what the camera's pipeline was made for
+    VideoFilePipeline m_videoPipeline;
+    CameraPipeline m_cameraPipeline;
+    QString m_appliedCameraName; // the camera and size that m_cameraPipeline has
     QSize m_appliedSize;
+    StreamPipeline *m_playing = nullptr; // streamRunning() and videoStreamRunning() derive from it
+    StreamMeter m_meter;
 };

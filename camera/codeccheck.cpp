@@ -58,7 +58,7 @@ bool CameraEmulationManager::checkVideoFile(const QString &path)
     const VideoStream stream = videoStreamOf(path);
     const bool success = stream.codec.contains("VP8"_L1) || stream.codec.contains("VP9"_L1);
     Q_EMIT videoFileCodecChecked(success, stream.codec);
-    if (success && !isStreamable(stream.size))
+    if (success && !StreamPipeline::isStreamable(stream.size))
         Q_EMIT streamSizeRefused(stream.size);
-    return success && isStreamable(stream.size);
+    return success && StreamPipeline::isStreamable(stream.size);
 }

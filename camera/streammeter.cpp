@@ -1,38 +1,15 @@
 #include "streammeter.h"
 
-#include <gst/gst.h>
+#include "streampipeline.h"
 
 #include <algorithm>
 #include <chrono>
-#include <utility>
 
 using namespace std::chrono_literals;
 
 static constexpr std::chrono::milliseconds interval = 1s;
-// A camera may take one second for its first frame, or between two.
+// Some cameras need up to a second for the first frame or between two frames.
 static constexpr int measurementsUntilNoFrames = 2;
-
-static GstPadProbeReturn countFrame(GstPad *pad, GstPadProbeInfo *info, void *frameCount)
-{
-    Q_UNUSED(pad)
-    Q_UNUSED(info)
-    ++*static_cast<std::atomic<int> *>(frameCount);
-    return GST_PAD_PROBE_PASS;
-}
-
-static QSize sizeOfFrames(GstElement *jpegEncoder)
-{
-    const ObjectReference<GstPad> pad(gst_element_get_static_pad(jpegEncoder, "src"));
-    const MiniObjectReference<GstCaps> caps(gst_pad_get_current_caps(pad.get()));
-    int width = -1;
-    int height = -1;
-    if (caps) {
-        const GstStructure *structure = gst_caps_get_structure(caps.get(), 0);
-        gst_structure_get(structure, "width", G_TYPE_INT, &width, "height", G_TYPE_INT, &height,
-                          nullptr);
-    }
-    return {width, height};
-}
 
 StreamMeter::StreamMeter(QObject *parent)
     : QObject(parent)
@@ -42,18 +19,10 @@ StreamMeter::StreamMeter(QObject *parent)
     connect(&m_timer, &QTimer::timeout, this, &StreamMeter::measure);
 }
 
-void StreamMeter::countFramesOf(GstElement *udpSink)
+void StreamMeter::start(StreamPipeline *pipeline)
 {
-    // the payloader pushes the packets of a frame as one list
-    const ObjectReference<GstPad> pad(gst_element_get_static_pad(udpSink, "sink"));
-    gst_pad_add_probe(pad.get(), GST_PAD_PROBE_TYPE_BUFFER_LIST, countFrame, &m_frameCount,
-                      nullptr);
-}
-
-void StreamMeter::start(ObjectReference<GstElement> jpegEncoder)
-{
-    m_jpegEncoder = std::move(jpegEncoder);
-    m_frameCount = 0;
+    m_pipeline = pipeline;
+    static_cast<void>(m_pipeline->takeFrameCount()); // those of an earlier stream
     m_measurementsWithoutFrame = 0;
     m_sinceMeasurement.start();
     m_timer.start();
@@ -63,7 +32,6 @@ void StreamMeter::start(ObjectReference<GstElement> jpegEncoder)
 void StreamMeter::stop()
 {
     m_timer.stop();
-    m_jpegEncoder.reset();
     reset();
 }
 
@@ -79,12 +47,12 @@ QSize StreamMeter::size() const
 
 void StreamMeter::measure()
 {
-    const int frames = m_frameCount.exchange(0);
+    const int frames = m_pipeline->takeFrameCount();
     const double seconds = static_cast<double>(m_sinceMeasurement.restart()) / 1000;
     m_measurementsWithoutFrame = frames > 0 ? 0 : m_measurementsWithoutFrame + 1;
     if (frames > 0) {
         m_framesPerSecond = std::max(qRound(frames / seconds), 1);
-        m_size = sizeOfFrames(m_jpegEncoder.get());
+        m_size = m_pipeline->frameSize();
     } else if (m_measurementsWithoutFrame >= measurementsUntilNoFrames) {
         m_framesPerSecond = 0;
         m_size = {};

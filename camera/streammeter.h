@@ -1,19 +1,13 @@
 #pragma once
 
-#include "gstreferences.h"
-
 #include <QElapsedTimer>
 #include <QObject>
 #include <QSize>
 #include <QTimer>
 
-#include <atomic>
+class StreamPipeline;
 
-/*!
- * Measures what leaves a pipeline that streams: how many frames a second, and their size.
- *
- * Measures once a second while it runs.
- */
+/// Measures once a second how many frames a pipeline sends, and their size.
 class StreamMeter : public QObject
 {
     Q_OBJECT
@@ -21,17 +15,14 @@ class StreamMeter : public QObject
 public:
     explicit StreamMeter(QObject *parent = nullptr);
 
-    /// Counts each frame that a payloader hands to \a udpSink. The meter must outlive the sink.
-    void countFramesOf(GstElement *udpSink);
-
-    /// Begins to measure a stream whose frames \a jpegEncoder makes.
-    void start(ObjectReference<GstElement> jpegEncoder);
+    /// Begins to measure \a pipeline, which must exist until stop().
+    void start(StreamPipeline *pipeline);
     void stop();
 
-    /// Negative while it is unknown: without a stream, or before its first frame. 0 after two
+    /// Negative while unknown, which is without a stream or before its first frame. 0 after two
     /// seconds without a frame.
     [[nodiscard]] int framesPerSecond() const;
-    /// In pixels. Not valid while it is unknown.
+    /// In pixels. Not valid while unknown.
     [[nodiscard]] QSize size() const;
 
 Q_SIGNALS:
@@ -41,10 +32,9 @@ private:
     void measure();
     void reset();
 
-    ObjectReference<GstElement> m_jpegEncoder;
+    StreamPipeline *m_pipeline = nullptr;
     QTimer m_timer;
     QElapsedTimer m_sinceMeasurement;
-    std::atomic<int> m_frameCount = 0; // written by threads of the pipelines
     int m_measurementsWithoutFrame = 0;
     int m_framesPerSecond = -1;
     QSize m_size;

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "gstreferences.h"
+
+#include <QSize>
+
+#include <atomic>
+
+/*!
+ * Base of the pipelines that send pictures to the emulator's camera, as RTP/JPEG over UDP
+ * (RFC 2435).
+ *
+ * It makes the elements that each pipeline ends with. A subclass puts the source of the pictures in
+ * front of jpegEncoder(). GStreamer's errors are not reported: the pipeline then sends nothing.
+ */
+class StreamPipeline
+{
+public:
+    static constexpr char host[] = "127.0.0.1";
+    static constexpr int udpPort = 34343;
+    /// The largest width and height, in pixels, that RTP/JPEG has room for (RFC 2435, 3.1.5).
+    static constexpr int maximumSideLength = 2040;
+
+    /// Names of the pipeline and of its last elements.
+    struct Names
+    {
+        const char *pipeline;
+        const char *jpegEncoder;
+        const char *rtpPayloader;
+        const char *udpSink;
+    };
+
+    /// Stops.
+    virtual ~StreamPipeline();
+
+    virtual void play();
+    /// Returns when nothing is sent any more. Does nothing to a pipeline that is stopped.
+    virtual void stop();
+
+    /// The number of frames that were sent since the last call.
+    [[nodiscard]] int takeFrameCount();
+    /// Width and height of the frames in pixels; not valid before the first frame.
+    [[nodiscard]] QSize frameSize() const;
+
+    /// Whether pictures of this size, in pixels, fit into RTP/JPEG. A size that is not known does.
+    [[nodiscard]] static bool isStreamable(QSize size);
+
+protected:
+    explicit StreamPipeline(const Names &names);
+
+    [[nodiscard]] GstElement *pipeline() const;
+    /// Null, like udpSink(), where GStreamer lacks its good plugins.
+    [[nodiscard]] GstElement *jpegEncoder() const;
+    [[nodiscard]] GstElement *udpSink() const;
+
+private:
+    ObjectReference<GstElement> m_pipeline;
+    ObjectReference<GstElement> m_jpegEncoder;
+    ObjectReference<GstElement> m_udpSink;
+    std::atomic<int> m_frameCount = 0; // written by a thread of the pipeline
+};
