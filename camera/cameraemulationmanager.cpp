@@ -1,5 +1,7 @@
 #include "cameraemulationmanager.h"
 
+#include "codeccheck.h"
+
 #include <QUrl>
 
 using namespace Qt::StringLiterals;
@@ -266,6 +268,17 @@ void CameraEmulationManager::applySelection(bool restart)
     if (restart)
         startCameraStream();
     Q_EMIT cameraStreamSettingsApplied();
+}
+
+bool CameraEmulationManager::checkVideoFile(const QString &path)
+{
+    const VideoStream stream = firstVideoStream(path);
+    const bool success = isSupportedCodec(stream.codec);
+    Q_EMIT videoFileCodecChecked(success, stream.codec);
+    const bool isStreamable = StreamPipeline::isStreamable(stream.size);
+    if (success && !isStreamable)
+        Q_EMIT streamSizeRefused(stream.size);
+    return success && isStreamable;
 }
 
 void CameraEmulationManager::play(StreamPipeline *pipeline)

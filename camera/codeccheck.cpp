@@ -1,6 +1,6 @@
-// The part of the camera manager that accepts or refuses a video file.
+#include "codeccheck.h"
 
-#include "cameraemulationmanager.h"
+#include "gstreferences.h"
 
 #include <gst/pbutils/pbutils.h>
 
@@ -11,12 +11,6 @@ using namespace Qt::StringLiterals;
 
 static constexpr GstClockTime timeout = 2 * GST_SECOND;
 
-struct VideoStream
-{
-    QString codec; ///< "VP8 video" for example; empty if the file tells none
-    QSize size;
-};
-
 static QString codecOf(GstDiscovererStreamInfo *stream)
 {
     gchar *codec = nullptr;
@@ -25,17 +19,17 @@ static QString codecOf(GstDiscovererStreamInfo *stream)
     return takeText(codec);
 }
 
-/// The first video stream of a file that tells its codec.
-static VideoStream videoStreamOf(const QString &path)
+VideoStream firstVideoStream(const QString &path)
 {
-    // opening a pipe would wait for ever for a writer
+    // Opening a named pipe would block until another process writes to it.
     if (!QFileInfo(path).isFile())
         return {};
+    gst_init(nullptr, nullptr);
     const ObjectReference<GstDiscoverer> discoverer(gst_discoverer_new(timeout, nullptr));
     if (!discoverer)
         return {};
     const QByteArray uri = QUrl::fromLocalFile(path).toEncoded();
-    // also what was found out by the timeout counts
+    // After a timeout or an error, the information that was found until then is returned.
     const ObjectReference<GstDiscovererInfo> info(
         gst_discoverer_discover_uri(discoverer.get(), uri.constData(), nullptr));
     if (!info)
@@ -53,12 +47,7 @@ static VideoStream videoStreamOf(const QString &path)
     return result;
 }
 
-bool CameraEmulationManager::checkVideoFile(const QString &path)
+bool isSupportedCodec(const QString &codec)
 {
-    const VideoStream stream = videoStreamOf(path);
-    const bool success = stream.codec.contains("VP8"_L1) || stream.codec.contains("VP9"_L1);
-    Q_EMIT videoFileCodecChecked(success, stream.codec);
-    if (success && !StreamPipeline::isStreamable(stream.size))
-        Q_EMIT streamSizeRefused(stream.size);
-    return success && StreamPipeline::isStreamable(stream.size);
+    return codec.contains("VP8"_L1) || codec.contains("VP9"_L1);
 }
