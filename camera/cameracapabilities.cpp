@@ -38,7 +38,7 @@ QVariantList availableResolutions(const GstCaps *caps)
         const GstStructure *structure = gst_caps_get_structure(caps, index);
         const QString framerateText = serializedField(structure, "framerate");
         if (framerateText.contains("GstFractionRange"_L1))
-            continue; // a list of ranges
+            continue; // a list of ranges, which initAvailableFramerates() cannot read
         QStringList framerates;
         initAvailableFramerates(&framerates, framerateText);
         addAvailableResolution(&resolutions, framerates, serializedField(structure, "width"),
@@ -82,12 +82,12 @@ CameraSource retrieveCameraSource(GstDevice *device)
         g_object_class_list_properties(G_OBJECT_GET_CLASS(element.get()), &count), &g_free);
     for (const GParamSpec *property : std::span(properties.get(), count)) {
         const QLatin1StringView name(property->name);
-        const bool goesFirst = name == "device"_L1 || name == "device-index"_L1;
-        if (!goesFirst && name != "device-path"_L1)
+        const bool isPreferred = name == "device"_L1 || name == "device-index"_L1;
+        if (!isPreferred && name != "device-path"_L1)
             continue;
         source.property = name;
         source.value = serializedProperty(element.get(), property);
-        if (goesFirst)
+        if (isPreferred)
             break;
     }
     return source;

@@ -5,29 +5,31 @@
 #include <QStringList>
 #include <QVariantList>
 
-/// The element that gives a camera's pictures, and the property that tells it which camera to open.
+/// The GStreamer element that reads a camera, and its property that selects this camera.
 struct CameraSource
 {
-    QString factory; ///< of the element; empty if it has none
-    QString property; ///< "device", "device-index", "device-path", or empty
-    QString value; ///< of the property, in GStreamer's text form
+    QString factory; ///< name of the element's factory; empty if it has no factory
+    QString property; ///< "device", "device-index" or "device-path"; empty if it has none of them
+    QString value; ///< the property's value in GStreamer's text form
 };
 
 /*!
- * The frame sizes of a camera, widest first.
+ * The frame sizes of a camera, widest first. Empty if \a caps is null.
  *
- * Each is a map of "width" and "height" in pixels, "string", for example 640x480, and "framerates".
+ * Each entry is a map with "width" and "height" in pixels, "string" (640x480 for example) and
+ * "framerates", see initAvailableFramerates(). Entries of \a caps whose frame rate is a list of
+ * ranges, or whose size is not one positive width and height, are skipped.
  */
 [[nodiscard]] QVariantList availableResolutions(const GstCaps *caps);
 
 /*!
- * Appends a frame size unless the list has it. The first entry of a size wins: frame rates of
- * later ones, in other pixel formats, are dropped.
+ * Appends a frame size, in pixels, unless the list has it already. The frame rates that the same
+ * size has in other pixel formats are therefore dropped.
  *
- * Texts that are no positive number, such as ranges, append nothing.
+ * Appends nothing if a text is not a positive number, for example if it is a range.
  */
 void addAvailableResolution(QVariantList *resolutions, const QStringList &framerates,
                             const QString &width, const QString &height);
 
-/// What opens this device. "device" and "device-index" go before "device-path".
+/// How to open this device. Prefers the properties "device" and "device-index" to "device-path".
 [[nodiscard]] CameraSource retrieveCameraSource(GstDevice *device);

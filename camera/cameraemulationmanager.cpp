@@ -22,7 +22,7 @@ CameraEmulationManager::CameraEmulationManager(QObject *parent)
             &CameraEmulationManager::handleUnplugged);
     connect(&m_discovery, &CameraDiscovery::cameraRemoved, this,
             &CameraEmulationManager::handleRemoved);
-    // Forwarded on the thread that emits it: this manager's own signal queues the restart.
+    // Direct, because videoStreamStopped() itself queues the restart to this thread.
     connect(&m_videoPipeline, &VideoFilePipeline::ended, this,
             &CameraEmulationManager::videoStreamStopped, Qt::DirectConnection);
     connect(this, &CameraEmulationManager::videoStreamStopped, this,
@@ -155,7 +155,7 @@ void CameraEmulationManager::updateCamerasList()
     if (cameraStreamRunning())
         stopCameraStream();
     m_discovery.restart();
-    // Where the main loop does not dispatch GLib's context, only this tells that no camera is left.
+    // restart() announces each camera that it finds. An empty list is announced here.
     if (m_discovery.cameras().isEmpty())
         Q_EMIT camerasChanged();
     else
@@ -166,7 +166,6 @@ void CameraEmulationManager::updateCamerasList()
 void CameraEmulationManager::startCameraStream()
 {
     stopPlaying();
-    // What was applied last may be unplugged by now, too large, or nothing at all.
     const auto &cameras = m_discovery.cameras();
     if (!cameras.isEmpty()
         && (!cameras.contains(m_appliedCameraName)
@@ -197,7 +196,7 @@ void CameraEmulationManager::startVideoStream(const QString &filePath)
         m_videoPipeline.setFile(filePath);
         play(&m_videoPipeline);
     }
-    // also without a new stream: the one before has ended
+    // Emitted even if the file is refused, because an earlier stream has ended.
     Q_EMIT streamRunningChanged();
 }
 
@@ -224,7 +223,7 @@ void CameraEmulationManager::setCameraStreamSettings()
 
 void CameraEmulationManager::restartVideoStream()
 {
-    // stopped while the news of the file's end was on its way here
+    // The user may have stopped it after videoStreamStopped() was queued.
     if (videoStreamRunning())
         m_videoPipeline.restart();
 }
@@ -240,7 +239,7 @@ void CameraEmulationManager::handleUnplugged(const QString &name)
     if (cameraStreamRunning() && (name == m_cameraName || name == m_appliedCameraName))
         stopCameraStream();
     if (name == m_appliedCameraName)
-        m_appliedCameraName.clear(); // plugged in again it may be opened in another way
+        m_appliedCameraName.clear(); // plugged in again, it may have another device path
 }
 
 void CameraEmulationManager::handleRemoved(const QString &name)

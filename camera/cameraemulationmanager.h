@@ -18,13 +18,12 @@ class QUrl;
  * Feeds the emulator's camera with pictures of a host camera or of a video file, as RTP/JPEG over
  * UDP (RFC 2435).
  *
- * Follows the cameras that are plugged in and out, and keeps what the user selects of them. A
- * selection reaches the stream only with setCameraStreamSettings(). Setters notify also when
- * nothing changed. Failures within GStreamer are not reported: the stream then sends nothing, which
- * streamFramesPerSecond() tells.
+ * Keeps the user's choice of camera, size and frame rate, and knows which stream runs. A choice
+ * reaches the stream only with setCameraStreamSettings(). Setters notify even when nothing changed.
+ * GStreamer's errors are not reported: the stream then sends nothing, and streamFramesPerSecond()
+ * shows it.
  *
- * The main loop must dispatch GLib's default context, as Qt's does on Linux, for changes of the
- * cameras to be noticed.
+ * CameraDiscovery says when it notices cameras that are plugged in or out.
  */
 class CameraEmulationManager : public QObject
 {
@@ -47,91 +46,100 @@ class CameraEmulationManager : public QObject
     Q_PROPERTY(QString cameraName READ cameraName WRITE setCameraName NOTIFY cameraNameChanged)
 
 public:
-    /// Both ends of the forwarded UDP port.
+    /// The UDP port that streams are sent to. The emulator's end has the same number.
     static constexpr int udpPort = StreamPipeline::udpPort;
+    /// The address that streams are sent to.
     static constexpr const char *localhost = StreamPipeline::host;
-    /// Name of the SDK's port forwarding rule for it.
+    /// Name of the SDK's port forwarding rule for udpPort.
     static const QString portForwardingRule;
-    /// The largest width and height, in pixels, that RTP/JPEG has room for (RFC 2435, 3.1.5).
+    /// The largest width and height, in pixels, that can be streamed.
     static constexpr int maximumSideLength = StreamPipeline::maximumSideLength;
 
     explicit CameraEmulationManager(QObject *parent = nullptr);
 
-    /// True from a start of either stream, whether GStreamer can play it or not, until it ends.
+    /// True from the start of a stream until it is stopped, whether or not GStreamer can play it.
     [[nodiscard]] bool streamRunning() const;
-    /// True while the stream that runs is one of a video file.
+    /// True while a video file is streamed.
     [[nodiscard]] bool videoStreamRunning() const;
 
-    /// What leaves, see StreamMeter.
+    /// See StreamMeter::framesPerSecond().
     [[nodiscard]] int streamFramesPerSecond() const;
+    /// See StreamMeter::size().
     [[nodiscard]] QSize streamSize() const;
 
-    /// Names of the host's cameras in ascending order; those of one name share an entry.
+    /// Names of the host's cameras in ascending order. Cameras with the same name share one entry.
     [[nodiscard]] QStringList cameras() const;
-    /// Frame sizes of the selected camera, see availableResolutions().
+    /// Frame sizes of the selected camera, see availableResolutions(). Empty without a camera.
     [[nodiscard]] QVariantList resolutions() const;
-    /// Frame rates of the selected camera at the selected size, largest first.
+    /// Frame rates of the selected camera at the selected size, largest first. Empty if the index
+    /// of the size is out of range.
     [[nodiscard]] QStringList framerates() const;
 
-    /// Numerator and denominator, "30/1"; empty when the camera may choose.
+    /// Numerator and denominator in frames per second, "30/1"; empty if the camera may choose.
     [[nodiscard]] QString framerate() const;
-    /// A text without "/" selects no frame rate.
+    /// Selects a frame rate. A text without "/" lets the camera choose.
     void setFramerate(const QString &framerate);
 
-    /// In pixels; negative when the camera may choose.
+    /// In pixels; negative if the camera may choose.
     [[nodiscard]] int width() const;
     void setWidth(int width);
+    /// In pixels; negative if the camera may choose.
     [[nodiscard]] int height() const;
     void setHeight(int height);
 
+    /// Index of the selected size in resolutions().
     [[nodiscard]] int resolutionIndex() const;
     /*!
-     * Selects an entry of resolutions() with its width and height, and its largest frame rate
-     * unless it has the selected one. A size or rate that there is not leaves what was selected.
+     * Selects the width and height of an entry of resolutions(). Keeps the frame rate if the entry
+     * has it, otherwise selects the entry's largest one. If the index is out of range, width and
+     * height stay as well. If the entry has no frame rates, the selected one stays.
      */
     void setResolutionIndex(int index);
 
+    /// Name of the selected camera. It stays when the last camera is unplugged.
     [[nodiscard]] QString cameraName() const;
-    /// Selects a camera and the first of its sizes.
+    /// Selects a camera and its first size. For an unknown name, width, height and rate stay.
     void setCameraName(const QString &name);
 
-    /// Called whenever the window is about to be shown with the emulator at hand. Lists the
-    /// cameras, selects the first unless the selected one is there, and takes over the selection.
+    /// Reads the cameras, selects the first one if the selected one is missing, and applies the
+    /// selection. The plugin calls it before it shows the window, once the emulator is connected.
     void setupCameraStreamPipeline();
 
-    /// Looks for cameras afresh and selects the first. Ends a stream of a camera; one of a video
-    /// file goes on, so that no camera is switched on unasked.
+    /// Reads the cameras anew and selects the first one. Ends a camera's stream. A video file plays
+    /// on, because the user did not ask for a camera.
     Q_INVOKABLE void updateCamerasList();
 
-    /// Ends any stream, then starts one of the camera that was taken over last; if there is none
-    /// any more, or its size cannot be streamed, of the selected one.
+    /// Ends any stream, then streams the camera that was applied last. If it was unplugged or its
+    /// size cannot be streamed, applies the selection first. If that size cannot be streamed
+    /// either, nothing starts. Without any camera, streamRunning() gets true but nothing is sent.
     Q_INVOKABLE void startCameraStream();
-    /// Ends a stream of a camera.
+    /// Ends a camera's stream.
     Q_INVOKABLE void stopCameraStream();
     /*!
-     * Ends any stream, then plays a local file over and over if it holds VP8 or VP9, which takes up
-     * to two seconds to find out. No path only ends the streams.
+     * Ends any stream, then plays a local file in a loop if it holds VP8 or VP9. The check of the
+     * codec takes up to two seconds. An empty path only ends the stream.
      */
     Q_INVOKABLE void startVideoStream(const QString &filePath);
-    /// Ends a stream of a video file.
+    /// Ends the stream of a video file.
     Q_INVOKABLE void stopVideoStream();
-    /// Ends any stream. Nothing is sent from then on.
+    /// Ends any stream. Nothing is sent after it returns.
     Q_INVOKABLE void stopStreams();
-    /// Takes over the selected camera, size and rate. A running stream, also one of a video file,
-    /// becomes one of the camera. A size that cannot be streamed changes nothing.
+    /// Applies the selected camera, size and frame rate. Any running stream, even that of a video
+    /// file, is replaced by the camera's. A size that cannot be streamed changes nothing.
     Q_INVOKABLE void setCameraStreamSettings();
 
-    /// The path of a local file's URL. Empty for other URLs, and where escapes are not UTF-8: such
-    /// a path cannot be told.
+    /// The path of a local file's URL. Empty for other URLs, and if the URL's escapes are not
+    /// UTF-8, because QString cannot hold that path.
     Q_INVOKABLE [[nodiscard]] static QString localPath(const QUrl &url);
 
 public Q_SLOTS:
-    /// Plays the video file from its start, unless it was stopped. A file without pictures, which
-    /// comes to its end at once, waits a little.
+    /// Plays the video file again, unless it was stopped. See VideoFilePipeline::restart().
     void restartVideoStream();
 
 Q_SIGNALS:
+    /// Emitted by each start and stop, even if streamRunning() stays the same.
     void streamRunningChanged();
+    /// streamFramesPerSecond() and streamSize() were measured or became unknown.
     void streamMeasured();
     void frameratesChanged();
     void resolutionsChanged();
@@ -143,11 +151,13 @@ Q_SIGNALS:
     void cameraNameChanged();
     /// The video file came to its end. Emitted on a thread of GStreamer's.
     void videoStreamStopped();
+    /// The camera's pipeline has the selected camera, size and frame rate.
     void cameraStreamSettingsApplied();
-    /// The verdict on a file that is to be played. The name is empty if the file tells none.
+    /// Tells whether the codec of a file that is to be played is supported. \a codecName is empty
+    /// if it could not be read.
     void videoFileCodecChecked(bool success, const QString &codecName);
-    /// A stream was not started, or its settings not taken over: its pictures are too large, see
-    /// maximumSideLength.
+    /// A stream was not started, or the selection was not applied, because the pictures are larger
+    /// than maximumSideLength.
     void streamSizeRefused(QSize size);
 
 private:

@@ -40,8 +40,8 @@ VideoStream firstVideoStream(const QString &path)
     for (const GList *entry = streams; entry && result.codec.isEmpty(); entry = entry->next) {
         const auto *stream = static_cast<GstDiscovererVideoInfo *>(entry->data);
         result = {.codec = codecOf(static_cast<GstDiscovererStreamInfo *>(entry->data)),
-                  .size = QSize(int(gst_discoverer_video_info_get_width(stream)),
-                                int(gst_discoverer_video_info_get_height(stream)))};
+                  .size = QSize(static_cast<int>(gst_discoverer_video_info_get_width(stream)),
+                                static_cast<int>(gst_discoverer_video_info_get_height(stream)))};
     }
     gst_discoverer_stream_info_list_free(streams);
     return result;

@@ -3,8 +3,11 @@
 #include <QList>
 
 #include <algorithm>
+#include <iterator>
 
-// Cameras give up to some hundred frames a second, but a range may reach to the largest integer.
+using namespace Qt::StringLiterals;
+
+// The high end of a range may be the largest integer, while cameras reach a few hundred frames/s.
 static constexpr qsizetype maxRangeSize = 200;
 static constexpr qint64 rangeStep = 5;
 
@@ -15,7 +18,7 @@ static QStringList splitAtCommas(const QString &text)
 
 static QString wholeFramerate(qint64 framesPerSecond)
 {
-    return QStringLiteral("%1/1").arg(framesPerSecond);
+    return u"%1/1"_s.arg(framesPerSecond);
 }
 
 static int numerator(const QString &framerate)
@@ -62,7 +65,7 @@ void initFrameratesFromRange(QStringList *framerates, const QString &text)
 void initAvailableFramerates(QStringList *framerates, const QString &text)
 {
     if (text.contains(u'{') && text.contains(u'}')) {
-        // "{ (fraction)30/1, (fraction)15/1 }"
+        // for example "{ (fraction)30/1, (fraction)15/1 }"
         QString fractions = text;
         fractions.removeIf(
             [](QChar character) { return QStringView(u"{}(fraction) ").contains(character); });

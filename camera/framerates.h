@@ -3,35 +3,37 @@
 #include <QString>
 #include <QStringList>
 
-// Frame rates are texts "numerator/denominator", as in GStreamer's caps.
+// Frame rates are texts "numerator/denominator" in frames per second, as in GStreamer's caps.
 
-/// An end of a range of frame rates.
+/// The ends of a range of frame rates.
 enum class LIMIT { Low, High };
 
 /*!
- * Turns a list of fractions "30000/1001,15/2" into whole frame rates: 29/1 and 7/1, truncated.
+ * Truncates a list of fractions to whole frame rates: "30000/1001,15/2" becomes 29/1 and 7/1.
  *
- * A part that is no fraction, or whose denominator is "1", stays as it is. A denominator that is
- * no number above 1 counts as 1, a numerator that is no number as 0.
+ * A part that is not a fraction, or has the denominator "1", stays as it is. Any other denominator
+ * that is not a number above 1 counts as 1. A numerator that is not a number counts as 0.
  */
 [[nodiscard]] QStringList normalizeFractions(const QString &text);
 
-/// An end of a serialised range "[ 5/1, 30/1 ]" as a whole number, truncated; 0 where there is
-/// none.
+/// One end of a serialised range "[ 5/1, 30/1 ]", truncated to a whole number. 0 if the text has no
+/// such end or its denominator is 0.
 [[nodiscard]] int parseGstFramerate(const QString &text, LIMIT limit);
 
 /*!
- * Appends a choice of frame rates within a serialised range: its low end, that plus one, and each
- * multiple of five from there up to the first that is not below the high end.
+ * Appends a choice of frame rates from a serialised range "[ 5/1, 30/1 ]": the low end, the low end
+ * plus one, and the multiples of five above, up to the first that reaches the high end.
  *
- * No text counts as 1/1. An endless range ends after some 200 rates.
+ * An empty text counts as the range from 1/1 to 1/1. At most about 200 rates are appended.
  */
 void initFrameratesFromRange(QStringList *framerates, const QString &text);
 
 /*!
- * Appends the frame rates of a serialised field "framerate", which is a list in braces, a range in
- * brackets or a single fraction, and sorts all by their numerators, largest first.
+ * Appends the frame rates of a serialised field "framerate", and sorts all by their numerators,
+ * largest first.
  *
- * Fractions of a list become whole rates; a single one stays as it is, 30000/1001 for example.
+ * The field is a list in braces, see normalizeFractions(), a range in brackets, see
+ * initFrameratesFromRange(), or a single fraction. Only a single fraction is not truncated:
+ * 30000/1001 stays as it is.
  */
 void initAvailableFramerates(QStringList *framerates, const QString &text);

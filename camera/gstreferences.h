@@ -4,7 +4,7 @@
 
 #include <memory>
 
-// The types of GStreamer that stand in the headers of this folder, whose users need not know it.
+// Declared here so that users of this folder's headers need no GStreamer headers.
 using GstBus = struct _GstBus;
 using GstCaps = struct _GstCaps;
 using GstDevice = struct _GstDevice;
@@ -22,16 +22,17 @@ struct UnrefMiniObject
     void operator()(void *object) const noexcept;
 };
 
-/// Holds one reference to a GObject: an element, a bus, a device, a pad.
+/// Holds one reference to a GObject, for example an element, a bus, a device or a pad.
 template<typename T>
 using ObjectReference = std::unique_ptr<T, UnrefObject>;
 
-/// Holds one reference to a GstMiniObject: caps, a message, a list of tags.
+/// Holds one reference to a GstMiniObject, for example caps.
 template<typename T>
 using MiniObjectReference = std::unique_ptr<T, UnrefMiniObject>;
 
-/// Owns an element that nobody owns yet (its reference is "floating"); a bin may own it as well.
+/// Takes ownership of a new element, whose reference is still "floating". A bin may own it as well.
+/// Null stays null.
 [[nodiscard]] ObjectReference<GstElement> owned(GstElement *element);
 
-/// Frees a text in UTF-8 that GLib made and returns it; null for none.
+/// Returns a UTF-8 text that GLib allocated, and frees the original. Null gives a null text.
 [[nodiscard]] QString takeText(char *text);

@@ -27,7 +27,7 @@ StreamPipeline::StreamPipeline(const Names &names)
 {
     gst_init(nullptr, nullptr);
     m_pipeline = owned(gst_pipeline_new(names.pipeline));
-    // Nobody reads the pipeline's messages, so that they would pile up.
+    // Messages pile up unless they are read or dropped, and nobody reads these.
     const ObjectReference<GstBus> bus(gst_element_get_bus(m_pipeline.get()));
     gst_bus_set_sync_handler(bus.get(), dropMessage, nullptr, nullptr);
 

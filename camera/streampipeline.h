@@ -10,8 +10,8 @@
  * Base of the pipelines that send pictures to the emulator's camera, as RTP/JPEG over UDP
  * (RFC 2435).
  *
- * It makes the elements that each pipeline ends with. A subclass puts the source of the pictures in
- * front of jpegEncoder(). GStreamer's errors are not reported: the pipeline then sends nothing.
+ * Each pipeline ends with the elements that this class makes. A subclass links its source of
+ * pictures to jpegEncoder(). GStreamer's errors are not reported: the pipeline then sends nothing.
  */
 class StreamPipeline
 {
@@ -30,19 +30,20 @@ public:
         const char *udpSink;
     };
 
-    /// Stops.
+    /// Stops the pipeline.
     virtual ~StreamPipeline();
 
+    /// Starts, without waiting for the first frame.
     virtual void play();
-    /// Returns when nothing is sent any more. Does nothing to a pipeline that is stopped.
+    /// Stops, and returns when nothing is sent any more. May be called while stopped.
     virtual void stop();
 
     /// The number of frames that were sent since the last call.
     [[nodiscard]] int takeFrameCount();
-    /// Width and height of the frames in pixels; not valid before the first frame.
+    /// Width and height of the frames in pixels. Not valid before the first frame.
     [[nodiscard]] QSize frameSize() const;
 
-    /// Whether pictures of this size, in pixels, fit into RTP/JPEG. A size that is not known does.
+    /// Whether RTP/JPEG has room for this size, in pixels. True for an unknown size, -1x-1.
     [[nodiscard]] static bool isStreamable(QSize size);
 
 protected:

@@ -53,7 +53,7 @@ VideoFilePipeline::VideoFilePipeline(QObject *parent)
 
 VideoFilePipeline::~VideoFilePipeline()
 {
-    // The base class would stop it too late: its threads emit ended().
+    // The threads that emit ended() must end before this object; the base class stops them later.
     stop();
 }
 
