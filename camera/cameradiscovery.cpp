@@ -14,11 +14,6 @@ CameraDiscovery::~CameraDiscovery()
     stopMonitor();
 }
 
-const QMap<QString, CameraDiscovery::Camera> &CameraDiscovery::cameras() const
-{
-    return m_cameras;
-}
-
 void CameraDiscovery::readCameras()
 {
     GList *devices = gst_device_monitor_get_devices(m_monitor.get());

@@ -30,7 +30,7 @@ public:
     ~CameraDiscovery() override;
 
     /// The known cameras by name. Cameras with the same name share one entry.
-    [[nodiscard]] const QMap<QString, Camera> &cameras() const;
+    [[nodiscard]] const QMap<QString, Camera> &cameras() const { return m_cameras; }
 
     /// Adds each camera of the host to cameras(), or replaces its entry, and emits cameraRead().
     void readCameras();

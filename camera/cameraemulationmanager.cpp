@@ -30,40 +30,10 @@ CameraEmulationManager::CameraEmulationManager(QObject *parent)
     connect(&m_meter, &StreamMeter::measured, this, &CameraEmulationManager::streamMeasured);
 }
 
-bool CameraEmulationManager::streamRunning() const
-{
-    return m_playing;
-}
-
-bool CameraEmulationManager::videoStreamRunning() const
-{
-    return m_playing == &m_videoPipeline;
-}
-
-bool CameraEmulationManager::cameraStreamRunning() const
-{
-    return m_playing == &m_cameraPipeline;
-}
-
-int CameraEmulationManager::streamFramesPerSecond() const
-{
-    return m_meter.framesPerSecond();
-}
-
-QSize CameraEmulationManager::streamSize() const
-{
-    return m_meter.size();
-}
-
 QString CameraEmulationManager::localPath(const QUrl &url)
 {
     const QString path = url.toLocalFile();
     return path.contains(QChar::ReplacementCharacter) ? QString() : path;
-}
-
-QStringList CameraEmulationManager::cameras() const
-{
-    return m_discovery.cameras().keys();
 }
 
 QVariantList CameraEmulationManager::resolutions() const
@@ -77,20 +47,10 @@ QStringList CameraEmulationManager::framerates() const
     return resolution.value(u"framerates"_s).toStringList();
 }
 
-QString CameraEmulationManager::framerate() const
-{
-    return m_framerate;
-}
-
 void CameraEmulationManager::setFramerate(const QString &framerate)
 {
     m_framerate = framerate.contains(u'/') ? framerate : QString();
     Q_EMIT framerateChanged();
-}
-
-int CameraEmulationManager::width() const
-{
-    return m_width;
 }
 
 void CameraEmulationManager::setWidth(int width)
@@ -99,20 +59,10 @@ void CameraEmulationManager::setWidth(int width)
     Q_EMIT widthChanged();
 }
 
-int CameraEmulationManager::height() const
-{
-    return m_height;
-}
-
 void CameraEmulationManager::setHeight(int height)
 {
     m_height = height;
     Q_EMIT heightChanged();
-}
-
-int CameraEmulationManager::resolutionIndex() const
-{
-    return m_resolutionIndex;
 }
 
 void CameraEmulationManager::setResolutionIndex(int index)
@@ -125,11 +75,6 @@ void CameraEmulationManager::setResolutionIndex(int index)
     setFramerate(rates.isEmpty() || rates.contains(m_framerate) ? m_framerate : rates.constFirst());
     Q_EMIT resolutionIndexChanged();
     Q_EMIT frameratesChanged();
-}
-
-QString CameraEmulationManager::cameraName() const
-{
-    return m_cameraName;
 }
 
 void CameraEmulationManager::setCameraName(const QString &name)

@@ -58,17 +58,17 @@ public:
     explicit CameraEmulationManager(QObject *parent = nullptr);
 
     /// True from the start of a stream until it is stopped, whether or not GStreamer can play it.
-    [[nodiscard]] bool streamRunning() const;
+    [[nodiscard]] bool streamRunning() const { return m_playing; }
     /// True while a video file is streamed.
-    [[nodiscard]] bool videoStreamRunning() const;
+    [[nodiscard]] bool videoStreamRunning() const { return m_playing == &m_videoPipeline; }
 
     /// See StreamMeter::framesPerSecond().
-    [[nodiscard]] int streamFramesPerSecond() const;
+    [[nodiscard]] int streamFramesPerSecond() const { return m_meter.framesPerSecond(); }
     /// See StreamMeter::size().
-    [[nodiscard]] QSize streamSize() const;
+    [[nodiscard]] QSize streamSize() const { return m_meter.size(); }
 
     /// Names of the host's cameras in ascending order. Cameras with the same name share one entry.
-    [[nodiscard]] QStringList cameras() const;
+    [[nodiscard]] QStringList cameras() const { return m_discovery.cameras().keys(); }
     /// Frame sizes of the selected camera, see availableResolutions(). Empty without a camera.
     [[nodiscard]] QVariantList resolutions() const;
     /// Frame rates of the selected camera at the selected size, largest first. Empty if the index
@@ -76,19 +76,19 @@ public:
     [[nodiscard]] QStringList framerates() const;
 
     /// Numerator and denominator in frames per second, "30/1"; empty if the camera may choose.
-    [[nodiscard]] QString framerate() const;
+    [[nodiscard]] QString framerate() const { return m_framerate; }
     /// Selects a frame rate. A text without "/" lets the camera choose.
     void setFramerate(const QString &framerate);
 
     /// In pixels; negative if the camera may choose.
-    [[nodiscard]] int width() const;
+    [[nodiscard]] int width() const { return m_width; }
     void setWidth(int width);
     /// In pixels; negative if the camera may choose.
-    [[nodiscard]] int height() const;
+    [[nodiscard]] int height() const { return m_height; }
     void setHeight(int height);
 
     /// Index of the selected size in resolutions().
-    [[nodiscard]] int resolutionIndex() const;
+    [[nodiscard]] int resolutionIndex() const { return m_resolutionIndex; }
     /*!
      * Selects the width and height of an entry of resolutions(). Keeps the frame rate if the entry
      * has it, otherwise selects the entry's largest one. If the index is out of range, width and
@@ -97,7 +97,7 @@ public:
     void setResolutionIndex(int index);
 
     /// Name of the selected camera. It stays when the last camera is unplugged.
-    [[nodiscard]] QString cameraName() const;
+    [[nodiscard]] QString cameraName() const { return m_cameraName; }
     /// Selects a camera and its first size. For an unknown name, width, height and rate stay.
     void setCameraName(const QString &name);
 
@@ -161,7 +161,7 @@ Q_SIGNALS:
     void streamSizeRefused(QSize size);
 
 private:
-    [[nodiscard]] bool cameraStreamRunning() const;
+    [[nodiscard]] bool cameraStreamRunning() const { return m_playing == &m_cameraPipeline; }
     void handlePlugged();
     void handleUnplugged(const QString &name);
     void handleRemoved(const QString &name);

@@ -35,16 +35,6 @@ void StreamMeter::stop()
     reset();
 }
 
-int StreamMeter::framesPerSecond() const
-{
-    return m_framesPerSecond;
-}
-
-QSize StreamMeter::size() const
-{
-    return m_size;
-}
-
 void StreamMeter::measure()
 {
     const int frames = m_pipeline->takeFrameCount();

@@ -21,9 +21,9 @@ public:
 
     /// Negative while unknown, which is without a stream or before its first frame. 0 after two
     /// seconds without a frame.
-    [[nodiscard]] int framesPerSecond() const;
+    [[nodiscard]] int framesPerSecond() const { return m_framesPerSecond; }
     /// In pixels. Not valid while unknown.
-    [[nodiscard]] QSize size() const;
+    [[nodiscard]] QSize size() const { return m_size; }
 
 Q_SIGNALS:
     void measured();

@@ -66,11 +66,6 @@ void StreamPipeline::stop()
     gst_element_set_state(m_pipeline.get(), GST_STATE_NULL);
 }
 
-int StreamPipeline::takeFrameCount()
-{
-    return m_frameCount.exchange(0);
-}
-
 QSize StreamPipeline::frameSize() const
 {
     QSize size;
@@ -88,19 +83,4 @@ QSize StreamPipeline::frameSize() const
 bool StreamPipeline::isStreamable(QSize size)
 {
     return std::max(size.width(), size.height()) <= maximumSideLength;
-}
-
-GstElement *StreamPipeline::pipeline() const
-{
-    return m_pipeline.get();
-}
-
-GstElement *StreamPipeline::jpegEncoder() const
-{
-    return m_jpegEncoder.get();
-}
-
-GstElement *StreamPipeline::udpSink() const
-{
-    return m_udpSink.get();
 }

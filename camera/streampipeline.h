@@ -39,7 +39,7 @@ public:
     virtual void stop();
 
     /// The number of frames that were sent since the last call.
-    [[nodiscard]] int takeFrameCount();
+    [[nodiscard]] int takeFrameCount() { return m_frameCount.exchange(0); }
     /// Width and height of the frames in pixels. Not valid before the first frame.
     [[nodiscard]] QSize frameSize() const;
 
@@ -49,10 +49,10 @@ public:
 protected:
     explicit StreamPipeline(const Names &names);
 
-    [[nodiscard]] GstElement *pipeline() const;
+    [[nodiscard]] GstElement *pipeline() const { return m_pipeline.get(); }
     /// Null, like udpSink(), where GStreamer lacks its good plugins.
-    [[nodiscard]] GstElement *jpegEncoder() const;
-    [[nodiscard]] GstElement *udpSink() const;
+    [[nodiscard]] GstElement *jpegEncoder() const { return m_jpegEncoder.get(); }
+    [[nodiscard]] GstElement *udpSink() const { return m_udpSink.get(); }
 
 private:
     ObjectReference<GstElement> m_pipeline;
