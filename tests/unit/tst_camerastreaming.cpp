@@ -20,12 +20,9 @@ static const QByteArray rear
 
 static constexpr QSize videoSize(320, 240); // vp8.webm and vp9.webm
 
-static QString media(const QString &name)
-{
-    return u"" MEDIA_FOLDER "/"_s + name;
-}
+static const QString media = u"" MEDIA_FOLDER "/"_s;
 
-// The emulator's receiver, on the host's end of the forwarded port, shows what is streamed.
+// The emulator's receiver gets the streams. It drops its picture after a second without frames.
 class CameraStreamingTest : public QObject
 {
     Q_OBJECT
@@ -44,12 +41,6 @@ class CameraStreamingTest : public QObject
         return QTest::qWaitFor(isThere) && QTest::qWaitFor(more);
     }
 
-    // The receiver reports the end after a second without pictures.
-    bool ends()
-    {
-        return QTest::qWaitFor([&] { return m_receiver.picture().isNull(); });
-    }
-
 private Q_SLOTS:
     void initTestCase()
     {
@@ -66,7 +57,7 @@ private Q_SLOTS:
         QSignalSpy changed(&manager, &CameraEmulationManager::streamRunningChanged);
         manager.startCameraStream();
         QVERIFY(arrives({160, 120}));
-        manager.startVideoStream(media(u"vp8.webm"_s));
+        manager.startVideoStream(media + u"vp8.webm"_s);
         QVERIFY(arrives(videoSize));
         manager.startCameraStream();
         QVERIFY(arrives({160, 120}));
@@ -75,16 +66,16 @@ private Q_SLOTS:
         manager.startVideoStream({}); // only ends the stream
         QVERIFY(!manager.streamRunning());
         QCOMPARE(changed.size(), 4);
-        QVERIFY(ends());
+        QTRY_VERIFY(m_receiver.picture().isNull());
     }
 
-    // Cameras that come, go or are looked for switch none on while a video file plays.
+    // A video file plays on while cameras are plugged in, plugged out or looked for.
     void videoGoesOn()
     {
         m_cameras.set({});
         CameraEmulationManager manager;
         manager.setupCameraStreamPipeline();
-        manager.startVideoStream(media(u"vp8.webm"_s));
+        manager.startVideoStream(media + u"vp8.webm"_s);
         const auto goesOn = [&] { return manager.streamRunning() && arrives(videoSize); };
         m_cameras.set({front});
         QTRY_COMPARE(manager.cameras().size(), 1);
@@ -102,7 +93,7 @@ private Q_SLOTS:
         QVERIFY(goesOn());
         manager.stopStreams();
         QVERIFY(!manager.streamRunning());
-        QVERIFY(ends());
+        QTRY_VERIFY(m_receiver.picture().isNull());
     }
 
     void settings()
@@ -119,27 +110,28 @@ private Q_SLOTS:
         manager.setCameraStreamSettings();
         QVERIFY(arrives({96, 80}));
 
-        manager.startVideoStream(media(u"vp8.webm"_s));
+        manager.startVideoStream(media + u"vp8.webm"_s);
         QVERIFY(arrives(videoSize));
         manager.setCameraStreamSettings(); // switches to the camera
         QVERIFY(arrives({96, 80}));
 
-        // as when the window is shown again
+        // The plugin calls this when the window is shown again.
         manager.setupCameraStreamPipeline();
         QCOMPARE(manager.cameraName(), u"Rear"_s);
         manager.updateCamerasList();
         QVERIFY(!manager.streamRunning());
-        QVERIFY(ends());
+        QTRY_VERIFY(m_receiver.picture().isNull());
         manager.startCameraStream();
         QVERIFY(arrives({160, 120}));
     }
 
     void devices_data()
     {
-        QTest::addColumn<QByteArray>("property");
-        for (const QByteArray &property : {"device=/dev/%1"_ba, "device-index=%1"_ba,
-                                           "device-path=/%1"_ba, "device-path=a device=/%1"_ba})
-            QTest::newRow(property.constData()) << property; // %1 is the camera's number
+        QTest::addColumn<QByteArray>("property"); // %1 is the camera's number
+        QTest::newRow("a text is not set") << "device=/dev/%1"_ba;
+        QTest::newRow("an integer is not set") << "device-index=%1"_ba;
+        QTest::newRow("a path is not set") << "device-path=/%1"_ba;
+        QTest::newRow("the path goes before the device") << "device-path=a device=/%1"_ba;
     }
 
     void devices()
@@ -149,7 +141,7 @@ private Q_SLOTS:
             return number + '|' + QByteArray(property).replace("%1", number)
                    + "|video/x-raw,height=48,framerate=30/1,width=" + width;
         };
-        // the first one's source has no property, and so another factory
+        // A camera without a property has another factory, which the others must not use.
         m_cameras.set({"0||video/x-raw,width=96,height=48", camera("1", "64"), camera("2", "80")});
         CameraEmulationManager manager;
         manager.setupCameraStreamPipeline();
@@ -161,24 +153,28 @@ private Q_SLOTS:
 
     void codecs_data()
     {
-        QTest::addColumn<QString>("codec"); // of an accepted file
-        QTest::newRow("vp9.mkv") << u"VP9 video"_s;
-        QTest::newRow("with-audio.webm") << u"VP8 video"_s;
-        QTest::newRow("truncated.webm") << u"VP8 video"_s;
-        for (const char *name : {"h264.mkv", "audio.webm", "empty.webm", "none.webm", "pipe.webm"})
-            QTest::newRow(name) << QString();
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("codec"); // empty for a file that is refused
+        QTest::newRow("VP9 is refused") << u"vp9.mkv"_s << u"VP9 video"_s;
+        QTest::newRow("a file with sound is refused") << u"with-audio.webm"_s << u"VP8 video"_s;
+        QTest::newRow("a truncated file is refused") << u"truncated.webm"_s << u"VP8 video"_s;
+        QTest::newRow("H.264 is accepted") << u"h264.mkv"_s << QString();
+        QTest::newRow("sound alone is accepted") << u"audio.webm"_s << QString();
+        QTest::newRow("an empty file is accepted") << u"empty.webm"_s << QString();
+        QTest::newRow("a missing file is accepted") << u"none.webm"_s << QString();
+        QTest::newRow("a named pipe blocks") << u"pipe.webm"_s << QString();
     }
 
     void codecs()
     {
+        QFETCH(const QString, file);
         QFETCH(const QString, codec);
-        // opening the pipe would block this thread
-        ::mkfifo(QFile::encodeName(media(u"pipe.webm"_s)).constData(), S_IRUSR | S_IWUSR);
+        ::mkfifo(QFile::encodeName(media + u"pipe.webm"_s).constData(), S_IRUSR | S_IWUSR);
         CameraEmulationManager manager;
         QSignalSpy checked(&manager, &CameraEmulationManager::videoFileCodecChecked);
         connect(&manager, &CameraEmulationManager::streamRunningChanged, this,
                 [&] { QCOMPARE(checked.size(), 1); });
-        manager.startVideoStream(media(QString::fromLatin1(QTest::currentDataTag())));
+        manager.startVideoStream(media + file);
         QCOMPARE(checked, QList<QVariantList>({{!codec.isEmpty(), codec}}));
         QCOMPARE(manager.streamRunning(), !codec.isEmpty());
     }
@@ -187,7 +183,7 @@ private Q_SLOTS:
     {
         QTemporaryDir folder;
         const QString path = folder.filePath(u"50% #1 ü?.webm"_s);
-        QVERIFY(QFile::copy(media(u"vp9.mkv"_s), path)); // it lasts half a second
+        QVERIFY(QFile::copy(media + u"vp9.mkv"_s, path)); // half a second long
         CameraEmulationManager manager;
         manager.setupCameraStreamPipeline();
         QSignalSpy stopped(&manager, &CameraEmulationManager::videoStreamStopped);
@@ -199,27 +195,27 @@ private Q_SLOTS:
         QCOMPARE(changed.size(), 1);
 
         QVERIFY(QFile::remove(path));
-        QVERIFY(ends());
+        QTRY_VERIFY(m_receiver.picture().isNull());
         QVERIFY(manager.streamRunning());
 
-        // stopped before the manager handled the file's end
-        manager.startVideoStream(media(u"vp9.mkv"_s));
+        // The file was stopped before the manager handled its end.
+        manager.startVideoStream(media + u"vp9.mkv"_s);
         manager.stopVideoStream();
         Q_EMIT manager.videoStreamStopped();
         QVERIFY(!QTest::qWaitFor([&] { return !m_receiver.picture().isNull(); }, 500));
     }
 
-    // A file of which no frame can be sent must not block the event loop or the next stream.
+    // A file whose frames cannot be sent must not block the event loop or the next stream.
     void fileWithoutPictures()
     {
         CameraEmulationManager manager;
         manager.setupCameraStreamPipeline();
         QSignalSpy stopped(&manager, &CameraEmulationManager::videoStreamStopped);
-        manager.startVideoStream(media(u"vp9-444.mkv"_s));
+        manager.startVideoStream(media + u"vp9-444.mkv"_s);
         QVERIFY(!QTest::qWaitFor([&] { return stopped.size() > 5; }, 300)); // no busy loop
         QCOMPARE(manager.streamFramesPerSecond(), -1); // not known yet
         QTRY_COMPARE(manager.streamFramesPerSecond(), 0);
-        manager.startVideoStream(media(u"vp9-444.mkv"_s));
+        manager.startVideoStream(media + u"vp9-444.mkv"_s);
         manager.startCameraStream();
         QVERIFY(arrives({160, 120}));
         QTRY_VERIFY(std::abs(manager.streamFramesPerSecond() - 30) <= 3);
@@ -231,12 +227,12 @@ private Q_SLOTS:
     void firstCamera_data()
     {
         QTest::addColumn<QString>("selected");
-        QTest::newRow("selected") << u"Rear"_s;
-        QTest::newRow("not selected") << QString();
-        QTest::newRow("another was selected") << u"Front"_s;
+        QTest::newRow("the selected camera is not applied") << u"Rear"_s;
+        QTest::newRow("an empty selection is applied") << QString();
+        QTest::newRow("an absent camera is applied") << u"Front"_s;
     }
 
-    // A camera that is plugged in after a start without any can be started.
+    // A camera can be started although a stream was started before it was plugged in.
     void firstCamera()
     {
         m_cameras.set({});
@@ -264,7 +260,7 @@ private Q_SLOTS:
         QVERIFY(!manager.streamRunning());
         QCOMPARE(refused.size(), 1);
         manager.setResolutionIndex(1);
-        manager.startCameraStream(); // there is nothing else to start
+        manager.startCameraStream(); // applies the selection
         QVERIFY(arrives({48, 48}));
         manager.setResolutionIndex(0);
         manager.setCameraStreamSettings();
