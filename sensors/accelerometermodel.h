@@ -11,12 +11,15 @@ class AccelerometerModel final : public IntXYZModel
 {
     Q_OBJECT
     QML_ANONYMOUS
+    Q_PROPERTY(double gravityAccelEarth MEMBER gravityAccelEarth CONSTANT)
+    Q_PROPERTY(int unitsPerG MEMBER unitsPerG CONSTANT)
 
 public:
     /// Standard gravity in m/s² (CGPM 1901).
     static constexpr double gravityAccelEarth = 9.80665;
+    static constexpr int unitsPerG = 1000;
     /// A device that lies on its back reads 1 g along z.
-    static constexpr int defaultZValue = 1000;
+    static constexpr int defaultZValue = unitsPerG;
 
     explicit AccelerometerModel(QObject *parent = nullptr);
 

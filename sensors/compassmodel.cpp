@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace EmulationManagement::Internal {
 
 constexpr double fullTurn = 360.0;
-constexpr double gPerUnit = 0.001;
+constexpr double gPerUnit = 1.0 / AccelerometerModel::unitsPerG;
 
 CompassModel::CompassModel(QObject *parent)
     : SensorModel(parent)

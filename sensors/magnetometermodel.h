@@ -11,10 +11,13 @@ class MagnetometerModel final : public DoubleXYZModel
 {
     Q_OBJECT
     QML_ANONYMOUS
+    Q_PROPERTY(double teslaPerMicrotesla MEMBER teslaPerMicrotesla CONSTANT)
     Q_PROPERTY(int calibrationLevel READ calibrationLevel WRITE setCalibrationLevel
                    NOTIFY calibrationLevelChanged)
 
 public:
+    /// The emulator takes tesla, and pages show microtesla.
+    static constexpr double teslaPerMicrotesla = 0.000001;
     static constexpr double defaultXValue = 4.3e-5;
     static constexpr int defaultCalibLevel = 0;
 

@@ -64,7 +64,7 @@ static QString callForEach(const QString &method)
     return start + sensors.join(QString(u';' + start));
 }
 
-/// Calls \a check(model, its name, property) for each property of all models.
+/// Calls \a check(model, its name, property) for each property of all models that can change.
 template<typename Check>
 static void forEachProperty(const SensorsEmulationManager &manager, const Check &check)
 {
@@ -72,8 +72,11 @@ static void forEachProperty(const SensorsEmulationManager &manager, const Check 
     for (const QString &name : models) {
         auto *model = manager.property(name.toLatin1()).value<QObject *>();
         for (int i = QObject::staticMetaObject.propertyCount();
-             i < model->metaObject()->propertyCount(); ++i)
-            check(model, name, model->metaObject()->property(i));
+             i < model->metaObject()->propertyCount(); ++i) {
+            if (const QMetaProperty property = model->metaObject()->property(i);
+                !property.isConstant())
+                check(model, name, property);
+        }
     }
 }
 
