@@ -9,53 +9,43 @@ import org.plova 1.0
 
 import "shared"
 import "../js/sensors/sensor-dependencies.js" as Dependencies
+import "../js/sensors/sensor-states.js" as States
 
 EmulationPage {
     id: root
 
     readonly property SensorsEmulationManager sensorsManager: sensorsEmulationManager // qmllint disable unqualified
-    readonly property var titles: ({
-        accelerometer: qsTr("Accelerometer"),
-        compass: qsTr("Compass"),
-        orientation: qsTr("Orientation Sensor"),
-        magnetometer: qsTr("Magnetometer"),
-        gyroscope: qsTr("Gyroscope"),
-        als: qsTr("Light Sensor"),
-        proximity: qsTr("Proximity Sensor"),
-        tap: qsTr("Tap Sensor"),
-    })
-    // as the boxes stand; the keys of an object that compiled code made are sorted
-    readonly property list<string> sensorNames: [
-        "accelerometer", "compass", "orientation", "magnetometer", "gyroscope", "als", "proximity",
-        "tap"]
-    // What the user ticked and has not applied, by sensor name.
+    // In the order of the boxes.
+    readonly property var sensors: [
+        { name: "accelerometer", title: qsTr("Accelerometer") },
+        { name: "compass", title: qsTr("Compass") },
+        { name: "orientation", title: qsTr("Orientation Sensor") },
+        { name: "magnetometer", title: qsTr("Magnetometer") },
+        { name: "gyroscope", title: qsTr("Gyroscope") },
+        { name: "als", title: qsTr("Light Sensor") },
+        { name: "proximity", title: qsTr("Proximity Sensor") },
+        { name: "tap", title: qsTr("Tap Sensor") },
+    ]
+    // The states that the user chose and has not applied yet, by sensor name.
     property var pendingStates: ({})
-    // What the boxes show, by sensor name.
+    // The states that the boxes show, by sensor name.
     readonly property var checkedStates: {
         const states = {};
-        for (const name of sensorNames)
-            states[name] = isAvailable(name) && (pendingStates[name] ?? isEnabled(name));
+        for (const {name} of sensors)
+            states[name] = States.isAvailable(sensorsManager, name)
+                && (pendingStates[name] ?? States.isEnabled(sensorsManager, name));
         return states;
     }
 
     signal sensorSwitched(sensorName: string)
-
-    function isAvailable(sensorName: string): bool {
-        return sensorsManager.sensorsAvailability[sensorName] ?? false;
-    }
-
-    function isEnabled(sensorName: string): bool {
-        return isAvailable(sensorName)
-            && (sensorsManager.sensorsEnabledStates[sensorName] ?? false);
-    }
 
     function reset() {
         pendingStates = {};
     }
 
     function apply(states: var) {
-        for (const name of sensorNames) {
-            const on = states[name] && isAvailable(name);
+        for (const {name} of sensors) {
+            const on = states[name] && States.isAvailable(sensorsManager, name);
             if (on)
                 sensorsManager.enableSensor(name);
             else
@@ -67,7 +57,8 @@ EmulationPage {
     }
 
     function hasChanges(): bool {
-        return sensorNames.some(name => checkedStates[name] !== isEnabled(name));
+        return sensors.some(
+            ({name}) => checkedStates[name] !== States.isEnabled(sensorsManager, name));
     }
 
     function exitPage(continuation: var) {
@@ -92,17 +83,17 @@ EmulationPage {
                 spacing: 4
 
                 Repeater {
-                    model: root.sensorNames
+                    model: root.sensors
 
                     delegate: CheckBox {
-                        required property string modelData
+                        required property var modelData // an entry of sensors
 
-                        checked: root.checkedStates[modelData] ?? false
-                        text: root.titles[modelData]
-                        visible: root.isAvailable(modelData)
+                        checked: root.checkedStates[modelData.name] ?? false
+                        text: modelData.title
+                        visible: States.isAvailable(root.sensorsManager, modelData.name)
 
                         onToggled: root.pendingStates = Dependencies.statesAfterSwitch(
-                            root.pendingStates, modelData, checked)
+                            root.pendingStates, modelData.name, checked)
                     }
                 }
             }

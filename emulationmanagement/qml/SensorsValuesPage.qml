@@ -16,14 +16,6 @@ EmulationPage {
     // A sensor that the device model page drives too was changed since this page was shown.
     property bool modelSensorChanged: false
 
-    function isAvailable(sensorName: string): bool {
-        return sensorsManager.sensorsAvailability[sensorName] ?? false;
-    }
-
-    function isEnabled(sensorName: string): bool {
-        return sensorsManager.sensorsEnabledStates[sensorName] ?? false;
-    }
-
     content: ColumnLayout {
         spacing: 12
 
@@ -42,79 +34,16 @@ EmulationPage {
                 rowSpacing: 8
                 uniformCellWidths: true
 
-                AccelerometerControls {
-                    Layout.alignment: Qt.AlignTop
-                    Layout.fillWidth: true
-                    controlsEnabled: root.isEnabled(sensorName)
-                    sensorsManager: root.sensorsManager
-                    visible: root.isAvailable(sensorName)
-                }
-
-                MagnetometerControls {
-                    Layout.alignment: Qt.AlignTop
-                    Layout.fillWidth: true
-                    controlsEnabled: root.isEnabled(sensorName)
-                    sensorsManager: root.sensorsManager
-                    visible: root.isAvailable(sensorName)
-                }
-
-                CompassControls {
-                    Layout.alignment: Qt.AlignTop
-                    Layout.fillWidth: true
-                    controlsEnabled: root.isEnabled(sensorName)
-                    sensorsManager: root.sensorsManager
-                    visible: root.isAvailable(sensorName)
-                }
-
-                MagneticFieldControls {
-                    Layout.alignment: Qt.AlignTop
-                    Layout.fillWidth: true
-                    controlsEnabled: root.isEnabled(sensorName)
-                    sensorsManager: root.sensorsManager
-                    visible: root.isAvailable(sensorName)
-                }
-
-                OrientationControls {
-                    Layout.alignment: Qt.AlignTop
-                    Layout.fillWidth: true
-                    controlsEnabled: root.isEnabled(sensorName)
-                    sensorsManager: root.sensorsManager
-                    visible: root.isAvailable(sensorName)
-                }
-
-                GyroscopeControls {
-                    Layout.alignment: Qt.AlignTop
-                    Layout.fillWidth: true
-                    controlsEnabled: root.isEnabled(sensorName)
-                    sensorsManager: root.sensorsManager
-                    visible: root.isAvailable(sensorName)
-                }
-
-                LightControls {
-                    Layout.alignment: Qt.AlignTop
-                    Layout.fillWidth: true
-                    controlsEnabled: root.isEnabled(sensorName)
-                    sensorsManager: root.sensorsManager
-                    visible: root.isAvailable(sensorName)
-                }
-
-                ProximityControls {
-                    Layout.alignment: Qt.AlignTop
-                    Layout.fillWidth: true
-                    controlsEnabled: root.isEnabled(sensorName)
-                    sensorsManager: root.sensorsManager
-                    visible: root.isAvailable(sensorName)
-                }
-
+                AccelerometerControls {}
+                MagnetometerControls {}
+                CompassControls {}
+                MagneticFieldControls {}
+                OrientationControls {}
+                GyroscopeControls {}
+                LightControls {}
+                ProximityControls {}
                 Item {} // an empty cell
-
-                TapControls {
-                    Layout.alignment: Qt.AlignTop
-                    Layout.fillWidth: true
-                    controlsEnabled: root.isEnabled(sensorName)
-                    sensorsManager: root.sensorsManager
-                    visible: root.isAvailable(sensorName)
-                }
+                TapControls {}
             }
         }
 

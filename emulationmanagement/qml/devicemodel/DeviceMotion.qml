@@ -3,6 +3,7 @@ import QtQuick
 import org.plova 1.0
 
 import "../../js/devicemodel/smartphone-model-page-logic.js" as Logic
+import "../../js/sensors/sensor-states.js" as States
 
 // The device that is turned and moved: computes what it reads, and sends it. Triples are arrays of
 // x, y and z.
@@ -16,7 +17,7 @@ QtObject {
     property var rotation: [0, 0, 0] // degrees
     property var displacement: [0, 0, 0] // in units of the move sliders
 
-    readonly property double gravityAccelEarth: 9.80665 // m/s²
+    readonly property double gravityAccelEarth: sensorsManager.accelerometer.gravityAccelEarth
     readonly property double timerInterval: 0.1 // s
     readonly property double phoneSizeCoefficient: 0.06 // m in a unit of the move sliders
     readonly property double accGravityCoef: 1000 / 9.80665 // thousandths of g in 1 m/s²
@@ -40,17 +41,8 @@ QtObject {
     readonly property var wireAccelerometer: accelerometer.map(
         value => Logic.wireAcceleration(value, accGravityCoef))
 
-    function isAvailable(sensorName: string): bool {
-        return sensorsManager.sensorsAvailability[sensorName] ?? false;
-    }
-
-    function isEnabled(sensorName: string): bool {
-        return isAvailable(sensorName)
-            && (sensorsManager.sensorsEnabledStates[sensorName] ?? false);
-    }
-
     function updateAccelerometerValues() {
-        if (!active || !isAvailable("accelerometer"))
+        if (!active || !States.isAvailable(sensorsManager, "accelerometer"))
             return;
         const acceleration = rotationMode ? [0, 0, 0] : position.map((value, i) =>
             Logic.linearAcceleration(value, previousPosition[i], initialSpeed[i], timerInterval));
@@ -60,7 +52,7 @@ QtObject {
     }
 
     function updateGyroscopeValues() {
-        if (!isEnabled("gyroscope"))
+        if (!States.isEnabled(sensorsManager, "gyroscope"))
             return;
         gyroscope = Logic.gyroscopeReading(rotation, rotationFrequency).map(
             value => Logic.clamped(value, -sentLimit, sentLimit));
@@ -68,7 +60,7 @@ QtObject {
     }
 
     function updateMagnetometerValues() {
-        if (!rotationMode || !isEnabled("magnetometer"))
+        if (!rotationMode || !States.isEnabled(sensorsManager, "magnetometer"))
             return;
         const field = sensorsManager.magneticField;
         magnetometer = Logic.magnetometerReading(rotation, [field.x, field.y, field.z]);
@@ -113,7 +105,7 @@ QtObject {
             return;
         updateAccelerometerValues();
         gyroscope = [0, 0, 0];
-        if (isAvailable("gyroscope"))
+        if (States.isAvailable(sensorsManager, "gyroscope"))
             sensorsManager.setGyroscopeValues(...gyroscope);
         updateMagnetometerValues();
     }

@@ -3,7 +3,10 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls
 
-// What the emulated sensors read, a line for each that the device has.
+import "../../js/numbers.js" as Numbers
+import "../../js/sensors/sensor-states.js" as States
+
+// The readings of the emulated sensors, one line for each sensor that the device has.
 GroupBox {
     id: root
 
@@ -14,9 +17,7 @@ GroupBox {
     readonly property var sensorNames: ["accelerometer", "gyroscope", "magnetometer"]
 
     function formatted(value: double): string {
-        const scale = Math.pow(10, decimals);
-        const rounded = Math.round(value * scale) / scale + 0; // no "-0.000"
-        return rounded.toLocaleString(Qt.locale(numberLocale), "f", decimals);
+        return Numbers.fixed(value, decimals, Qt.locale(numberLocale));
     }
 
     component ResultLabel: Label {
@@ -24,15 +25,15 @@ GroupBox {
         required property string title
         required property var values
 
-        enabled: root.motion.isEnabled(sensorName)
+        enabled: States.isEnabled(root.motion.sensorsManager, sensorName)
         text: title + ": " + "%1 %2 %3".arg(root.formatted(values[0]))
                                        .arg(root.formatted(values[1]))
                                        .arg(root.formatted(values[2]))
-        visible: root.motion.isAvailable(sensorName)
+        visible: States.isAvailable(root.motion.sensorsManager, sensorName)
     }
 
     title: qsTr("Resulting values")
-    visible: sensorNames.some(name => motion.isAvailable(name))
+    visible: sensorNames.some(name => States.isAvailable(motion.sensorsManager, name))
 
     Column {
         spacing: 6

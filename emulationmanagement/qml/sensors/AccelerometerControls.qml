@@ -2,15 +2,11 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
-import org.plova 1.0
-
 SensorControls {
     id: root
 
-    required property SensorsEmulationManager sensorsManager
-
-    readonly property double gravityAccelEarth: 9.80665 // m/s²
-    readonly property double unitsPerG: 1000
+    readonly property double gravityAccelEarth: sensorsManager.accelerometer.gravityAccelEarth
+    readonly property int unitsPerG: sensorsManager.accelerometer.unitsPerG
 
     sensorName: "accelerometer"
     title: qsTr("Accelerometer")

@@ -3,14 +3,10 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 
-import org.plova 1.0
-
 import "../shared"
 
 SensorControls {
     id: root
-
-    required property SensorsEmulationManager sensorsManager
 
     sensorName: "compass"
     title: qsTr("Compass")

@@ -2,12 +2,8 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
-import org.plova 1.0
-
 SensorControls {
     id: root
-
-    required property SensorsEmulationManager sensorsManager
 
     sensorName: "gyroscope"
     title: qsTr("Gyroscope")

@@ -11,8 +11,6 @@ import "../../js/sensors/light-levels.js" as LightLevels
 SensorControls {
     id: root
 
-    required property SensorsEmulationManager sensorsManager
-
     readonly property var levels: [
         { name: "Undefined", lux: AlsModel.Undefined },
         { name: "Dark", lux: AlsModel.Dark },

@@ -2,13 +2,10 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
-import org.plova 1.0
-
-// The field around the device has no sensor of its own: it comes and goes with the magnetometer.
+// The ambient field has no sensor of its own. Its frame has the magnetometer's name, so that both
+// are shown, hidden, enabled and disabled together.
 SensorControls {
     id: root
-
-    required property SensorsEmulationManager sensorsManager
 
     sensorName: "magnetometer"
     title: qsTr("Magnetic Field")

@@ -3,14 +3,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 
-import org.plova 1.0
-
 SensorControls {
     id: root
-
-    required property SensorsEmulationManager sensorsManager
-
-    readonly property double teslaPerMicrotesla: 0.000001
 
     sensorName: "magnetometer"
     title: qsTr("Magnetometer")
@@ -31,7 +25,7 @@ SensorControls {
                 maxValue: 65.0
                 minValue: -65.0
                 model: root.sensorsManager.magnetometer
-                resultValueMultiplier: root.teslaPerMicrotesla
+                resultValueMultiplier: root.sensorsManager.magnetometer.teslaPerMicrotesla
                 valueUnits: qsTr("μT")
 
                 onXSubmited: value => root.sensorsManager.setMagnetometerX(value)

@@ -4,16 +4,12 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 
-import org.plova 1.0
-
 import "../shared"
 
 SensorControls {
     id: root
 
-    required property SensorsEmulationManager sensorsManager
-
-    readonly property double percentPerUnit: 100 / 1023 // of the sensor's ten bits
+    readonly property double percentPerUnit: 100 / 1023 // the sensor has ten bits
 
     sensorName: "proximity"
     title: qsTr("Proximity Sensor")

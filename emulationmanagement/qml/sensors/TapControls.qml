@@ -2,14 +2,10 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
-import org.plova 1.0
-
 import "../shared"
 
 SensorControls {
     id: root
-
-    required property SensorsEmulationManager sensorsManager
 
     sensorName: "tap"
     title: qsTr("Tap Sensor")

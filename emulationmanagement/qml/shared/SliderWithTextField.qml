@@ -2,8 +2,10 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 
-// A slider with a field for the same number. The control's value is in the model's unit; what the
-// user sees and types is that value divided by resultValueMultiplier.
+import "../../js/numbers.js" as Numbers
+
+// A slider with a field for the same number. The user sees and types the value divided by
+// resultValueMultiplier.
 RowLayout {
     id: root
 
@@ -33,9 +35,7 @@ RowLayout {
     signal sliderSubmited(value: double)
 
     function formatted(number: double): string {
-        const scale = Math.pow(10, numberRoundingSize);
-        const rounded = Math.round(number * scale) / scale; // no "-0.000"
-        return rounded.toLocaleString(numberLocale, "f", numberRoundingSize);
+        return Numbers.fixed(number, numberRoundingSize, numberLocale);
     }
 
     function submit(sliderValue: double) {
