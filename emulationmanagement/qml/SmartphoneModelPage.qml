@@ -188,9 +188,16 @@ EmulationPage {
     }
 
     component Sliders: AxesSliders {
+        // The user chose other values, of which one is new.
+        signal submitted(values: list<real>)
+
         integer: root.integer
         numberRoundingSize: root.numberRoundingSize
         stepSize: root.stepSize
+
+        onXSubmitted: x => submitted([x, values[1], values[2]])
+        onYSubmitted: y => submitted([values[0], y, values[2]])
+        onZSubmitted: z => submitted([values[0], values[1], z])
     }
 
     DeviceMotion {

@@ -22,10 +22,10 @@ SensorControls {
             showCalculatedValue: true
             valueUnits: qsTr("g")
 
-            // 1.001 g times 1000 is a hair below the integer that it stands for
-            onXSubmited: value => root.sensorsManager.setAccelerometerX(Math.round(value))
-            onYSubmited: value => root.sensorsManager.setAccelerometerY(Math.round(value))
-            onZSubmited: value => root.sensorsManager.setAccelerometerZ(Math.round(value))
+            // Floating-point error puts 1.001 g times 1000 below 1001: rounding keeps it.
+            onXSubmitted: value => root.sensorsManager.setAccelerometerX(Math.round(value))
+            onYSubmitted: value => root.sensorsManager.setAccelerometerY(Math.round(value))
+            onZSubmitted: value => root.sensorsManager.setAccelerometerZ(Math.round(value))
         }
     }
 }

@@ -1,20 +1,25 @@
 import QtQuick
+import QtQuick.Layouts
 
 import "../shared"
 
-// How well the magnetometer is calibrated, which the compass tells too.
+// The calibration level of the magnetometer, which is also that of the compass.
 SliderWithTextField {
     id: root
 
-    required property int modelValue
+    // Lets the sliders above give their labels the same width.
+    readonly property alias labelTextWidth: metrics.width
 
+    Layout.fillWidth: true
     integer: true
     label: qsTr("Calib. level")
     maxValue: 3
     minValue: 0
     stepSize: 1
 
-    Binding on value {
-        value: root.modelValue
+    TextMetrics {
+        id: metrics
+
+        text: root.label
     }
 }

@@ -26,32 +26,22 @@ SensorControls {
                 Layout.fillWidth: true
                 integer: true
                 label: qsTr("Azimuth")
-                labelWidth: calibrationLevelMetrics.width
+                labelWidth: calibrationLevel.labelTextWidth
                 maxValue: 359
                 minValue: 0
+                modelValue: root.sensorsManager.compass.azimuth
                 stepSize: 1
 
                 onSliderSubmited: value => root.sensorsManager.setCompassAzimuth(Math.round(value))
-
-                Binding on value {
-                    value: root.sensorsManager.compass.azimuth
-                }
             }
 
             CalibrationLevelSlider {
                 id: calibrationLevel
 
-                Layout.fillWidth: true
                 modelValue: root.sensorsManager.compass.calibrationLevel
 
                 onSliderSubmited: value =>
                     root.sensorsManager.setCompassCalibrationLevel(Math.round(value))
-            }
-
-            TextMetrics {
-                id: calibrationLevelMetrics
-
-                text: calibrationLevel.label
             }
         }
     }

@@ -15,9 +15,9 @@ SensorControls {
             model: root.sensorsManager.gyroscope
             valueUnits: qsTr("deg/s")
 
-            onXSubmited: value => root.sensorsManager.setGyroscopeX(value)
-            onYSubmited: value => root.sensorsManager.setGyroscopeY(value)
-            onZSubmited: value => root.sensorsManager.setGyroscopeZ(value)
+            onXSubmitted: value => root.sensorsManager.setGyroscopeX(value)
+            onYSubmitted: value => root.sensorsManager.setGyroscopeY(value)
+            onZSubmitted: value => root.sensorsManager.setGyroscopeZ(value)
         }
     }
 }

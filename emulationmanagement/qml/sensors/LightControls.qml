@@ -39,20 +39,17 @@ SensorControls {
                 integer: true
                 maxValue: 3000
                 minValue: -1
+                modelValue: root.sensorsManager.als.lux
                 stepSize: 1
                 valueUnits: qsTr("lx")
 
                 onSliderSubmited: value => root.sensorsManager.setAlsLuxValue(Math.round(value))
-
-                Binding on value {
-                    value: root.sensorsManager.als.lux
-                }
             }
 
             LabeledComboBox {
                 id: level
 
-                // below the first level the choice stays as it is
+                // Below the first level, the choice stays as it was.
                 function followLux() {
                     const last = LightLevels.indexOf(root.levels, root.sensorsManager.als.lux);
                     if (last >= 0)

@@ -17,9 +17,9 @@ SensorControls {
             model: root.sensorsManager.magneticField
             valueUnits: qsTr("μT")
 
-            onXSubmited: value => root.sensorsManager.setMagneticFieldX(value)
-            onYSubmited: value => root.sensorsManager.setMagneticFieldY(value)
-            onZSubmited: value => root.sensorsManager.setMagneticFieldZ(value)
+            onXSubmitted: value => root.sensorsManager.setMagneticFieldX(value)
+            onYSubmitted: value => root.sensorsManager.setMagneticFieldY(value)
+            onZSubmitted: value => root.sensorsManager.setMagneticFieldZ(value)
         }
     }
 }

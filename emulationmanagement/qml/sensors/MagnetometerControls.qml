@@ -21,32 +21,25 @@ SensorControls {
             AxesControls {
                 id: axes
 
-                labelWidth: calibrationLevelMetrics.width
+                labelWidth: calibrationLevel.labelTextWidth
                 maxValue: 65.0
                 minValue: -65.0
                 model: root.sensorsManager.magnetometer
                 resultValueMultiplier: root.sensorsManager.magnetometer.teslaPerMicrotesla
                 valueUnits: qsTr("μT")
 
-                onXSubmited: value => root.sensorsManager.setMagnetometerX(value)
-                onYSubmited: value => root.sensorsManager.setMagnetometerY(value)
-                onZSubmited: value => root.sensorsManager.setMagnetometerZ(value)
+                onXSubmitted: value => root.sensorsManager.setMagnetometerX(value)
+                onYSubmitted: value => root.sensorsManager.setMagnetometerY(value)
+                onZSubmitted: value => root.sensorsManager.setMagnetometerZ(value)
             }
 
             CalibrationLevelSlider {
                 id: calibrationLevel
 
-                Layout.fillWidth: true
                 modelValue: root.sensorsManager.magnetometer.calibrationLevel
 
                 onSliderSubmited: value =>
                     root.sensorsManager.setMagnetometerCalibrationLevel(Math.round(value))
-            }
-
-            TextMetrics {
-                id: calibrationLevelMetrics
-
-                text: calibrationLevel.label
             }
         }
     }

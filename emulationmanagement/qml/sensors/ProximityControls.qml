@@ -31,16 +31,13 @@ SensorControls {
                 label: qsTr("Reflectance")
                 maxValue: 10
                 minValue: 0
+                modelValue: root.sensorsManager.proximity.reflectance
                 numberRoundingSize: 5
                 showCalculatedValue: true
                 stepSize: 1
 
                 onSliderSubmited: value =>
                     root.sensorsManager.setProximitySensorReflectanceValue(Math.round(value))
-
-                Binding on value {
-                    value: root.sensorsManager.proximity.reflectance
-                }
             }
 
             RowLayout {

@@ -9,9 +9,8 @@ import "../../js/numbers.js" as Numbers
 RowLayout {
     id: root
 
-    // What stands before the slider, and how wide it is at least, for sliders below each other.
-    property string label: ""
-    property real labelWidth: 0
+    property string label: "" // before the slider
+    property real labelWidth: 0 // at least, so that sliders below each other can align
     property string accessibleName: label
     property bool integer: false
     property double minValue: 0.0
@@ -24,14 +23,17 @@ RowLayout {
     property string calculatedValueUnits: ""
     property double calculatedValue: 0.0
     property bool equalityLabelShow: false
-    property double value: 0.0
+    property double value // in the model's unit
+    // The model's property, which value follows. A binding of value itself would end when the user
+    // chooses another value.
+    property double modelValue: NaN
     property alias textFieldFocus: textField.focus
 
-    readonly property var numberLocale: Qt.locale("en_US")
+    readonly property var numberLocale: Qt.locale("en_US") // QML has no name for its type
     readonly property string valueText: integer ? String(Math.round(slider.value))
                                                 : formatted(slider.value)
 
-    // The user chose another value, in the model's unit.
+    // The user chose another value.
     signal sliderSubmited(value: double)
 
     function formatted(number: double): string {
@@ -44,7 +46,7 @@ RowLayout {
     }
 
     function submitText() {
-        // a text that was not changed stands for all digits of the value, also those not shown
+        // A text that was not changed stands for the exact value, also for its hidden digits.
         submit(textField.text === valueText
                ? slider.value : Number.fromLocaleString(numberLocale, textField.text));
         textField.text = valueText;
@@ -62,8 +64,8 @@ RowLayout {
     Slider {
         id: slider
 
-        // A press beside the middle of the handle moves the slider, which counts only once the
-        // pointer moves on. Until then this is where the press moved it, else NaN.
+        // Where a press on the handle, beside its middle, has moved the slider; otherwise NaN. The
+        // value changes only when the pointer moves on, so that a click changes nothing.
         property double pressedPosition: NaN
 
         function followValue() {
@@ -148,6 +150,11 @@ RowLayout {
         visible: root.showCalculatedValue
     }
 
-    // Typing replaces the field's binding, so it is told of every other change.
+    // Typing ends the binding of the field's text.
     onValueTextChanged: textField.text = valueText
+
+    Binding on value {
+        value: root.modelValue
+        when: !isNaN(root.modelValue)
+    }
 }
