@@ -21,9 +21,9 @@ Rectangle {
     property string lastChangedSensorName: ""
     readonly property SensorsEmulationManager sensorsManager: sensorsEmulationManager // qmllint disable unqualified
     readonly property color separatorColor: themeSeparatorColor // qmllint disable unqualified
-    // Gives the window a palette, which follows the IDE's theme. Controls and dialogs that are made
-    // later take it; below a window without one they would get the style's own.
-    readonly property var windowPalette: Window.window?.palette
+    // Reading the window's palette creates it. It follows the IDE's theme, and controls and dialogs
+    // that are made later inherit it; otherwise they would have the palette of the style.
+    readonly property Palette windowPalette: Window.window?.palette ?? null
 
     property alias errorDialog: errorDialog
     property alias messageDialog: messageDialog
@@ -81,7 +81,7 @@ Rectangle {
     WarningDialog {
         id: warningDialog
 
-        property var callback: null
+        property var callback: null // a function
 
         text: qsTr("The sensors values will be reset using the smartphone 3D-model position. Do you want to continue?")
         withDoNotShowAgainCheckBox: true

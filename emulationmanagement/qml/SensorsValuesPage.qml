@@ -64,6 +64,7 @@ EmulationPage {
     }
 
     component ModelWatch: Connections {
+    // The casts tell qmllint that the models are objects: it cannot follow their base, a template.
         function onXChanged() {
             root.modelSensorChanged = true;
         }
@@ -76,19 +77,19 @@ EmulationPage {
     }
 
     ModelWatch {
-        target: root.sensorsManager.accelerometer // qmllint disable incompatible-type
+        target: root.sensorsManager.accelerometer as QtObject
     }
 
     ModelWatch {
-        target: root.sensorsManager.magnetometer // qmllint disable incompatible-type
+        target: root.sensorsManager.magnetometer as QtObject
     }
 
     ModelWatch {
-        target: root.sensorsManager.magneticField // qmllint disable incompatible-type
+        target: root.sensorsManager.magneticField as QtObject
     }
 
     ModelWatch {
-        target: root.sensorsManager.gyroscope // qmllint disable incompatible-type
+        target: root.sensorsManager.gyroscope as QtObject
     }
 
     Connections {

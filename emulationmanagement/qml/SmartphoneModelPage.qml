@@ -26,7 +26,7 @@ EmulationPage {
     property bool rotationMode: true
     property bool controlModifierPressed: false
 
-    function rotate(rotation: var) {
+    function rotate(rotation: list<real>) {
         motion.rotation = rotation;
         motion.updateAttitudeValues();
     }

@@ -5,40 +5,42 @@ import org.plova 1.0
 import "../../js/devicemodel/smartphone-model-page-logic.js" as Logic
 import "../../js/sensors/sensor-states.js" as States
 
-// The device that is turned and moved: computes what it reads, and sends it. Triples are arrays of
-// x, y and z.
+// The motion of the device. It computes the readings that the motion causes and sends them to the
+// emulator. Lists of three numbers are x, y and z.
 QtObject {
     id: root
 
     required property SensorsEmulationManager sensorsManager
     required property bool active
-    // Turned, or moved.
-    required property bool rotationMode
-    property var rotation: [0, 0, 0] // degrees
-    property var displacement: [0, 0, 0] // in units of the move sliders
+    required property bool rotationMode // turned by the user, otherwise moved
+    property list<real> rotation: [0, 0, 0] // degrees
+    property list<real> displacement: [0, 0, 0] // in units of the move sliders
 
     readonly property double gravityAccelEarth: sensorsManager.accelerometer.gravityAccelEarth
     readonly property double timerInterval: 0.1 // s
     readonly property double phoneSizeCoefficient: 0.06 // m in a unit of the move sliders
-    readonly property double accGravityCoef: 1000 / 9.80665 // thousandths of g in 1 m/s²
-    readonly property double microToWholeCoef: 0.000001
-    readonly property double sentLimit: 3000 // the emulator takes no more over D-Bus
+    // From m/s² to the unit of the accelerometer's calls.
+    readonly property double accGravityCoef:
+        sensorsManager.accelerometer.unitsPerG / gravityAccelEarth
+    readonly property double microToWholeCoef: sensorsManager.magnetometer.teslaPerMicrotesla
+    readonly property double sentLimit: 3000 // the emulator accepts no larger values
 
-    readonly property var position: displacement.map(value => value * phoneSizeCoefficient) // m
-    property var previousPosition: [0, 0, 0] // at the last sample
-    property var earlierPosition: [0, 0, 0] // at the sample before it
-    property var initialSpeed: [0, 0, 0] // m/s
-    property var previousRotation: [0, 0, 0] // at the last sample
-    property var rotationFrequency: [0, 0, 0] // turns per second
-    // The angles that were continued from the other end since the last sample.
-    property var wrapped: [false, false, false]
+    readonly property list<real> position: displacement.map(
+        value => value * phoneSizeCoefficient) // m
+    property list<real> previousPosition: [0, 0, 0] // at the last sample
+    property list<real> earlierPosition: [0, 0, 0] // at the sample before it
+    property list<real> initialSpeed: [0, 0, 0] // m/s
+    property list<real> previousRotation: [0, 0, 0] // at the last sample
+    property list<real> rotationFrequency: [0, 0, 0] // turns per second
+    // Whether each angle was continued from the other end since the last sample.
+    property list<bool> wrapped: [false, false, false]
 
     // The last readings.
-    property var accelerometer: [0, 0, 0] // m/s²
-    property var gyroscope: [0, 0, 0] // degrees per second
-    property var magnetometer: [0, 0, 0] // μT
-    // As the emulator can be told it.
-    readonly property var wireAccelerometer: accelerometer.map(
+    property list<real> accelerometer: [0, 0, 0] // m/s²
+    property list<real> gyroscope: [0, 0, 0] // degrees per second
+    property list<real> magnetometer: [0, 0, 0] // μT
+    // The accelerometer's reading in the unit of its calls.
+    readonly property list<real> wireAccelerometer: accelerometer.map(
         value => Logic.wireAcceleration(value, accGravityCoef))
 
     function updateAccelerometerValues() {
@@ -68,13 +70,14 @@ QtObject {
             ...magnetometer.map(value => value * microToWholeCoef));
     }
 
-    // Sends what depends on the attitude alone.
+    // Sends the readings that depend on the attitude alone.
     function updateAttitudeValues() {
         updateAccelerometerValues();
         updateMagnetometerValues();
     }
 
-    // Sends what the change since the last sample makes, once in every timerInterval.
+    // Sends the readings that the change since the last sample causes. The page calls it once in
+    // every timerInterval.
     function sample() {
         if (rotationMode) {
             rotationFrequency = Logic.rotationFrequencies(rotation, previousRotation, wrapped,
@@ -91,7 +94,7 @@ QtObject {
         }
     }
 
-    // Ends what a turn or a move adds to the readings, which stand from then on.
+    // Sends the readings of a device that neither turns nor moves.
     function comeToRest() {
         previousRotation = rotation;
         wrapped = [false, false, false];

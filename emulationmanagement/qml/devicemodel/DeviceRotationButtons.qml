@@ -5,13 +5,13 @@ import QtQuick.Controls
 
 import "../../js/devicemodel/smartphone-model-page-logic.js" as Logic
 
-// Buttons for the attitudes that are needed most.
+// Buttons for common attitudes.
 GroupBox {
     id: root
 
     readonly property bool darkTheme: darkUserInterface // qmllint disable unqualified
 
-    signal chosen(rotation: var)
+    signal chosen(rotation: list<real>)
 
     title: qsTr("Device rotation")
 
@@ -19,28 +19,28 @@ GroupBox {
         spacing: 6
 
         Repeater {
-            model: Logic.presets
+            model: Logic.presets.length
 
             delegate: Button {
                 required property int index
-                required property var modelData
+                readonly property list<real> rotation: Logic.presets[index]
 
                 ToolTip.delay: 500
                 ToolTip.text: text
                 ToolTip.visible: hovered
                 display: AbstractButton.IconOnly
-                focusPolicy: Qt.TabFocus // arrow keys go on turning the device
-                icon.color: "transparent" // as it is drawn
+                focusPolicy: Qt.TabFocus // after a click, arrow keys still turn the device
+                icon.color: "transparent" // keeps the colours of the picture
                 icon.height: 32
                 icon.source: "qrc:/emulationmanagement/icons/phone_%1%2.png"
                              .arg(index + 1).arg(root.darkTheme ? "_light" : "")
                 icon.width: 32
                 implicitWidth: implicitContentWidth + leftPadding + rightPadding
                 padding: 4
-                text: qsTr("X %1°, Y %2°, Z %3°").arg(modelData[0]).arg(modelData[1])
-                                                 .arg(modelData[2])
+                text: qsTr("X %1°, Y %2°, Z %3°").arg(rotation[0]).arg(rotation[1])
+                                                 .arg(rotation[2])
 
-                onClicked: root.chosen(modelData)
+                onClicked: root.chosen(rotation)
             }
         }
     }

@@ -14,7 +14,7 @@ GroupBox {
     required property string numberLocale
     required property int decimals
 
-    readonly property var sensorNames: ["accelerometer", "gyroscope", "magnetometer"]
+    readonly property list<string> sensorNames: ["accelerometer", "gyroscope", "magnetometer"]
 
     function formatted(value: double): string {
         return Numbers.fixed(value, decimals, Qt.locale(numberLocale));
@@ -23,7 +23,7 @@ GroupBox {
     component ResultLabel: Label {
         required property string sensorName
         required property string title
-        required property var values
+        required property list<real> values // x, y and z
 
         enabled: States.isEnabled(root.motion.sensorsManager, sensorName)
         text: title + ": " + "%1 %2 %3".arg(root.formatted(values[0]))

@@ -2,9 +2,8 @@ import QtQuick
 
 // The place of the drawn device. Nothing is drawn yet.
 Item {
-    // Euler angles in degrees, as the sliders have them but for the camera's; null while there is
-    // no drawn device that could be turned by the mouse.
-    property var rotationState: null
-    // What the camera adds to the rotation about z, in degrees.
-    property double cameraAngle: 0
+    // Euler angles about x, y and z in degrees: those of the sliders, but with the camera's angle
+    // added to z. Empty while there is no drawn device that the mouse could turn.
+    property list<real> rotationState
+    property double cameraAngle: 0 // degrees
 }

@@ -3,35 +3,35 @@ import QtQuick.Controls
 
 import "../../js/devicemodel/smartphone-model-page-logic.js" as Logic
 
-// Where the device is seen, and turned and moved with the mouse.
+// The area that shows the device, in which the mouse turns and moves it.
 Rectangle {
     id: root
 
     required property bool rotationMode
-    required property var displacement // [x, y, z] in units of the move sliders
+    required property list<real> displacement // x, y and z in units of the move sliders
     required property double moveMinValue
     required property double moveMaxValue
-    required property bool keyboardFocus // keys turn and move the device
+    required property bool keyboardFocus // arrow keys turn or move the device
     property alias model: model
 
-    readonly property double dragLimit: 2.1 // a drag may leave the sliders' range a little
+    readonly property double dragLimit: 2.1 // a drag may go a little beyond the sliders' range
     readonly property double wheelStep: 0.2
-    readonly property int wheelNotch: 120 // as the system counts, in eighths of a degree
+    readonly property int wheelNotch: 120 // eighths of a degree, the unit of wheel events
 
-    property point basePoint // up to where the pointer's way was taken account of
+    property point basePoint // where the part of a drag begins that has had no effect yet
     readonly property point originPoint: Logic.originPoint(mouseArea.width, mouseArea.height,
                                                            displacement)
 
     signal pressed
     // The user turned the drawn device to Euler angles in degrees.
-    signal turned(rotation: var)
+    signal turned(rotation: list<real>)
     // The user moved the device.
-    signal moved(displacement: var)
+    signal moved(displacement: list<real>)
 
     function dragTo(pointer: point) {
         if (!rotationMode)
             dragPosition(pointer);
-        else if (model.rotationState)
+        else if (model.rotationState.length > 0)
             dragRotation(pointer);
     }
 
@@ -65,7 +65,7 @@ Rectangle {
     MouseArea {
         id: mouseArea
 
-        property int wheelAngle: 0 // what is not a whole notch yet
+        property int wheelAngle: 0 // since the last whole notch
 
         anchors.fill: model
 
