@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Dialogs
 import QtQuick.Window
@@ -100,6 +102,14 @@ Rectangle {
         }
     }
 
+    component SwitchButton: PageButton {
+        required property EmulationPage page
+
+        active: page.visible
+
+        onClicked: root.switchVisiblePage(page)
+    }
+
     Column {
         id: buttonsColumn
 
@@ -108,34 +118,29 @@ Rectangle {
         anchors.left: parent.left
         width: 180
 
-        PageButton {
-            active: sensorsManagementPage.visible
+        SwitchButton {
+            page: sensorsManagementPage
             text: qsTr("Sensors Management")
-            onClicked: root.switchVisiblePage(sensorsManagementPage)
         }
 
-        PageButton {
-            active: sensorsValuesPage.visible
+        SwitchButton {
+            page: sensorsValuesPage
             text: qsTr("Sensors Values")
-            onClicked: root.switchVisiblePage(sensorsValuesPage)
         }
 
-        PageButton {
-            active: smartphoneModelPage.visible
+        SwitchButton {
+            page: smartphoneModelPage
             text: qsTr("Orientation Management")
-            onClicked: root.switchVisiblePage(smartphoneModelPage)
         }
 
-        PageButton {
-            active: gpsManagementPage.visible
+        SwitchButton {
+            page: gpsManagementPage
             text: qsTr("GPS Management")
-            onClicked: root.switchVisiblePage(gpsManagementPage)
         }
 
-        PageButton {
-            active: cameraManagementPage.visible
+        SwitchButton {
+            page: cameraManagementPage
             text: qsTr("Camera Management")
-            onClicked: root.switchVisiblePage(cameraManagementPage)
         }
     }
 
