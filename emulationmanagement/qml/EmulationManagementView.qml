@@ -19,7 +19,7 @@ Rectangle {
         gpsManagementPage,
         cameraManagementPage,
     ]
-    // The sensor that "Apply" switched last, until the emulator refuses a call.
+    // The sensor that "Apply" switched last. Empty again once the emulator has refused a call.
     property string lastChangedSensorName: ""
     readonly property SensorsEmulationManager sensorsManager: sensorsEmulationManager // qmllint disable unqualified
     readonly property color separatorColor: themeSeparatorColor // qmllint disable unqualified

@@ -3,20 +3,19 @@ import QtQuick.Controls
 
 import "../js/plain-text.js" as PlainText
 
-// Tells what an emulator or a file answered. It is a part of the window, and not one of the
-// platform's dialogs, which keep their first text while they are open and take markup in it for
-// rich text.
+// Shows a message of the emulator or about a file. It is a part of the window: the platform's
+// dialogs keep their first text while they are open, and interpret markup in it.
 Dialog {
     id: root
 
-    // A page may repeat a call that is refused ten times a second. Milliseconds from a message to
-    // the same one that still belong to one refusal, which is told once.
+    // In milliseconds. A message that comes again within this time is not shown again: a page can
+    // repeat a call that the emulator refuses ten times a second.
     readonly property int repetitionInterval: 1000
-    // When each message of the last repetitionInterval came, by its text.
+    // The times of the messages of the last repetitionInterval, by their texts.
     property var lastTimes: ({})
     property string text: ""
 
-    // Shows a message, also in the place of one that is still open.
+    // Shows a message. It replaces one that is still open.
     function show(message: string) {
         text = PlainText.shortened(message);
         open();

@@ -8,7 +8,7 @@ Button {
     readonly property color highlightColor: themeHighlightColor // qmllint disable unqualified
     readonly property color backgroundColor: themeBackgroundColorNormal // qmllint disable unqualified
 
-    // White alone cannot be read on the pale highlight of a light theme.
+    // White text alone is unreadable on the pale highlight of a light theme.
     readonly property bool emphasized: active && highlightColor.hslLightness > 0.6
 
     anchors.left: parent?.left

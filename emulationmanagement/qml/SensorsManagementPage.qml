@@ -124,7 +124,8 @@ EmulationPage {
         id: warningDialog
 
         property var continuation
-        // What was ticked when the question was asked; the emulator's answers go on arriving.
+        // The boxes as they were when the question was asked: replies from the emulator can change
+        // them meanwhile.
         property var states
 
         standardButtons: MessageDialog.Discard | MessageDialog.Apply // qmllint disable missing-type

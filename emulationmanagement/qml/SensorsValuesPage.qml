@@ -13,7 +13,8 @@ EmulationPage {
     id: root
 
     readonly property SensorsEmulationManager sensorsManager: sensorsEmulationManager // qmllint disable unqualified
-    // A sensor that the device model page drives too was changed since this page was shown.
+    // True when a sensor that the device model page also drives was changed since this page was
+    // shown.
     property bool modelSensorChanged: false
 
     content: ColumnLayout {
@@ -63,6 +64,7 @@ EmulationPage {
             modelSensorChanged = false;
     }
 
+    // The casts tell qmllint that the models are objects: it cannot follow their base, a template.
     component ModelWatch: Connections {
     // The casts tell qmllint that the models are objects: it cannot follow their base, a template.
         function onXChanged() {

@@ -31,7 +31,7 @@ EmulationPage {
         motion.updateAttitudeValues();
     }
 
-    // Lets rotations that went beyond half a turn go on from the other end.
+    // Continues rotations beyond half a turn from the other end.
     function resetSlidersValue() {
         const beyond = motion.rotation.map(Logic.isBeyondHalfTurn);
         motion.wrapped = motion.wrapped.map((before, i) => before || beyond[i]);
@@ -93,7 +93,7 @@ EmulationPage {
 
                     RadioButton {
                         checked: root.rotationMode
-                        focusPolicy: Qt.TabFocus // the keys stay with the device
+                        focusPolicy: Qt.TabFocus // after a click, keys still move the device
                         text: qsTr("Rotation")
 
                         onToggled: root.rotationMode = checked
@@ -150,7 +150,7 @@ EmulationPage {
     Component.onCompleted: motion.updateAttitudeValues()
     Keys.onPressed: event => {
         if (!activeFocus)
-            return; // a slider or a field has its own use for keys
+            return; // the key belongs to a slider or a field
         resetSlidersValue();
         controlModifierPressed = event.key === Qt.Key_Control
                                  || (event.modifiers & Qt.ControlModifier) !== 0;
@@ -163,7 +163,7 @@ EmulationPage {
         if (event.key === Qt.Key_Control || event.modifiers === Qt.NoModifier)
             controlModifierPressed = false;
         if (wasMoved && rotationMode)
-            motion.updateAttitudeValues(); // the acceleration of the move ends
+            motion.updateAttitudeValues(); // without the acceleration of the move
     }
     onActiveChanged: {
         if (active)
@@ -173,15 +173,15 @@ EmulationPage {
     }
     onShownChanged: {
         if (!shown && active)
-            motion.comeToRest(); // the timer ends with the window
+            motion.comeToRest(); // the timer stops when the window is hidden
     }
     onControlModifierPressedChanged: rotationMode = !rotationMode
-    // The sliders of the other mode take the focus with them when they are hidden.
+    // Hiding the sliders of the other mode removes the focus from them.
     onRotationModeChanged: {
         if (active)
             forceActiveFocus();
     }
-    // The release of Ctrl goes elsewhere.
+    // An inactive window is not told that Ctrl is released.
     Window.onActiveChanged: {
         if (!Window.active)
             controlModifierPressed = false;

@@ -12,7 +12,7 @@ SensorControls {
 
     controls: Component {
         LabeledComboBox {
-            // the value before TopUp means that the orientation is not known
+            // TopUp is 1; 0 stands for an unknown orientation and selects no entry
             index: root.sensorsManager.orientation.orientation - 1 // qmllint disable unresolved-type
             label: qsTr("Orientation")
             model: ["TopUp", "TopDown", "LeftUp", "RightUp", "FaceUp", "FaceDown"]

@@ -5,7 +5,7 @@ import QtQuick.Layouts
 
 import "../shared"
 
-// For a sensor that the emulator does not have yet: nothing is bound, and no page shows it.
+// For a sensor that the emulator does not have yet. It makes no calls, and no page shows it.
 SensorControls {
     id: root
 

@@ -12,7 +12,7 @@ SensorControls {
 
     controls: Component {
         LabeledComboBox {
-            // Undefined is -1
+            // the first entry, Undefined, is -1
             index: root.sensorsManager.tap.tapDirection + 1
             label: qsTr("Direction")
             model: ["Undefined", "X_Both", "Y_Both", "Z_Both", "X_Pos", "X_Neg", "Z_Neg", "Z_Pos",

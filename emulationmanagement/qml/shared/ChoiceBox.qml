@@ -1,13 +1,13 @@
 import QtQuick
 import QtQuick.Controls
 
-// A combo box whose list opens with the current entry over the box: the second click of a double
-// click meets that entry and changes nothing. Without room for that in the window, the list opens
-// above or below the box, and the second click closes it.
+// A combo box that a double click does not change. Its list opens with the current entry over the
+// box, where the second click chooses the same entry again. If the window has no room for that, the
+// list opens above or below the box, and the second click closes it.
 ComboBox {
     id: root
 
-    // As it was when the list opened.
+    // The state when the list opened.
     property int openedIndex: 0
     property double openedTime: 0 // milliseconds
     property real boxTop: 0 // in the window

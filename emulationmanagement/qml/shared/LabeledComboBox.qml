@@ -2,14 +2,15 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 
-// A choice with a label before it.
+// A combo box with a label before it.
 RowLayout {
     id: root
 
     property string label: ""
     property alias model: comboBox.model
     property alias textRole: comboBox.textRole
-    // What is shown; the user's choice changes it through the model that it is bound to.
+    // The entry that is shown. The user's choice only emits chosen(); the index follows when the
+    // property that it is bound to changes.
     property int index: -1
 
     signal chosen(index: int)

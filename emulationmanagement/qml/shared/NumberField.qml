@@ -5,8 +5,8 @@ import QtQuick.Controls
 
 import org.plova 1.0
 
-// A field for a number. It shows when it refuses a key or a paste: of a typed "1,5" it keeps "15",
-// which is not what the user meant.
+// A field for a number. It shows that it refuses a key or a paste: without that, the user would not
+// notice that a typed "1,5" became "15".
 TextField {
     id: root
 
@@ -14,8 +14,8 @@ TextField {
     property alias maxValue: validator.top
     property alias decimals: validator.decimals
     property bool integer: decimals === 0
-    // True for some seconds after a refusal. Accepted keys do not end it: the "5" of "1,5" follows
-    // the refused comma at once.
+    // True for some seconds after a refusal. An accepted key does not end it, because the "5" of
+    // "1,5" follows the refused comma at once.
     readonly property alias refused: refusal.running
 
     readonly property string range: integer
@@ -69,7 +69,7 @@ TextField {
             }
             color: palette.toolTipText
             padding: 6
-            // a ToolTip would take the clicks on what it covers
+            // a ToolTip would take clicks on the controls that it covers
             parent: root.Window.contentItem
             text: root.range
             x: Math.max(0, place.x + root.width - width)

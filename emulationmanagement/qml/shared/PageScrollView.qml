@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Controls
 
-// Scrolls a page that is larger than the window, and brings what the Tab key reaches into view.
+// Scrolls a page that is larger than the window, also to the control that the Tab key reaches.
 ScrollView {
     id: root
 
@@ -17,16 +17,16 @@ ScrollView {
         return false;
     }
 
-    // Scrolls as little as shows all of the range.
+    // The bar's position after the least scrolling that shows the whole range.
     function scrolledTo(bar: ScrollBar, start: real, length: real, contentLength: real): real {
         const visible = bar.size * contentLength;
         const position = Math.min(start, Math.max(start + length - visible,
                                                   bar.position * contentLength));
-        // what is stretched to the view's width reaches beyond contentLength
+        // a control that is stretched to the view's width ends beyond contentLength
         return Math.max(0, Math.min(position / contentLength, 1 - bar.size));
     }
 
-    // The style shows bars only while they are used: nobody would know that there is more.
+    // The style shows bars only while they are used, so users would not know that there is more.
     ScrollBar.horizontal.policy: isTooWide ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
     ScrollBar.vertical.policy: isTooHigh ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
     bottomPadding: isTooWide ? ScrollBar.horizontal.height : 0
