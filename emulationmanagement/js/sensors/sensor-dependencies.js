@@ -1,18 +1,15 @@
 .pragma library
 
-// Sensors that are computed from others go on and off with them.
-const switchedOnWith = {
+// The sensors from which others are computed. A computed sensor is on only while these are on.
+const sources = {
     compass: ["accelerometer", "magnetometer"],
     orientation: ["accelerometer"],
 };
-const switchedOffWith = {
-    accelerometer: ["compass", "orientation"],
-    magnetometer: ["compass"],
-};
 
-// The states by sensor name after one sensor was switched on or off by hand.
+// The states, by sensor name, after the user has switched one sensor on or off.
 function statesAfterSwitch(states, sensorName, on) {
-    const others = (on ? switchedOnWith : switchedOffWith)[sensorName] ?? [];
+    const others = on ? sources[sensorName] ?? []
+                      : Object.keys(sources).filter(name => sources[name].includes(sensorName));
     const result = Object.assign({}, states);
     for (const name of [sensorName, ...others])
         result[name] = on;
