@@ -1,10 +1,10 @@
 .pragma library
 
-// What fits on a screen.
+// A longer text would not fit on the screen.
 const maxLength = 1000;
 const maxLines = 20;
 
-// The beginning of a text from outside, as much as a dialog can show.
+// The beginning of a text from outside, short enough for a dialog.
 function shortened(text) {
     const plain = text.length > maxLength ? text.substring(0, maxLength - 1) + "…" : text;
     const lines = plain.split(/\r\n?|[\n\u2028\u2029]/);

@@ -1,13 +1,13 @@
 .pragma library
 .import "three.js" as Three
 
-// What a device that is turned and moved reads, and how keys and mouse turn and move it.
+// The readings of a device that is turned and moved, and the turns and moves by keys and mouse.
 //
-// Triples are arrays of x, y and z. The world's x axis points to the viewer's right, y up and z to
-// the viewer. Rotations are Euler angles in degrees: about x, then about the turned y, then about
-// the turned z.
+// Arrays of three numbers are x, y and z. The world's x axis points to the viewer's right, y up and
+// z to the viewer. Rotations are Euler angles in degrees: about x, then about the turned y, then
+// about the turned z.
 
-// The attitudes of the buttons for the device's rotation, in their order.
+// The rotations of the buttons under "Device rotation", in their order.
 const presets = [[0, 0, 0], [0, 0, -90], [0, 0, 180], [0, 0, 90], [-90, 0, 0], [90, 0, 0]];
 
 const halfTurn = 180;
@@ -25,7 +25,8 @@ function clamped(value, min, max) {
     return Math.max(min, Math.min(max, value));
 }
 
-// A value after a step, which may begin but not go on outside the range.
+// A value after a step that does not lead out of the range. A value that is already outside can
+// only step back.
 function stepped(value, step, min, max) {
     if (step < 0)
         return value > min ? Math.max(min, value + step) : value;
@@ -49,8 +50,9 @@ function linearAcceleration(position, previousPosition, initialSpeed, period) {
     return 2 * (position - previousPosition) / (period * period) - 2 * initialSpeed / period;
 }
 
-// The accelerometer's reading in m/s²: the pull against gravity and an acceleration along the
-// world's axes. The device's x axis takes vertical and depth acceleration with their sign reversed.
+// The accelerometer's reading in m/s² of a device that is held against gravity and accelerated
+// along the world's axes. Unlike in nature, accelerations along y and z reach the device's x axis
+// with reversed signs.
 function accelerometerReading(rotation, gravity, acceleration) {
     const axes = worldAxes(rotation);
     const [ax, ay, az] = acceleration;
@@ -58,7 +60,7 @@ function accelerometerReading(rotation, gravity, acceleration) {
                                        + sign * (ay * axes.y[i] + az * axes.z[i]));
 }
 
-// Turns per second about each Euler axis. An axis that was wrapped between the two rotations
+// Turns per second about each Euler axis. An axis whose angle was wrapped between the two rotations
 // counts as turned forwards, through 180 degrees.
 function rotationFrequencies(rotation, previousRotation, wrapped, period) {
     return rotation.map((angle, i) => {
@@ -88,14 +90,14 @@ function magnetometerReading(rotation, field) {
     const fieldVector = new THREE.Vector3(...field);
     return [[1, 0, 0], [0, 1, 0], [0, 0, 1]].map(axis => {
         const angle = new THREE.Vector3(...axis).applyEuler(attitude).angleTo(fieldVector);
-        // there is no angle to a field of length 0
+        // a field of length 0 has no direction
         return fieldVector.length() * Math.cos(isNaN(angle) ? Math.PI / 2 : angle);
     });
 }
 
-// What is sent of an acceleration in m/s², in whole thousandths of g; the fraction is cut off.
+// An acceleration in m/s² in the accelerometer's unit, thousandths of g, without its fraction.
 function wireAcceleration(acceleration, unitsPerMetre) {
-    // 30 degrees are to give 500, and not 499 for a hair that is missing in the last digit
+    // Rounding first keeps 30 degrees from giving 499 through floating-point error.
     const precision = 1e6;
     return Math.trunc(Math.round(acceleration * unitsPerMetre * precision) / precision);
 }
@@ -109,7 +111,7 @@ function otherEnd(angle) {
     return -halfTurn * Math.sign(angle);
 }
 
-// How an arrow key turns the device, in degrees about each axis; nothing for another key.
+// The degrees by which an arrow key turns the device about each axis. Undefined for other keys.
 function arrowTurn(key, shift) {
     switch (key) {
     case Qt.Key_Left: return shift ? [0, -1, 0] : [0, 0, -1];
@@ -119,7 +121,7 @@ function arrowTurn(key, shift) {
     }
 }
 
-// How an arrow key moves the device, in steps along each axis; nothing for another key.
+// The steps by which an arrow key moves the device along each axis. Undefined for other keys.
 function arrowMove(key) {
     switch (key) {
     case Qt.Key_Left: return [-1, 0, 0];
@@ -129,7 +131,7 @@ function arrowMove(key) {
     }
 }
 
-// Where the middle of the moved device is seen in the model's area.
+// The place of the moved device's middle in the model's area.
 function originPoint(width, height, displacement) {
     const [x, y, z] = displacement;
     const distance = 1 + Math.abs(z);
@@ -137,8 +139,8 @@ function originPoint(width, height, displacement) {
                     height / 2 - y * height / (4 * distance));
 }
 
-// The angle in degrees by which a pointer that passes the origin's vertical line turns about the
-// axis to the viewer; 0 when it stays on its side.
+// The angle in degrees by which a moving pointer turns the device about the axis to the viewer. It
+// is 0 unless the pointer passes the origin's vertical line.
 function signedAngle(origin, base, pointer) {
     const wasRight = base.x >= origin.x;
     if (wasRight === pointer.x >= origin.x)
@@ -150,21 +152,20 @@ function signedAngle(origin, base, pointer) {
     if (isNaN(cosine))
         return 0; // one of the points is the origin
     const angle = degrees(Math.acos(Math.round(cosine * 1000) / 1000));
-    // close to the origin a small way of the pointer is a wide angle
+    // close to the origin, a short move of the pointer is a wide angle
     const distance = Math.abs(to.y);
     const damping = distance > 30 ? 1 : Math.sin(radians(distance));
     const down = Math.sign(pointer.y - base.y);
     return angle * damping * (wasRight ? down : -down);
 }
 
-// How far a pointer on its way from base to pointer turns the device about the world's axes, in
-// degrees.
+// The degrees by which a drag from base to pointer turns the device about the world's axes.
 function dragTurn(origin, base, pointer) {
     return [(pointer.y - base.y) / 2, (pointer.x - base.x) / 2,
             signedAngle(origin, base, pointer) / 2];
 }
 
-// A rotation after turns, in degrees, about the world's x, y and z axes.
+// A rotation after further turns, in degrees, about the world's x, y and z axes.
 function turnedAboutWorldAxes(rotation, turns) {
     const THREE = Three.THREE;
     const matrix = new THREE.Matrix4().makeRotationFromEuler(

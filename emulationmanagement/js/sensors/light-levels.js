@@ -1,7 +1,7 @@
 .pragma library
 
-// The index of the last of the levels, which ascend, whose lux is not above the given one; -1 when
-// all are.
+// The index of the last level whose lux is at most the given one, or -1 when all are above it. The
+// levels must ascend.
 function indexOf(levels, lux) {
     return levels.filter(level => level.lux <= lux).length - 1;
 }
