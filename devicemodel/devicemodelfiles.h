@@ -9,11 +9,11 @@ class QSettings;
 namespace EmulationManagement::Internal {
 
 /*!
- * Reads the INI files of \a directory, one a device model.
+ * Reads the INI files of \a directory, of which each describes a device model.
  *
- * Returns what \a read makes of each file by the name of its device model ("device-name"). If two
- * files name the same device model, the one listed later wins. A file without a name is filed under
- * the empty name; a missing folder gives an empty map.
+ * Returns the result of \a read for each file, by the name of the device model ("device-name"). If
+ * two files name the same device model, the one listed later wins. A file without a name has the
+ * empty name. A missing folder gives an empty map.
  */
 [[nodiscard]] QMap<QString, QVariant> readDeviceModelFiles(const QString &directory,
                                                            QVariantMap (*read)(QSettings &file));

@@ -39,7 +39,7 @@ public:
     [[nodiscard]] QString smartphone3DModelTextureUri() const;
 
 Q_SIGNALS:
-    /// The only signal of an update: read both URIs again.
+    /// Emitted at each update, unlike the two signals below: QML must read both URIs again then.
     void smartphone3DModelConfigChanged();
     void smartphone3DModelMeshUriChanged();
     void smartphone3DModelTextureUriChanged();

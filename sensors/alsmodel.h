@@ -15,7 +15,7 @@ class AlsModel : public SensorModel
     Q_PROPERTY(int lux READ lux WRITE setLux NOTIFY luxChanged)
 
 public:
-    /// Levels of light by the lux from which on they hold.
+    /// The value of each level is the lux at which it begins.
     enum LightLevel {
         Undefined = -1,
         Dark = 0,

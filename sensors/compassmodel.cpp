@@ -65,7 +65,7 @@ int CompassModel::calculateAzimuth(int ax, int ay, int az, double mx, double my,
     const double yaw = std::atan2(
         std::sin(roll) * mz - mx * std::cos(roll),
         my * std::cos(pitch) + (mx * std::sin(roll) + mz * std::cos(roll)) * std::sin(pitch));
-    if (!std::isfinite(yaw)) // free fall: nothing says where the horizon is
+    if (!std::isfinite(yaw)) // in free fall, the readings do not tell where the horizon is
         return 0;
     return static_cast<int>(std::lround(fullTurn - qRadiansToDegrees(yaw)))
            % static_cast<int>(fullTurn);

@@ -6,7 +6,7 @@
 
 namespace EmulationManagement::Internal {
 
-/// The ambient magnetic field around the device in microtesla. It stays on the host.
+/// The magnetic field around the device in microtesla. It is not sent to the emulator.
 class MagneticFieldModel final : public DoubleXYZModel
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 
 namespace EmulationManagement::Internal {
 
-/// Magnetic flux density in tesla, and how well the sensor is calibrated (0 to 3).
+/// Magnetic flux density in tesla, and the sensor's calibration level (0 to 3).
 class MagnetometerModel final : public DoubleXYZModel
 {
     Q_OBJECT
@@ -16,7 +16,7 @@ class MagnetometerModel final : public DoubleXYZModel
                    NOTIFY calibrationLevelChanged)
 
 public:
-    /// The emulator takes tesla, and pages show microtesla.
+    /// The emulator expects tesla, the pages show microtesla.
     static constexpr double teslaPerMicrotesla = 0.000001;
     static constexpr double defaultXValue = 4.3e-5;
     static constexpr int defaultCalibLevel = 0;

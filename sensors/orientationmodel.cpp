@@ -10,16 +10,16 @@ using namespace Qt::StringLiterals;
 
 namespace EmulationManagement::Internal {
 
-// A turn to the side is taken later than one to the front or back, so that a device held upright
-// and a little askew stays in portrait.
+// In degrees. The side needs more tilt than the top, so that a device that is held upright and a
+// little askew stays in portrait.
 constexpr long sideThreshold = 25;
 constexpr long topThreshold = 21;
-constexpr double faceThreshold = 300.0;
+constexpr double faceThreshold = 300.0; // thousandths of g
 
 static long tiltInDegrees(double component, double otherA, double otherB)
 {
     const double tilt = std::atan(component / std::sqrt(otherA * otherA + otherB * otherB));
-    return std::isfinite(tilt) ? std::lround(qRadiansToDegrees(tilt)) : 0; // free fall: no tilt
+    return std::isfinite(tilt) ? std::lround(qRadiansToDegrees(tilt)) : 0; // no tilt in free fall
 }
 
 static QOrientationReading::Orientation tiltOf(double x, double y, double z)

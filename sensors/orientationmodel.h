@@ -30,8 +30,8 @@ public:
     /*!
      * Derives the orientation from the acceleration \a x, \a y, \a z in thousandths of g.
      *
-     * While the device is neither tilted nor clearly on one of its faces (|z| below 300), the face
-     * that was up last stays.
+     * While the device is neither tilted nor clearly on its back or its face (|z| below 300), it
+     * stays on the one that it was on last.
      */
     void setOrientation(double x, double y, double z);
 

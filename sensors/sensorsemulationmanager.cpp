@@ -12,13 +12,13 @@ using namespace Qt::StringLiterals;
 
 namespace EmulationManagement::Internal {
 
-// Horizontal flux density of the readings that stand for an azimuth, in tesla.
+// The horizontal flux density of the readings that give an azimuth, in tesla.
 constexpr double azimuthFluxDensity = 4.358898943540674e-05;
-// Accelerations that stand for an orientation, in thousandths of g.
+// The accelerations that give an orientation, in thousandths of g.
 constexpr int tiltedAcceleration = 100;
 constexpr int facingAcceleration = 300;
 
-/// The first of the arguments that a reply joins with "|", without a list of all of them.
+/// The first of the arguments that a reply joins with "|". Splits no further: replies can be long.
 static QString firstArgument(const QString &arguments)
 {
     for (const QStringView argument : qTokenize(arguments, u'|', Qt::SkipEmptyParts))
@@ -50,7 +50,7 @@ SensorsEmulationManager::SensorsEmulationManager(QObject *parent)
     connect(this, &EmulationManager::emulatorConnected, this,
             &SensorsEmulationManager::setupSensors);
     connect(this, &EmulationManager::rdbusinvokerChanged, this, [this] {
-        // a crash of the IDE after that costs nothing
+        // the values outlive a later crash of the IDE
         connect(rdbusinvoker(), &RemoteDBusInvokerService::webSocketDisconnected, this,
                 &SensorsEmulationManager::saveCurrentSensorsValues, Qt::UniqueConnection);
     });
@@ -416,7 +416,7 @@ void SensorsEmulationManager::setupSensors()
             checkSensorState(name);
         m_sensorsSetUp = true;
     }
-    saveCurrentSensorsValues(); // what was set without an emulator is restored, too
+    saveCurrentSensorsValues(); // values that were set without an emulator are restored, too
     restoreSensorsValues();
     Q_EMIT sensorsInitialized();
 }
@@ -453,7 +453,7 @@ void SensorsEmulationManager::restoreSensorsValues()
     setGyroscopeValues(m_gyroscope->x(), m_gyroscope->y(), m_gyroscope->z());
     setAlsLuxValue(m_als->lux());
     setProximitySensorReflectanceValue(m_proximity->reflectance());
-    // a saved direction that is none was not read
+    // a saved number that is no direction was not read and is not sent
     if (TapModel::isTapDirection(m_settings.readTapSensorValue()))
         setTapSensorValue(m_tap->tapDirection());
 }

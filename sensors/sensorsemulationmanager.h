@@ -22,14 +22,14 @@
 namespace EmulationManagement::Internal {
 
 /*!
- * Sends sensor values to the emulator's sensor service and keeps the models of what was sent.
+ * Sends sensor values to the emulator's sensor service and keeps them in models.
  *
- * A setter makes the D-Bus call first and then updates the model and what is derived from it,
- * whether or not an emulator is connected. Values are not checked: the pages bound them. Units are
- * those of the models.
+ * A setter makes the D-Bus call first and then updates the model and the values that are derived
+ * from it, whether or not an emulator is connected. Values are not checked, because the pages limit
+ * them. Units are those of the models.
  *
- * The models start with the saved values. The settings are their copy, and are written only when a
- * value has changed since they were last read or written.
+ * The models start with the values in the settings. The settings are written only when a value has
+ * changed since they were last read or written.
  *
  * Two maps by sensor name tell which sensors the device has (availability) and which are switched
  * on in the emulator (enabled states). The magnetic field is in neither: it stays on the host.
@@ -65,7 +65,7 @@ public:
     QString dbusService() const override;
     QString dbusObject() const override;
     QString dbusInterface() const override;
-    /// Takes over the answer to checkSensorState(); switches off a sensor the device lacks.
+    /// Handles the answer to checkSensorState(). Switches off a sensor that the device lacks.
     void processDBusMethodsReturnValues(const QStringList &values) override;
 
     [[nodiscard]] AccelerometerModel *accelerometer() const;
@@ -80,20 +80,20 @@ public:
     [[nodiscard]] QVariantMap sensorsEnabledStates() const;
     [[nodiscard]] QVariantMap sensorsAvailability() const;
 
-    /// Makes the device have all sensors, without telling the emulator.
+    /// Marks all sensors as available, without telling the emulator.
     void initSensorsAvailability();
-    /// Makes the device have a sensor or not, and switches it on or off in the emulator.
+    /// Marks a sensor as available or not, and switches it on or off in the emulator.
     void setSensorAvailable(const QString &name, bool available);
-    /// Makes the device have all sensors and switches them on in the emulator.
+    /// Marks all sensors as available and switches them on in the emulator.
     void makeAllSensorsAvailable();
 
     Q_INVOKABLE void enableSensor(const QString &sensorName);
     Q_INVOKABLE void disableSensor(const QString &sensorName);
-    /// Asks the emulator whether a sensor is switched on; the answer changes the enabled states.
+    /// Asks the emulator whether a sensor is switched on. The answer changes the enabled states.
     Q_INVOKABLE void checkSensorState(const QString &sensorName);
     /*!
-     * Notes that the user switched a sensor on or off, without telling the emulator. What was
-     * switched off is switched off again after each reconnection.
+     * Remembers that the user switched a sensor on or off, without telling the emulator. After each
+     * reconnection, the sensors that the user switched off are switched off again.
      */
     Q_INVOKABLE void setSensorEnabled(const QString &name, bool enabled);
 
@@ -128,7 +128,7 @@ public:
     /// Sends the default of every sensor. The magnetic field keeps its values.
     Q_INVOKABLE void setDefaultValues();
 
-    /// Saves the models' values. Does nothing while they are those that were saved last.
+    /// Saves the models' values if one has changed since they were last read or saved.
     void saveCurrentSensorsValues();
 
 Q_SIGNALS:
@@ -161,7 +161,7 @@ private:
     QMap<QString, QVariant> m_sensorsAvailability;
     bool m_sensorsSetUp = false; // the emulator was asked for its states once
     QSet<QString> m_switchedOffByUser;
-    QVariantList m_savedSensorsValues; // as the settings hold them
+    QVariantList m_savedSensorsValues; // when they were last read or saved
 };
 
 } // namespace EmulationManagement::Internal

@@ -16,8 +16,8 @@ namespace EmulationManagement::Internal {
 /*!
  * Keeps values in the IDE's settings, under the group "emulationmanagement".
  *
- * A value that was never saved reads as its sensor's default; one that does not convert reads as
- * 0, 0.0 or false. Units are those of the sensor models, degrees and metres for the position.
+ * A value that was never saved reads as its sensor's default. A value that does not convert reads
+ * as 0, 0.0 or false. Units are those of the sensor models. The position is in degrees and metres.
  */
 class SettingsManager : public QObject
 {
@@ -55,7 +55,7 @@ public:
 
     explicit SettingsManager(QObject *parent = nullptr);
 
-    /// Writes a value that differs from the saved one. What is not a number is not saved.
+    /// Writes a value if it differs from the saved one. Ignores NaN.
     void setValue(const QString &key, const QVariant &value);
     [[nodiscard]] QVariant value(const QString &key, const QVariant &defaultValue) const;
 

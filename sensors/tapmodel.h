@@ -16,7 +16,7 @@ class TapModel : public SensorModel
                    WRITE setTapDirection NOTIFY tapDirectionChanged)
 
 public:
-    /// As the emulator's sensor service numbers them, z before y among the single directions.
+    /// The numbers of the emulator's sensor service. Among the single directions, z is before y.
     enum TapDirection {
         Undefined = -1,
         X_Both = 0,
