@@ -62,11 +62,6 @@ static QQuickItem *item(const QByteArray &file)
     qFatal("There is no %s", file.constData());
 }
 
-static QQuickItem *gpsPage()
-{
-    return item("GpsManagementPage");
-}
-
 static int lastRow()
 {
     return gpsPage()->property("lastRow").toInt();

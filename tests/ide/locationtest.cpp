@@ -34,11 +34,6 @@ static void chooseSpeed(const QString &speed)
     window().choose(window().items("QQuickComboBox").constFirst(), speed);
 }
 
-static QObject *errorDialog()
-{
-    return view()->rootObject()->property("errorDialog").value<QObject *>();
-}
-
 void LocationTest::initTestCase()
 {
     m_journal = std::make_unique<JournalReader>(journalPath());

@@ -8,12 +8,9 @@
 #include <coreplugin/coreconstants.h>
 #include <coreplugin/icore.h>
 
-#include <ravik/virtualmachine.h>
-
 #include <QAction>
 #include <QApplication>
 #include <QHash>
-#include <QQmlListReference>
 #include <QQuickItem>
 #include <QQuickView>
 #include <QUrl>
@@ -37,17 +34,10 @@ static void openTool()
 
 static void playTrack()
 {
-    static constexpr qsizetype gpsPage = 3;
     openTool();
-    QObject *page = QQmlListReference(view()->rootObject(), "pagesIds").at(gpsPage);
-    QMetaObject::invokeMethod(page, "openFile",
-                              QUrl::fromLocalFile(QStringLiteral(TEST_DATA "/gga.nmea")));
+    QMetaObject::invokeMethod(gpsPage(), "openFile", QUrl::fromLocalFile(TEST_DATA "/gga.nmea"));
     waitFor("the track", [] { return gpsManager()->property("trackLoaded").toBool(); });
-    const QObjectList children = page->findChildren<QObject *>();
-    for (QObject *child : children) {
-        if (QByteArrayView(child->metaObject()->className()).startsWith("TrackPlayer_QML"))
-            QMetaObject::invokeMethod(child, "start");
-    }
+    QMetaObject::invokeMethod(trackPlayer(), "start");
     waitFor("the track to play",
             [] { return gpsManager()->property("currentPositionIndex").toInt() > 0; });
 }
@@ -61,15 +51,14 @@ static void playVideo()
 
 static void checkPackages()
 {
-    machine()->connectTo({}, machine(), [](bool) {});
-    waitFor("the machine", [] { return machine()->state() == Ravik::VirtualMachine::Connected; });
+    startMachine();
     chooseAction();
 }
 
 static void showError()
 {
     openTool();
-    auto *dialog = view()->rootObject()->property("errorDialog").value<QObject *>();
+    QObject *dialog = errorDialog();
     QMetaObject::invokeMethod(dialog, "show", QStringLiteral("It is broken"));
     waitFor("the dialog", [&] { return dialog->property("visible").toBool(); });
 }

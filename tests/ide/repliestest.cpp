@@ -54,7 +54,7 @@ void RepliesTest::testErrorDialog()
     // after an error the GPS page stops its track, which is answered, too
     waitFor("both replies", [&] { return replies.size() >= 2; });
 
-    auto *dialog = view()->rootObject()->property("errorDialog").value<QObject *>();
+    QObject *dialog = errorDialog();
     if (text.isEmpty()) {
         QVERIFY(!dialog->property("visible").toBool());
         return;
@@ -68,7 +68,7 @@ void RepliesTest::testErrorDialog()
 
 void RepliesTest::testErrorDialogClosesWithTheWindow()
 {
-    auto *dialog = view()->rootObject()->property("errorDialog").value<QObject *>();
+    QObject *dialog = errorDialog();
     QMetaObject::invokeMethod(dialog, "show", QStringLiteral("It is broken"));
     QVERIFY(dialog->property("visible").toBool());
     view()->close();
@@ -79,7 +79,7 @@ void RepliesTest::testErrorDialogClosesWithTheWindow()
 void RepliesTest::testRefusedApply()
 {
     JournalReader journal(journalPath());
-    auto *dialog = view()->rootObject()->property("errorDialog").value<QObject *>();
+    QObject *dialog = errorDialog();
     const WindowDriver driver(view());
     driver.clickButton("Sensors Management");
     for (const QString &method : {QString("disableSensor"), QString("enabled")}) {

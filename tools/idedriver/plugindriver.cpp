@@ -14,7 +14,11 @@
 #include <QGuiApplication>
 #include <QLocalSocket>
 #include <QQmlContext>
+#include <QQmlListReference>
+#include <QQuickItem>
 #include <QSignalSpy>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -49,6 +53,28 @@ QObject *sensorsManager()
 QObject *invoker()
 {
     return contextObject("remoteDBusInvokerService");
+}
+
+QObject *errorDialog()
+{
+    return view()->rootObject()->property("errorDialog").value<QObject *>();
+}
+
+QObject *gpsPage()
+{
+    static constexpr qsizetype index = 3;
+    return QQmlListReference(view()->rootObject(), "pagesIds").at(index);
+}
+
+QObject *trackPlayer()
+{
+    const QObjectList children = gpsPage()->findChildren<QObject *>();
+    const auto player = std::ranges::find_if(children, [](const QObject *child) {
+        return QByteArrayView(child->metaObject()->className()).startsWith("TrackPlayer_QML");
+    });
+    if (player == children.end())
+        qFatal("The GPS page has no player");
+    return *player;
 }
 
 void chooseAction()
@@ -93,6 +119,13 @@ void openWindow(JournalReader &journal)
             [&] { return journal.callsSince(start).filter(u"setPosition "_s).size() == 2; });
 }
 
+void startMachine()
+{
+    machine()->connectTo({}, machine(), [](bool) {});
+    waitFor(u"the machine to be reachable"_s,
+            [] { return machine()->state() == Ravik::VirtualMachine::Connected; });
+}
+
 void stopMachine()
 {
     machine()->shutDown();
@@ -121,6 +154,16 @@ void control(const QString &command)
     const QByteArray answer = socket.readLine().trimmed();
     if (answer != "ok" && command != u"kill")
         throw WaitingFailed(command.toStdString() + ": " + answer.toStdString());
+}
+
+void requestFault(const QString &command)
+{
+    auto *socket = new QLocalSocket(sdk());
+    QObject::connect(socket, &QLocalSocket::errorOccurred, socket, &QObject::deleteLater);
+    QObject::connect(socket, &QLocalSocket::readyRead, socket, &QObject::deleteLater);
+    QObject::connect(socket, &QLocalSocket::connected, socket,
+                     [socket, command] { socket->write(command.toUtf8() + '\n'); });
+    socket->connectToServer(dataFolder() + u"/control");
 }
 
 } // namespace PluginDriver

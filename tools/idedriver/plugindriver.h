@@ -22,6 +22,12 @@ QObject *gpsManager();
 QObject *sensorsManager();
 QObject *invoker();
 
+/// The dialog of the errors that the emulator sends, a QML object.
+QObject *errorDialog();
+/// The GPS page and the player of its track.
+QObject *gpsPage();
+QObject *trackPlayer();
+
 /// Triggers the menu's action "Emulation Management…".
 void chooseAction();
 
@@ -31,6 +37,8 @@ Ravik::Emulator *emulator();
 Ravik::VirtualMachine *machine();
 /// Opens the window with the emulator and waits until the two are connected.
 void openWindow(JournalReader &journal);
+/// Starts the machine without the plugin and waits until it can be reached.
+void startMachine();
 void stopMachine();
 /// The folder of the emulator's files.
 QString dataFolder();
@@ -38,5 +46,7 @@ QString dataFolder();
 QString journalPath();
 /// Requests a fault of the running emulator; throws WaitingFailed when it refuses.
 void control(const QString &command);
+/// Requests a fault without waiting for the answer: the emulator may be off or frozen.
+void requestFault(const QString &command);
 
 } // namespace PluginDriver
