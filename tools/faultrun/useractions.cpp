@@ -1,0 +1,98 @@
+#include "useractions.h"
+
+#include <plugindriver.h>
+
+#include <coreplugin/progressmanager/progressmanager.h>
+
+#include <hostsdk.h>
+
+#include <ravik/virtualmachine.h>
+
+#include <QApplication>
+#include <QQuickItem>
+#include <QTest>
+#include <QUrl>
+
+#include <algorithm>
+
+using namespace PluginDriver;
+using namespace Qt::StringLiterals;
+
+static RandomAction clickSomewhere(QRandomGenerator &random)
+{
+    QWindowList windows = QGuiApplication::topLevelWindows();
+    windows.removeIf([](const QWindow *window) { // only the plugin's are Qt Quick windows
+        return !window->isVisible() || !qobject_cast<const QQuickWindow *>(window);
+    });
+    if (windows.isEmpty() || QApplication::activeModalWidget())
+        return {};
+    QWindow *window = oneOf(windows, random);
+    const QPoint position(random.bounded(std::max(1, window->width())),
+                          random.bounded(std::max(1, window->height())));
+    return {u"Click %1 %2"_s.arg(position.x()).arg(position.y()),
+            [window, position] { QTest::mouseClick(window, Qt::LeftButton, {}, position); }};
+}
+
+static RandomAction pressSomeKey(QRandomGenerator &random)
+{
+    static constexpr Qt::Key keys[]
+        = {Qt::Key_Escape, Qt::Key_Escape, Qt::Key_Return, Qt::Key_Tab,
+           Qt::Key_Space,  Qt::Key_Down,   Qt::Key_9,      Qt::Key_Minus};
+    QWindow *window = QGuiApplication::focusWindow();
+    if (!qobject_cast<QQuickWindow *>(window))
+        return {};
+    const Qt::Key key = oneOf(keys, random);
+    return {u"Press %1"_s.arg(key), [window, key] { QTest::keyClick(window, key); }};
+}
+
+static RandomAction useManagers(QRandomGenerator &random, const QString &video)
+{
+    static constexpr const char *logs[] = {SAMPLE_TRACK, MEDIA_FOLDER "/vp8.webm", "/nowhere"};
+    const QUrl log = QUrl::fromLocalFile(QString::fromLatin1(oneOf(logs, random)));
+    QObject *camera = contextObject("cameraEmulationManager");
+    const RandomAction actions[] = {
+        {"Light", [] { QMetaObject::invokeMethod(sensorsManager(), "setAlsLuxValue", 7); }},
+        {"Position", [] { QMetaObject::invokeMethod(gpsManager(), "setPosition", 1., 2., 3.); }},
+        {"Open a track", [log] { QMetaObject::invokeMethod(gpsPage(), "openFile", log); }},
+        {"Play the track", [] { QMetaObject::invokeMethod(trackPlayer(), "start"); }},
+        {"Start Video", [=] { QMetaObject::invokeMethod(camera, "startVideoStream", video); }},
+        {"Start the camera", [=] { QMetaObject::invokeMethod(camera, "startCameraStream"); }},
+        {"Update the cameras", [=] { QMetaObject::invokeMethod(camera, "updateCamerasList"); }},
+    };
+    return oneOf(actions, random);
+}
+
+static RandomAction useSdk(QRandomGenerator &random)
+{
+    const QString name = u"<b>Emulator</b> & %1"_s.arg(random.bounded(1'000'000));
+    const RandomAction actions[] = {
+        {"Close the window", [] { view()->close(); }},
+        {"Minimise the window", [] { view()->setWindowStates(Qt::WindowMinimized); }},
+        {"Maximise the window", [] { view()->setWindowStates(Qt::WindowMaximized); }},
+        {"Cancel the opening",
+         [] { Core::ProgressManager::cancelTasks("EmulationManagement.Opening"); }},
+        {"Stop the machine", [] { machine()->shutDown(); }},
+        {"Other models", [] { sdk()->setDeviceModels({"Nimbra Lite", "<b>A & B</b>"}); }},
+        {"Other model", [] { sdk()->setDeviceModel(0, "<b>A & B</b>"); }},
+        {"Other emulator",
+         [name] {
+             sdk()->removeEmulator(0);
+             sdk()->addEmulator({.name = name, .deviceModel = "Nimbra Lite"});
+         }},
+    };
+    // the last one is chosen seldom, because a new emulator is off
+    const int last = int(std::size(actions)) - 1;
+    return actions[random.bounded(3) == 0 ? random.bounded(last + 1) : random.bounded(last)];
+}
+
+RandomAction nextUserAction(QRandomGenerator &random, const QString &video)
+{
+    const int kind = random.bounded(12);
+    if (kind < 4)
+        return clickSomewhere(random);
+    if (kind < 8)
+        return useManagers(random, video);
+    if (kind < 10)
+        return {"Open the window", chooseAction};
+    return kind == 10 ? pressSomeKey(random) : useSdk(random);
+}
