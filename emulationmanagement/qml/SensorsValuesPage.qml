@@ -66,7 +66,6 @@ EmulationPage {
 
     // The casts tell qmllint that the models are objects: it cannot follow their base, a template.
     component ModelWatch: Connections {
-    // The casts tell qmllint that the models are objects: it cannot follow their base, a template.
         function onXChanged() {
             root.modelSensorChanged = true;
         }
