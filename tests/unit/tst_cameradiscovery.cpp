@@ -99,7 +99,7 @@ private Q_SLOTS:
     void oddFramerates()
     {
         QCOMPARE(normalizeFractions(u"5/0,x/2,-7/2,30/1,25,1/2/3,,9/x"_s).join(u' '),
-                 u"5/1 0/1 -3/1 30/1 25 1/2/3 9/1");
+                 u"5/1 0/1 -3/1 30/1 25 1/2/3 9/1"_s);
         QCOMPARE(parseGstFramerate(u"[ 1/0, nonsense ]"_s, LIMIT::Low), 0);
         QCOMPARE(parseGstFramerate(u"[ 1/0, nonsense ]"_s, LIMIT::High), 0);
     }
@@ -119,6 +119,9 @@ private Q_SLOTS:
         m_cameras.set({front, "Front | device=/dev/b |" + hd, rear, "X | |" + raw});
         QTRY_VERIFY(manager.cameras().contains(u"X"));
         QCOMPARE(summaryOf(manager.resolutions()), u"640x480@30/1,15/1 320x240@15/1"_s);
+        m_cameras.set({rear});
+        manager.updateCamerasList(); // before the monitor notices the change
+        QCOMPARE(manager.cameras(), QStringList(u"Rear"_s));
     }
 
     void unplugging()
