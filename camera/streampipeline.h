@@ -16,6 +16,7 @@
 class StreamPipeline
 {
 public:
+    /// The address and UDP port that pictures are sent to.
     static constexpr char host[] = "127.0.0.1";
     static constexpr int udpPort = 34343;
     /// The largest width and height, in pixels, that RTP/JPEG has room for (RFC 2435, 3.1.5).
