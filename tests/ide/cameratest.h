@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-/// The camera in the IDE: its loop tells of cameras, and no stream outlives the window.
+/// Tests that the IDE's event loop reports cameras, and that a stream ends with the window.
 class CameraTest : public QObject
 {
     Q_OBJECT

@@ -30,16 +30,12 @@
 #include <algorithm>
 
 using namespace PluginDriver;
+using namespace Qt::StringLiterals;
 
 static constexpr unsigned short tcpPort = 5454;
 static constexpr unsigned short udpPort = 34343;
 
-static JournalReader journal()
-{
-    return JournalReader(journalPath());
-}
-
-/// Opens the window of the first emulator, whose journal it is.
+/// Opens the window and reads the journal of the emulator that it serves.
 struct WindowJournal : JournalReader
 {
     WindowJournal()
@@ -64,7 +60,7 @@ void ConnectionTest::cleanup()
 
 void ConnectionTest::testMachineOff()
 {
-    JournalReader emulatorJournal = journal();
+    JournalReader emulatorJournal(journalPath());
     QVERIFY(!machine()->hasPortForwarding(tcpPort, nullptr));
     QSignalSpy viewShowed(contextObject("emulationManagementPlugin"),
                           SIGNAL(emulationManagementViewShowed()));
@@ -86,7 +82,7 @@ void ConnectionTest::testMachineOff()
     });
     QVERIFY(ssh != entries.end());
     QCOMPARE(ssh->value(u"command").toString(), "rpm -qa");
-    QCOMPARE(viewShowed.size(), 0); // only for a machine that runs when the user asks
+    QCOMPARE(viewShowed.size(), 0); // it is only for a machine that already runs
 }
 
 void ConnectionTest::testMachineStopped()
@@ -106,18 +102,13 @@ void ConnectionTest::testMachineStopped()
 
 void ConnectionTest::testMissingPackages()
 {
-    const WindowJournal emulatorJournal;
-    stopMachine();
     const MessageBoxAnswers answers(QMessageBox::Close);
-    // started by the SDK, so that the packages can be taken away before the plugin looks
-    machine()->connectTo({}, this, [](bool) {});
-    waitFor("the machine", [] { return machine()->state() == Ravik::VirtualMachine::Connected; });
+    startMachine(); // without the plugin, which would check the packages at once
     control("package without geoclue-emulator");
     control("package without gstreamer-emulator");
 
     chooseAction();
-    waitFor("the message", [&] { return !answers.boxes().isEmpty(); });
-    const MessageBoxAnswers::Box &box = answers.boxes().constFirst();
+    const MessageBoxAnswers::Box box = answers.waitForBox();
     QCOMPARE(box.title, "Emulation management plugin");
     QCOMPARE(box.icon, QMessageBox::Information);
     QCOMPARE(box.buttons, QMessageBox::Close);
@@ -145,7 +136,7 @@ void ConnectionTest::testLinkLostWithoutTrack()
     const qsizetype start = emulatorJournal.position();
     control("relay open");
     emulatorJournal.waitForCall("setTapSensorValue int32:-1", start);
-    // a later connection tells the emulator which sensors there are
+    // every connection but the first tells the emulator which sensors there are
     QVERIFY(emulatorJournal.callsSince(start).contains("enableSensor string:tap"));
     QVERIFY(answers.boxes().isEmpty());
     QVERIFY(view()->isVisible());
@@ -204,7 +195,7 @@ void ConnectionTest::testOpeningInProgress()
     QSignalSpy finished(Core::ProgressManager::instance(),
                         &Core::ProgressManager::allTasksFinished);
     const MessageBoxAnswers answers(QMessageBox::Ok);
-    JournalReader emulatorJournal = journal();
+    JournalReader emulatorJournal(journalPath());
     const qsizetype start = emulatorJournal.position();
 
     chooseAction();
@@ -220,8 +211,7 @@ void ConnectionTest::testOpeningInProgress()
         = contextObject("emulationManagementPlugin")->findChild<QTimer *>("openingTimeLimit");
     QVERIFY(timeLimit->isActive());
     timeLimit->start(std::chrono::milliseconds(0));
-    waitFor("the message", [&] { return answers.boxes().size() == 1; });
-    QVERIFY(answers.texts().constFirst().contains("has not become ready within 5 minutes"));
+    QVERIFY(answers.waitForBox().text.contains("has not become ready within 5 minutes"));
     QVERIFY(!view()->isVisible());
 
     finished.clear();
@@ -243,11 +233,10 @@ void ConnectionTest::testMachineJustStarted()
     QCOMPARE(answers.boxes().size(), 0);
 }
 
-// A box that is open holds nothing up.
+// The window opens and keeps its state although a message is open.
 void ConnectionTest::testMessageLeftOpen()
 {
-    machine()->connectTo({}, this, [](bool) {});
-    waitFor("the machine", [] { return machine()->state() == Ravik::VirtualMachine::Connected; });
+    startMachine();
     control("package without geoclue-emulator");
     chooseAction();
     waitFor("the message", [] { return QApplication::activeModalWidget(); });
@@ -302,17 +291,15 @@ void ConnectionTest::testMachineOnWithoutForwardings()
 {
     removeEmulator();
     sdk()->addEmulator({.name = "Bare Emulator", .deviceModel = "Nimbra Phone"});
-    machine()->connectTo({}, this, [](bool) {});
-    waitFor("the machine", [] { return machine()->state() == Ravik::VirtualMachine::Connected; });
+    startMachine();
 
     const MessageBoxAnswers answers(QMessageBox::Ok);
     chooseAction();
-    waitFor("the message", [&] { return !answers.boxes().isEmpty(); });
-    QCOMPARE(answers.texts(),
-             QStringList{QStringLiteral("The emulation management plugin cannot be used. Please, "
-                                        "close Bare Emulator and try to use 'Emulation "
-                                        "management\u2026' again.")});
-    QCOMPARE(answers.boxes().constFirst().textFormat, Qt::PlainText); // it has the emulator's name
+    const MessageBoxAnswers::Box box = answers.waitForBox();
+    QCOMPARE(box.text,
+             u"The emulation management plugin cannot be used. Please, close Bare Emulator "
+             "and try to use 'Emulation management\u2026' again."_s);
+    QCOMPARE(box.textFormat, Qt::PlainText); // the text contains the emulator's name
     QVERIFY(!machine()->hasPortForwarding(tcpPort, nullptr));
     QVERIFY(!machine()->isOff(nullptr, nullptr));
     QVERIFY(!view()->isVisible());
@@ -324,7 +311,7 @@ void ConnectionTest::testDeviceModelChanged()
                             SIGNAL(smartphone3DModelConfigChanged()));
     const auto missingSensors
         = [] { return sensorsManager()->property("sensorsAvailability").toMap().keys(false); };
-    sdk()->setDeviceModel(0, "Nimbra Lite"); // which has a file beside the IDE
+    sdk()->setDeviceModel(0, "Nimbra Lite"); // a file beside the IDE names its sensors
     QVERIFY(!modelChanged.isEmpty());
     QCOMPARE(missingSensors(), (QStringList{"proximity", "tap"}));
     sdk()->setDeviceModel(0, "Nimbra Tablet");
@@ -338,7 +325,7 @@ void ConnectionTest::testDeviceModelChanged()
     QCOMPARE(mesh.fileName(), "nimbra-tablet.json");
     QVERIFY(mesh.exists());
     QVERIFY(fileOf("smartphone3DModelTextureUri").exists());
-    sdk()->setDeviceModel(0, "Nimbra Phone"); // which has none
+    sdk()->setDeviceModel(0, "Nimbra Phone"); // has no mesh of its own
     QCOMPARE(fileOf("smartphone3DModelMeshUri").fileName(), "default.json");
 }
 
@@ -347,10 +334,9 @@ void ConnectionTest::testNoEmulator()
     removeEmulator();
     const MessageBoxAnswers answers(QMessageBox::Ok);
     chooseAction();
-    waitFor("the message", [&] { return !answers.boxes().isEmpty(); });
-    QCOMPARE(answers.texts(),
-             QStringList{"The emulation management plugin cannot be used. Please, close the "
-                         "emulator if it is running and add Nimbra OS Emulator to the list of "
-                         "available devices in Qt Creator settings."});
+    QCOMPARE(answers.waitForBox().text,
+             "The emulation management plugin cannot be used. Please, close the emulator if it is "
+             "running and add Nimbra OS Emulator to the list of available devices in Qt Creator "
+             "settings.");
     QVERIFY(!view()->isVisible());
 }

@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-/// The way from the menu to the window, with every obstacle that can stand in it.
+/// Tests the way from the menu to the window, and whatever can go wrong on it.
 class ConnectionTest : public QObject
 {
     Q_OBJECT

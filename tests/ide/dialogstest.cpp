@@ -9,6 +9,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 static std::unique_ptr<QObject> createDialog(const QByteArray &properties)
 {
     QQmlComponent component(PluginDriver::view()->engine());
@@ -24,16 +26,16 @@ void DialogsTest::testWarningDialog_data()
 {
     QTest::addColumn<QByteArray>("properties");
     QTest::addColumn<QMessageBox::StandardButton>("answer");
-    QTest::addColumn<QString>("told");
+    QTest::addColumn<QString>("signal");
     const QByteArray withBox = "withDoNotShowAgainCheckBox: true";
     const QByteArray apply = "standardButtons: MessageDialog.Apply | MessageDialog.Discard";
     const QByteArray yes = "standardButtons: MessageDialog.Yes";
-    QTest::newRow("the hidden box does not count") << QByteArray() << QMessageBox::Ok << "accepted";
-    QTest::newRow("the ticked box is told") << withBox << QMessageBox::Ok << "accepted, ticked";
-    QTest::newRow("cancel") << withBox << QMessageBox::Cancel << "rejected";
-    QTest::newRow("apply accepts") << apply << QMessageBox::Apply << "accepted";
-    QTest::newRow("discard rejects") << apply << QMessageBox::Discard << "rejected";
-    QTest::newRow("other answers say nothing") << yes << QMessageBox::Yes << "";
+    QTest::newRow("a hidden tick reported") << QByteArray() << QMessageBox::Ok << "accepted";
+    QTest::newRow("a tick lost") << withBox << QMessageBox::Ok << "accepted, ticked";
+    QTest::newRow("cancel ignored") << withBox << QMessageBox::Cancel << "rejected";
+    QTest::newRow("apply ignored") << apply << QMessageBox::Apply << "accepted";
+    QTest::newRow("discard ignored") << apply << QMessageBox::Discard << "rejected";
+    QTest::newRow("another answer reported") << yes << QMessageBox::Yes << "";
 }
 
 void DialogsTest::testWarningDialog()
@@ -52,8 +54,8 @@ void DialogsTest::testWarningDialog()
     QCOMPARE(box.text, "Really?");
     QCOMPARE(box.icon, QMessageBox::Question);
     QCOMPARE(box.hasVisibleCheckBox, properties.startsWith("withDoNotShowAgain"));
-    QString told = QStringLiteral("rejected").repeated(rejectedSpy.size());
+    QString sent = u"rejected"_s.repeated(rejectedSpy.size());
     for (const QVariantList &arguments : acceptedSpy)
-        told += arguments.constFirst().toBool() ? "accepted, ticked" : "accepted";
-    QTEST(told, "told");
+        sent += arguments.constFirst().toBool() ? "accepted, ticked" : "accepted";
+    QTEST(sent, "signal");
 }

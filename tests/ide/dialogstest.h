@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-/// The question box that the pages use, over the IDE's main window.
+/// Tests the question box that the pages show over the IDE's main window.
 class DialogsTest : public QObject
 {
     Q_OBJECT

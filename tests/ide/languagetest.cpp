@@ -24,14 +24,14 @@ static QString language()
     return ExtensionSystem::PluginManager::settings()->value("General/OverrideLanguage").toString();
 }
 
-/// What is alike in every language: numbers, and enumerators that apps for the device know.
+/// Whether a text is the same in every language: a number, or an enumerator that apps use.
 static bool isData(const QString &text)
 {
     static const QRegularExpression data("^([-0-9., =%x/]*|…|Undefined|Light|TopUp)$");
     return data.match(text).hasMatch();
 }
 
-/// Finds the objects of a window, whether they are shown or not.
+/// Finds an object and all objects and items below it, shown or hidden.
 static void collect(QObject *object, QSet<QObject *> &found)
 {
     if (!object || found.contains(object))
@@ -63,7 +63,7 @@ void LanguageTest::testEveryTextIsTranslated()
         QSKIP("needs an IDE that was started in the language of brackets");
 
     QQuickItem *root = PluginDriver::view()->rootObject();
-    // pages make their content when they are shown
+    // pages create their content when they are shown
     PluginDriver::view()->show();
     const QQmlListReference pages(root, "pagesIds");
     for (qsizetype i = 0; i < pages.count(); ++i)

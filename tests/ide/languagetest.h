@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-/// What the window says in the language that the IDE was started in; see test-translation.
+/// Tests the texts of an IDE that test-translation started in another language.
 class LanguageTest : public QObject
 {
     Q_OBJECT

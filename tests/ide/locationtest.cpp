@@ -14,6 +14,7 @@
 #include <sys/stat.h>
 
 using namespace PluginDriver;
+using namespace Qt::StringLiterals;
 
 static const QString ggaRecord = "loadTrack array:array:double:60.0500000,30.1800000,12.50,0;"
                                  "60.0583350,30.1938197,14.90,400;60.0577800,30.2161803,8.70,400;"
@@ -21,7 +22,7 @@ static const QString ggaRecord = "loadTrack array:array:double:60.0500000,30.180
 
 static QString goTo(int index)
 {
-    return QStringLiteral("goToPositionOnTrack int32:%1").arg(index);
+    return u"goToPositionOnTrack int32:%1"_s.arg(index);
 }
 
 static WindowDriver window()
@@ -43,10 +44,9 @@ void LocationTest::initTestCase()
 
 void LocationTest::cleanupTestCase()
 {
-    // a track is loaded
     const MessageBoxAnswers answers(QMessageBox::Ok);
     stopMachine();
-    waitFor("the message", [&] { return !answers.boxes().isEmpty(); });
+    static_cast<void>(answers.waitForBox()); // which tells the user to load the track again
 }
 
 void LocationTest::init()
@@ -56,9 +56,9 @@ void LocationTest::init()
 
 QStringList LocationTest::takeCalls()
 {
-    // a call that nothing else makes: all before it have come when it has
+    // Calls arrive in order, so all earlier ones have arrived when this one has.
     static int mark = 0;
-    const QString marker = QStringLiteral("setAltitude double:%1.00").arg(++mark);
+    const QString marker = u"setAltitude double:%1.00"_s.arg(++mark);
     QMetaObject::invokeMethod(gpsManager(), "setAltitude", Q_ARG(double, mark));
     m_journal->waitForCall(marker, m_position);
     QStringList calls = m_journal->callsSince(m_position);
@@ -75,7 +75,7 @@ void LocationTest::waitForCall(const QString &call)
 
 void LocationTest::open(const QString &sample, int points)
 {
-    m_page->openTrack(QStringLiteral(TEST_DATA "/") + sample);
+    m_page->openTrack(TEST_DATA "/" + sample);
     waitFor("the track", [&] { return rowCount() == points; });
 }
 
@@ -100,12 +100,14 @@ void LocationTest::testCoordinates_data()
     QTest::addColumn<QString>("label");
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("call");
-    QTest::newRow("lowest") << "Latitude" << "-90" << "setLatitude double:-90.0000000";
-    QTest::newRow("letters") << "Latitude" << "x1e5y" << "setLatitude double:15.0000000";
-    QTest::newRow("no number") << "Latitude" << "-" << "";
-    QTest::newRow("too large") << "Longitude" << "180.1" << "setLongitude double:180.0000000";
-    QTest::newRow("decimals") << "Longitude" << "0.123456789" << "setLongitude double:0.1234567";
-    QTest::newRow("group") << "Altitude" << "1,000.256" << "setAltitude double:1000.25";
+    QTest::newRow("limit refused") << "Latitude" << "-90" << "setLatitude double:-90.0000000";
+    QTest::newRow("letters sent") << "Latitude" << "x1e5y" << "setLatitude double:15.0000000";
+    QTest::newRow("a sign sent as 0") << "Latitude" << "-" << "";
+    QTest::newRow("limit exceeded") << "Longitude" << "180.1" << "setLongitude double:180.0000000";
+    QTest::newRow("more decimals sent than the emulator takes")
+        << "Longitude" << "0.123456789" << "setLongitude double:0.1234567";
+    QTest::newRow("cut at the group separator")
+        << "Altitude" << "1,000.256" << "setAltitude double:1000.25";
 }
 
 void LocationTest::testCoordinates()
@@ -123,12 +125,12 @@ void LocationTest::testTrackIsUploaded_data()
     QTest::addColumn<QString>("sample");
     QTest::addColumn<QString>("altitude");
     QTest::addColumn<QString>("interval");
-    QTest::newRow("GLL") << "gll.nmea" << "0.00" << "400";
-    QTest::newRow("RMC") << "rmc.nmea" << "0.00" << "400";
-    QTest::newRow("WPL") << "wpl.nmea" << "0.00" << "0";
-    // gpsbabel -i gpx -f FILE -o nmea,gprmc=0,gpvtg=0,gpgsa=0 -F gpsbabel.nmea
-    QTest::newRow("GPSBabel's GGA") << "gpsbabel.nmea" << "12.50" << "2000";
-    QTest::newRow("GGA") << "gga.nmea" << "12.50" << "400";
+    QTest::newRow("GLL not read") << "gll.nmea" << "0.00" << "400";
+    QTest::newRow("RMC not read") << "rmc.nmea" << "0.00" << "400";
+    QTest::newRow("WPL not read") << "wpl.nmea" << "0.00" << "0";
+    // made by gpsbabel -i gpx -f FILE -o nmea,gprmc=0,gpvtg=0,gpgsa=0 -F gpsbabel.nmea
+    QTest::newRow("GGA of GPSBabel not read") << "gpsbabel.nmea" << "12.50" << "2000";
+    QTest::newRow("GGA not read") << "gga.nmea" << "12.50" << "400";
 }
 
 void LocationTest::testTrackIsUploaded()
@@ -141,7 +143,7 @@ void LocationTest::testTrackIsUploaded()
     open(sample);
     QStringList calls = takeCalls();
     const QString record = calls.constLast();
-    // the first row becomes current, which uploads the track if the emulator has none
+    // If the emulator has no track, making the first row current uploads it once more.
     QCOMPARE(calls, (first ? QStringList{record} : QStringList{})
                         + (QStringList{goTo(0), "stopTrack ", record}));
     QVERIFY2(
@@ -196,7 +198,7 @@ void LocationTest::testEndAndLoop()
 
 void LocationTest::testSteering()
 {
-    // default intervals: the emulator is told the first point ten times a second for two seconds
+    // With default intervals, the first point is sent ten times a second for two seconds.
     window().clickButton("Use own track speed");
     m_page->clickTrackButton("Play");
     waitForCall(goTo(1));
@@ -204,7 +206,7 @@ void LocationTest::testSteering()
     QCOMPARE(takeCalls(),
              (QStringList{"setTrackIntervalMode boolean:1", "startTrack ", goTo(0), goTo(1)}));
 
-    // the last row starts the track over; the second click on a row does what the first one did
+    // A click on the last row starts the track over. A second click on a row repeats the first.
     QStringList calls;
     for (const int row : {4, 4, 3, 3}) {
         m_page->clickRow(row);
@@ -278,7 +280,7 @@ void LocationTest::testErrorReply()
     control("fail pauseTrack");
     QCOMPARE(errorDialog()->property("text").toString(), "org.vexa.Error.Busy not now");
 
-    // as happens when the service is gone: the error of a stop is no reason to stop
+    // The page stops its track after an error. The error of that stop must not stop it again.
     takeCalls();
     control("fail stopTrack org.vexa.Error.Busy not now");
     const qsizetype start = m_position;
@@ -322,38 +324,43 @@ void LocationTest::testLinkLost()
 
 void LocationTest::testBadFile_data()
 {
+    QTest::addColumn<QString>("name");
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("message");
     const QByteArray point = "$GPGLL,4916.45,N,12311.12,W,225444,A*31\n";
     const QString unknown = "NMEA file has incorrect points format.\n"
                             "Supported formats: GPRMC, GPGGA, GPGLL, GPWPL.";
-    QTest::newRow("malformed") << point + "\n\n$GPGLL,x\n" << "Incorrect NMEA file, line: 2";
-    QTest::newRow("binary") << QByteArray("\0\xff\xfe\n\x80$GP\0", 9) << unknown + ", line: 2";
-    QTest::newRow("large") << point << "NMEA file is larger than 100 MB";
-    QTest::newRow("pipe") << QByteArray() << "NMEA file cannot be read";
-    QTest::newRow("vanished") << QByteArray() << "NMEA file cannot be read";
-    QTest::newRow("with a name, 100 % #1 \u00e9\u044f") << point << QString();
+    QTest::newRow("a bad line accepted") << "malformed" << point + "\n\n$GPGLL,x\n"
+                                         << "Incorrect NMEA file, line: 2";
+    QTest::newRow("binary data end the reading")
+        << "binary" << QByteArray("\0\xff\xfe\n\x80$GP\0", 9) << unknown + ", line: 2";
+    QTest::newRow("the memory fills") << "large" << point << "NMEA file is larger than 100 MB";
+    QTest::newRow("blocked by a pipe") << "pipe" << QByteArray() << "NMEA file cannot be read";
+    QTest::newRow("a vanished file ignored")
+        << "vanished" << QByteArray() << "NMEA file cannot be read";
+    QTest::newRow("the name decoded twice") << "100 % #1 \u00e9\u044f" << point << QString();
 }
 
 void LocationTest::testBadFile()
 {
+    QFETCH(QString, name);
     QFETCH(QByteArray, content);
     QFETCH(QString, message);
     const QTemporaryDir folder;
-    const QString path = folder.filePath(QString::fromUtf8(QTest::currentDataTag()) + ".nmea");
-    if (path.endsWith("pipe.nmea")) {
+    const QString path = folder.filePath(name + ".nmea");
+    if (name == "pipe") {
         QCOMPARE(mkfifo(path.toLocal8Bit(), 0600), 0);
     } else {
         QFile file(path);
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(content);
-        if (path.endsWith("large.nmea"))
+        if (name == "large")
             QVERIFY(file.resize(100'000'001));
     }
     open("gga.nmea");
     m_page->clickTrackButton("Play");
     takeCalls();
-    m_page->openTrack(path, path.endsWith("vanished.nmea"));
+    m_page->openTrack(path, name == "vanished");
     if (message.isEmpty()) {
         waitFor("the track", [&] { return rowCount() == 1; });
         const auto labels = window().items("QQuickLabel", m_page->progress()->parentItem());

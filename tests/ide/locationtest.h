@@ -7,7 +7,7 @@
 
 #include <memory>
 
-/// What the emulator hears of positions and tracks that are set and played on the GPS page.
+/// Tests what the emulator receives when positions and tracks are set and played on the GPS page.
 class LocationTest : public QObject
 {
     Q_OBJECT
@@ -31,11 +31,11 @@ private Q_SLOTS:
     void cleanupTestCase();
 
 private:
-    /// The calls so far, each once where it comes several times in a row, and forgets them.
+    /// Returns the calls since the last time. Equal calls in a row count as one.
     QStringList takeCalls();
     void waitForCall(const QString &call);
     void open(const QString &sample, int points = 5);
-    /// Of those that play, pause and stop; none is while the table is empty.
+    /// The enabled ones of the buttons that play, pause and stop.
     [[nodiscard]] QString enabledButtons() const;
     [[nodiscard]] int rowCount() const;
 

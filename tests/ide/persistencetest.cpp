@@ -16,11 +16,6 @@
 
 using namespace PluginDriver;
 
-static JournalReader journal()
-{
-    return JournalReader(journalPath());
-}
-
 static QList<QQuickItem *> accelerometerFields(const WindowDriver &driver)
 {
     return driver.items("QQuickTextField", driver.item("SensorControls", "title", "Accelerometer"));
@@ -28,23 +23,23 @@ static QList<QQuickItem *> accelerometerFields(const WindowDriver &driver)
 
 void PersistenceTest::testSet()
 {
-    JournalReader emulatorJournal = journal();
-    openWindow(emulatorJournal);
+    JournalReader journal(journalPath());
+    openWindow(journal);
     const WindowDriver driver = WindowDriver::waitForWindow("Emulation Management");
     const QList<QQuickItem *> fields = accelerometerFields(driver);
     driver.type(fields.at(0), "0.123");
     driver.type(fields.at(1), "-2.5");
     driver.type(fields.at(2), "1.001");
-    emulatorJournal.waitForCall("setAccelerometerZ int32:1001", 0);
+    journal.waitForCall("setAccelerometerZ int32:1001", 0);
 
     control("relay close");
-    waitFor("the values in the file, which an IDE that crashes leaves", [] {
+    waitFor("the values in the file, which outlives a crash of the IDE", [] {
         QFile file(Core::ICore::settings()->fileName());
         return file.open(QIODevice::ReadOnly) && file.readAll().contains("accelerometer_z=1001");
     });
-    const qsizetype start = emulatorJournal.position();
+    const qsizetype start = journal.position();
     control("relay open");
-    emulatorJournal.waitForCall("setAccelerometerValues int32:123 int32:-2500 int32:1001", start);
+    journal.waitForCall("setAccelerometerValues int32:123 int32:-2500 int32:1001", start);
 }
 
 void PersistenceTest::testRestored()
@@ -54,10 +49,10 @@ void PersistenceTest::testRestored()
     QCOMPARE(settings->value("emulationmanagement/accelerometer_y").toInt(), -2500);
     QCOMPARE(settings->value("emulationmanagement/accelerometer_z").toInt(), 1001);
 
-    JournalReader emulatorJournal = journal();
-    const qsizetype start = emulatorJournal.position();
-    openWindow(emulatorJournal);
-    QVERIFY(emulatorJournal.callsSince(start).contains(
+    JournalReader journal(journalPath());
+    const qsizetype start = journal.position();
+    openWindow(journal);
+    QVERIFY(journal.callsSince(start).contains(
         "setAccelerometerValues int32:123 int32:-2500 int32:1001"));
     const WindowDriver driver = WindowDriver::waitForWindow("Emulation Management");
     QStringList shown;

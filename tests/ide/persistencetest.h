@@ -2,8 +2,8 @@
 
 #include <QObject>
 
-/// Values outlive a lost link and the IDE: the first test runs in one IDE, the second in a later
-/// one.
+/// Tests that values survive the loss of the link and the end of the IDE: the second test runs in
+/// an IDE that is started after the first one has ended.
 class PersistenceTest : public QObject
 {
     Q_OBJECT

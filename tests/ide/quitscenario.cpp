@@ -23,6 +23,7 @@
 #include <unistd.h>
 
 using namespace PluginDriver;
+using namespace Qt::StringLiterals;
 
 static constexpr unsigned quitLimit = 10; // s
 
@@ -46,7 +47,7 @@ static void playVideo()
 {
     openTool();
     QMetaObject::invokeMethod(contextObject("cameraEmulationManager"), "startVideoStream",
-                              QStringLiteral(MEDIA_FOLDER "/vp8.webm"));
+                              u"" MEDIA_FOLDER "/vp8.webm"_s);
 }
 
 static void checkPackages()
@@ -59,7 +60,7 @@ static void showError()
 {
     openTool();
     QObject *dialog = errorDialog();
-    QMetaObject::invokeMethod(dialog, "show", QStringLiteral("It is broken"));
+    QMetaObject::invokeMethod(dialog, "show", u"It is broken"_s);
     waitFor("the dialog", [&] { return dialog->property("visible").toBool(); });
 }
 
@@ -78,7 +79,7 @@ void playQuitScenario(const QByteArray &name, const QByteArray &manner)
         {"message", loseLink},
     };
     try {
-        emulator(); // listed a little later than the IDE opens
+        emulator(); // waits, because the SDK lists it shortly after the IDE has opened
         preparations.value(name)();
     } catch (const WaitingFailed &failure) {
         std::fprintf(stderr, "%s\n", failure.what());

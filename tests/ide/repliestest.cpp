@@ -13,6 +13,7 @@
 #include <QTest>
 
 using namespace PluginDriver;
+using namespace Qt::StringLiterals;
 
 void RepliesTest::initTestCase()
 {
@@ -26,20 +27,23 @@ void RepliesTest::testErrorDialog_data()
 {
     QTest::addColumn<QString>("fault");
     QTest::addColumn<QString>("text");
-    QTest::newRow("error reply") << "fail setAccelerometerY org.vexa.Error.Broken It is broken"
-                                 << "org.vexa.Error.Broken It is broken";
-    QTest::newRow("no error any more") << "fail setAccelerometerY" << QString();
-    QTest::newRow("four fields") << "relay answer a:b:c:d" << "a:b:c:d";
-    QTest::newRow("six fields") << "relay answer a:b:c::e:f" << "a:b:c::e:f";
-    QTest::newRow("plain text") << "relay answer connection refused" << "connection refused";
-    QTest::newRow("markup") << "relay answer a<br>&amp;<img src='http://127.0.0.1/a'>"
-                            << "a<br>&amp;<img src='http://127.0.0.1/a'>";
-    QTest::newRow("enormous") << "relay repeat 64000000 x" << QString(999, 'x') + QChar(0x2026);
-    QTest::newRow("millions of lines")
+    QTest::newRow("an error not shown")
+        << "fail setAccelerometerY org.vexa.Error.Broken It is broken"
+        << "org.vexa.Error.Broken It is broken";
+    QTest::newRow("shown without an error") << "fail setAccelerometerY" << QString();
+    QTest::newRow("four fields taken for a reply") << "relay answer a:b:c:d" << "a:b:c:d";
+    QTest::newRow("six fields taken for a reply") << "relay answer a:b:c::e:f" << "a:b:c::e:f";
+    QTest::newRow("a plain text not shown")
+        << "relay answer connection refused" << "connection refused";
+    QTest::newRow("markup interpreted") << "relay answer a<br>&amp;<img src='http://127.0.0.1/a'>"
+                                        << "a<br>&amp;<img src='http://127.0.0.1/a'>";
+    QTest::newRow("blocked by a long text")
+        << "relay repeat 64000000 x" << QString(999, 'x') + QChar(0x2026);
+    QTest::newRow("blocked by millions of lines")
         << "relay repeat 8000000 \r" << QString(19, '\n') + QChar(0x2026);
-    QTest::newRow("millions of fields")
+    QTest::newRow("blocked by millions of fields")
         << "relay repeat 64000000 :" << QString(999, ':') + QChar(0x2026);
-    QTest::newRow("five fields that mean nothing") << "relay answer a:b:c::e" << QString();
+    QTest::newRow("a reply taken for a text") << "relay answer a:b:c::e" << QString();
 }
 
 void RepliesTest::testErrorDialog()
@@ -51,7 +55,7 @@ void RepliesTest::testErrorDialog()
     QSignalSpy replies(sensorsManager(), SIGNAL(replyFromEmulatorReceived(QString)));
     QVERIFY(QMetaObject::invokeMethod(sensorsManager(), "setAccelerometerY", Q_ARG(int, 1250)));
     QVERIFY(QMetaObject::invokeMethod(sensorsManager(), "setAccelerometerZ", Q_ARG(int, 1)));
-    // after an error the GPS page stops its track, which is answered, too
+    // after an error the GPS page stops its track, so a third reply may follow
     waitFor("both replies", [&] { return replies.size() >= 2; });
 
     QObject *dialog = errorDialog();
@@ -69,13 +73,13 @@ void RepliesTest::testErrorDialog()
 void RepliesTest::testErrorDialogClosesWithTheWindow()
 {
     QObject *dialog = errorDialog();
-    QMetaObject::invokeMethod(dialog, "show", QStringLiteral("It is broken"));
+    QMetaObject::invokeMethod(dialog, "show", u"It is broken"_s);
     QVERIFY(dialog->property("visible").toBool());
     view()->close();
     waitFor("the dialog to close", [&] { return !dialog->property("visible").toBool(); });
 }
 
-// The emulator is asked what is on, and that once: it may refuse to say.
+// After Apply the plugin asks once for the state of each sensor, even if the emulator refuses.
 void RepliesTest::testRefusedApply()
 {
     JournalReader journal(journalPath());

@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-/// What the user sees when the emulator answers with more than "done".
+/// Tests what the user sees when the emulator answers with errors or with nonsense.
 class RepliesTest : public QObject
 {
     Q_OBJECT

@@ -14,6 +14,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 void StartUpTest::testThemeColors()
 {
     const QQmlContext *context = PluginDriver::view()->rootContext();
@@ -32,9 +34,8 @@ void StartUpTest::testMenu()
     const QMenu *tools = Core::ActionManager::actionContainer("QtCreator.Menu.Tools")->menu();
     QMenu *sdkMenu = Core::ActionManager::actionContainer("Kiv.Tools.Menu")->menu();
     QCOMPARE(tools->actions().count(sdkMenu->menuAction()), 1);
-    const auto isAction = [](const QAction *action) {
-        return action->text() == QStringLiteral("Emulation Management\u2026");
-    };
+    const auto isAction
+        = [](const QAction *action) { return action->text() == u"Emulation Management\u2026"_s; };
     const QList<QAction *> actions = sdkMenu->actions();
     QCOMPARE(std::ranges::count_if(actions, isAction), 1);
 }
@@ -49,8 +50,7 @@ void StartUpTest::testManagersFollowInvoker()
         QSignalSpy connected(manager, SIGNAL(emulatorConnected()));
         QSignalSpy reply(manager, SIGNAL(replyFromEmulatorReceived(QString)));
         QMetaObject::invokeMethod(PluginDriver::invoker(), "webSocketConnected");
-        QMetaObject::invokeMethod(PluginDriver::invoker(), "replyReceived",
-                                  Q_ARG(QString, QStringLiteral("x::::")));
+        QMetaObject::invokeMethod(PluginDriver::invoker(), "replyReceived", u"x::::"_s);
         QCOMPARE(connected.size(), times);
         QCOMPARE(reply.size(), times);
     }

@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-/// What the plugin has after the IDE's start, before any emulator runs.
+/// Tests the plugin after the start of the IDE, before any emulator runs.
 class StartUpTest : public QObject
 {
     Q_OBJECT

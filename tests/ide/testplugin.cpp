@@ -17,7 +17,7 @@ bool TestPlugin::initialize(const QStringList &arguments, QString *errorString)
 {
     Q_UNUSED(arguments)
     Q_UNUSED(errorString)
-    qunsetenv("LD_PRELOAD"); // a sanitizer's, and not for the programs that the IDE starts
+    qunsetenv("LD_PRELOAD"); // the programs that the IDE starts must not inherit a sanitizer
     addTest<StartUpTest>();
     addTest<DialogsTest>();
     addTest<CameraTest>();

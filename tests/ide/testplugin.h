@@ -2,7 +2,7 @@
 
 #include <extensionsystem/iplugin.h>
 
-/// Hands the tests to the IDE, which runs those that its option -test names.
+/// Registers the tests with the IDE, which runs those that its option -test names.
 class TestPlugin final : public ExtensionSystem::IPlugin
 {
     Q_OBJECT

@@ -1,10 +1,14 @@
 #include "messageboxanswers.h"
 
+#include "waiting.h"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QPushButton>
 
 #include <chrono>
+
+using namespace Qt::StringLiterals;
 
 MessageBoxAnswers::MessageBoxAnswers(QMessageBox::StandardButton answer, bool tick)
     : m_answer(answer)
@@ -12,6 +16,12 @@ MessageBoxAnswers::MessageBoxAnswers(QMessageBox::StandardButton answer, bool ti
 {
     connect(&m_timer, &QTimer::timeout, this, &MessageBoxAnswers::answer);
     m_timer.start(std::chrono::milliseconds(10));
+}
+
+MessageBoxAnswers::Box MessageBoxAnswers::waitForBox() const
+{
+    waitFor(u"a message box"_s, [this] { return !m_boxes.isEmpty(); });
+    return m_boxes.constFirst();
 }
 
 QStringList MessageBoxAnswers::texts() const

@@ -25,7 +25,8 @@ public:
     explicit MessageBoxAnswers(QMessageBox::StandardButton answer, bool tick = false);
 
     [[nodiscard]] const QList<Box> &boxes() const { return m_boxes; }
-    /// The texts of the boxes, for comparisons.
+    /// Waits until a box has opened, and returns the first one.
+    [[nodiscard]] Box waitForBox() const;
     [[nodiscard]] QStringList texts() const;
 
 private:
