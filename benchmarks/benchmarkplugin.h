@@ -2,7 +2,7 @@
 
 #include <extensionsystem/iplugin.h>
 
-/// Hands the benchmarks to the IDE, which runs those that its option -test names.
+/// Registers the benchmarks with the IDE, which runs those that its option -test names.
 class BenchmarkPlugin final : public ExtensionSystem::IPlugin
 {
     Q_OBJECT

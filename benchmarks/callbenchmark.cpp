@@ -41,7 +41,7 @@ void CallBenchmark::initTestCase()
     JournalReader journal(journalPath());
     openWindow(journal);
     view()->close();
-    // replies to the set-up calls may still arrive: wait for the last one
+    // waits for the last reply to the calls of the set-up
     const QSignalSpy replies(invoker(), SIGNAL(replyReceived(QString)));
     QMetaObject::invokeMethod(sensorsManager(), "setAccelerometerX", 12345);
     waitFor("the last reply", [&] {
@@ -106,7 +106,7 @@ void CallBenchmark::testRoundTrip()
 void CallBenchmark::testThroughput()
 {
     static constexpr int calls = 20000;
-    static constexpr int outstanding = 64; // calls at a time: keeps all processes busy
+    static constexpr int outstanding = 64; // calls at a time, to keep all processes busy
     QEventLoop loop;
     int sent = 0;
     const auto measure = [&](const QSignalSpy &replies, const std::function<void()> &send) {

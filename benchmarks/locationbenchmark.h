@@ -6,8 +6,8 @@
 /*!
  * Measures reading, showing, uploading and playing tracks.
  *
- * One kind of log is like a receiver's: every eighth sentence is a point. The limits hold for it.
- * The other kind has points only, the worst case.
+ * One kind of log resembles that of a receiver: every eighth sentence is a point. The limits apply
+ * to this kind. The other kind is the worst case: every sentence is a point.
  */
 class LocationBenchmark : public QObject
 {

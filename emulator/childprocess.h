@@ -17,12 +17,12 @@ public:
     /// Asks the process to end, and kills it after a few seconds.
     void stop();
 
-    /// Waits until the output on \a channel contains \a text and returns that output; returns an
-    /// empty one when the process ends or takes too long.
+    /// Waits until the output on \a channel contains \a text, and returns that output. Returns
+    /// nothing if the process ends or takes too long.
     [[nodiscard]] QByteArray waitForOutput(ProcessChannel channel, QByteArrayView text);
 
 Q_SIGNALS:
-    /// The process ended, and stop() was not called.
+    /// The process ended although stop() was not called.
     void died();
 
 private:

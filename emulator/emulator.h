@@ -25,7 +25,7 @@ public:
     explicit Emulator(const Options &options, QObject *parent = nullptr);
     ~Emulator() override;
 
-    /// Starts all parts, returns when they are ready. On failure puts one sentence into \a error.
+    /// Starts all parts and returns when they are ready. On failure puts a sentence into \a error.
     [[nodiscard]] bool start(QString *error);
 
     [[nodiscard]] const SensorService &sensors() const { return m_sensors; }

@@ -22,8 +22,8 @@ static int fail(const QString &error)
     return EXIT_FAILURE;
 }
 
-// --headless must work without a display, and the application must exist before the command line
-// is parsed: so the kind of application follows from the raw arguments.
+// Looks at the raw arguments: --headless must work without a display, but the command line can be
+// parsed only after the application exists.
 static std::unique_ptr<QCoreApplication> createApplication(int &argc, char **argv)
 {
     const auto needsNoDisplay = [](std::string_view argument) {

@@ -10,8 +10,8 @@ namespace NimbraEmulator {
 
 using namespace Qt::StringLiterals;
 
-// As long as the plugin's maxReplySize: replies repeat the arguments of their requests. An array
-// that would be too long for D-Bus is refused on its own.
+// Equals the plugin's maxReplySize, because replies repeat the arguments of their requests.
+// parseRequest() refuses arrays that are too long for D-Bus.
 static constexpr quint64 maxRequestBytes = 64 << 20;
 
 Relay::Relay(const QHostAddress &address, const QDBusConnection &bus, JournalWriter &journal,

@@ -14,7 +14,7 @@ namespace NimbraEmulator {
 
 using namespace Qt::StringLiterals;
 
-// The journal keeps the beginning of longer replies: requested faults make enormous ones.
+// The journal keeps only the beginning of longer replies, because requested faults send huge ones.
 static constexpr qsizetype longestJournalText = 1 << 20;
 
 static QJsonValue toJson(const QVariant &argument)
@@ -82,7 +82,7 @@ void RelayClient::handleRequest(const QString &line)
     const auto failure = m_faults.failures.constFind(request.method);
     const bool failing = failure != m_faults.failures.constEnd();
     if (request.error.isEmpty() && !failing)
-        call(request, pending); // first: the service works while the journal is written
+        call(request, pending); // before writing the journal, so that the service works meanwhile
     m_journal.write("call"_L1, toJson(line, request));
     if (!request.error.isEmpty())
         answer(pending, invalidRequestLine(request.error));
@@ -134,7 +134,7 @@ void RelayClient::sendReadyReplies()
         const QString reply = std::exchange(m_faults.answer, std::nullopt).value_or(*first);
         m_pending.pop_front();
         m_socket->sendTextMessage(reply);
-        m_socket->flush(); // first: the client need not wait for the journal
+        m_socket->flush(); // before writing the journal, so that the client need not wait for it
         m_journal.write("reply"_L1, {{u"text"_s, reply.left(longestJournalText)}});
     }
 }

@@ -75,8 +75,8 @@ static std::optional<QList<QList<double>>> parsePoints(QStringView text)
                 return {};
             point.append(*number);
         }
-        // An inner array is its padded length and its numbers. A request with more bytes would cost
-        // the relay its connection to the bus.
+        // An inner array consists of its padded length and its numbers. If the whole array had more
+        // bytes, the bus would close the relay's connection.
         bytes += 8 + point.size() * qsizetype(sizeof(double));
         if (bytes > maxArrayBytes)
             return {};
@@ -85,7 +85,7 @@ static std::optional<QList<QList<double>>> parsePoints(QStringView text)
     return points;
 }
 
-// The D-Bus value of one argument; an invalid variant when \a value is not of this type.
+// Returns the D-Bus value of an argument, or an invalid variant if \a value is not of this type.
 static QVariant parseValue(QStringView type, QStringView value)
 {
     if (type == u"int32") {

@@ -24,7 +24,7 @@ struct Request
     QString error;             ///< one sentence without ":"; empty: the request is valid
 };
 
-/// Parses a request line. Sets only `error` for an invalid one. D-Bus can carry every valid one.
+/// Parses a request line. Sets only `error` if it is invalid. D-Bus can carry every valid request.
 [[nodiscard]] Request parseRequest(const QString &line);
 
 /// The reply to \a request: five fields separated by ":". Nothing is escaped: a ":" in a text makes

@@ -46,7 +46,7 @@ Q_SIGNALS:
     void changed();
 
 public Q_SLOTS:
-    // These three fail with …Error.UnknownSensor for an unknown name.
+    // The next three functions fail with …Error.UnknownSensor for an unknown name.
     void enableSensor(const QString &sensor);
     void disableSensor(const QString &sensor);
     bool enabled(const QString &sensor);

@@ -4,14 +4,14 @@
 
 namespace NimbraEmulator {
 
-// Bytes that are held for an end that reads slower than the other one writes.
+// The bytes that are kept for an end that reads more slowly than the other end writes.
 static constexpr qint64 bufferSize = 256 << 10;
 
 static void pump(QTcpSocket *from, QTcpSocket *to)
 {
     if (to->state() == QAbstractSocket::ConnectedState && to->bytesToWrite() < bufferSize) {
         to->write(from->read(bufferSize));
-        to->flush(); // now, not in the next turn of the event loop
+        to->flush(); // does not wait for the next turn of the event loop
     }
 }
 

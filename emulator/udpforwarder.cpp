@@ -4,8 +4,8 @@
 
 namespace NimbraEmulator {
 
-// Bytes: room for several video frames that arrive at once.
-static constexpr int receiveBufferSize = 2 << 20;
+// The buffer has room for several video frames that arrive at once.
+static constexpr int receiveBufferSize = 2 << 20; // bytes
 static constexpr qint64 maxDatagramSize = 65536;
 
 UdpForwarder::UdpForwarder(const QHostAddress &address, quint16 port, QObject *parent)

@@ -37,7 +37,7 @@ public:
     [[nodiscard]] const QImage &picture() const { return m_picture; }
     /// The number of pictures in the last second.
     [[nodiscard]] double rate() const { return m_rate; }
-    /// All pictures since the start, also those that could not be decoded.
+    /// The number of pictures since the start, including those that could not be decoded.
     [[nodiscard]] qint64 frameCount() const { return m_frameCount; }
 
 Q_SIGNALS:

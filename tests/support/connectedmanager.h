@@ -27,8 +27,8 @@ inline void addCallRows(std::span<const char *const> calls)
     }
 }
 
-/// A manager of the D-Bus service \a service, connected to a recording relay. It got the link after
-/// the link was connected, so it has sent nothing yet.
+/// A manager of the D-Bus service \a service, connected to a recording relay. The manager has sent
+/// nothing yet, because its link was already connected when it got it.
 template<typename Manager>
 struct ConnectedManager
 {
@@ -53,8 +53,8 @@ struct ConnectedManager
         return connected.wait();
     }
 
-    /// Returns the new requests as "method arguments", separated by ";". Only a request to another
-    /// address than the manager's keeps its address.
+    /// Returns the new requests as "method arguments", separated by ";". A request to an address
+    /// that is not the manager's keeps its address.
     [[nodiscard]] QString takeRequests()
     {
         QStringList requests = relay.takeRequests(link);

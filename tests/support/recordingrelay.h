@@ -21,7 +21,7 @@ public:
     ~RecordingRelay() override;
 
     [[nodiscard]] bool listen();
-    /// Listens and lets \a link connect; false when it does not within a few seconds.
+    /// Listens and lets \a link connect. Returns false if it does not within a few seconds.
     [[nodiscard]] bool connectLink(EmulationManagement::Internal::RemoteDBusInvokerService &link);
     /// Drops all clients and refuses new ones.
     void stop();
@@ -33,7 +33,7 @@ public:
     /*!
      * Returns the lines that arrived over \a link since the last call.
      *
-     * Sends a mark first: once it has arrived, so have all earlier lines.
+     * Lines arrive in order, so it sends a mark and waits until the mark has arrived.
      */
     [[nodiscard]] QStringList takeRequests(
         EmulationManagement::Internal::RemoteDBusInvokerService &link);

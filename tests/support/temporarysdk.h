@@ -14,7 +14,7 @@ class VirtualMachine;
 
 namespace TestSupport {
 
-/// An SDK in a temporary folder. Its first emulator is the project's, without a window.
+/// An SDK in a temporary folder. Its first emulator runs the project's program without a window.
 class TemporarySdk
 {
 public:

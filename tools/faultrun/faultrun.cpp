@@ -126,7 +126,7 @@ void FaultRun::measureGap()
 
 void FaultRun::actSoon()
 {
-    // Each time another timer: a message box that an action opens must not end the actions.
+    // Uses a new timer each time, because actions must go on while one of them shows a message box.
     if (m_running)
         QTimer::singleShot(m_random.bounded(longestPause), this, &FaultRun::act);
 }

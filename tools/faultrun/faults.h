@@ -8,8 +8,8 @@
 
 #include <memory>
 
-/// What goes wrong around the plugin in a fault run: the emulator, the ports, the disk, the
-/// settings, the video file and the cameras.
+/// Breaks what the plugin depends on: the emulator, the ports, the disk, the settings, the video
+/// file and the cameras.
 class Faults
 {
 public:
@@ -33,7 +33,7 @@ private:
     QRandomGenerator &m_random;
     QTemporaryDir m_folder;
     VirtualCameras m_cameras;
-    std::unique_ptr<QObject> m_port; // holds a port that the plugin or the emulator needs
+    std::unique_ptr<QObject> m_port; // occupies a port that the emulator needs
     bool m_diskFull = false;
     bool m_settingsLocked = false;
 };

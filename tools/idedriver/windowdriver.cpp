@@ -32,7 +32,7 @@ static void collect(QQuickItem *item, const QString &className, QList<QQuickItem
 
 static QPoint centreOf(const QQuickItem *item)
 {
-    // by screen coordinates, because a dialog has its own window
+    // takes screen coordinates, because a dialog has its own window
     const QPointF centre = item->mapToGlobal(QPointF(item->width() / 2, item->height() / 2));
     return item->window()->mapFromGlobal(centre).toPoint();
 }

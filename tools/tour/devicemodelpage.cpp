@@ -41,7 +41,7 @@ static void turnDevice(TourGuide &guide)
     guide.waitForCall(u"setAccelerometerValues int32:0 int32:1000 int32:0"_s);
     window.type(window.items(u"QQuickTextField"_s).constFirst(), u"29"_s);
     QTest::mouseClick(window.window(), Qt::LeftButton, {}, inDrawing(guide, 0.5, 0.5));
-    QTest::keyClick(window.window(), Qt::Key_Up); // a degree more
+    QTest::keyClick(window.window(), Qt::Key_Up); // adds a degree
     guide.waitForCall(u"setAccelerometerValues int32:0 int32:866 int32:-500"_s);
     guide.takePicture(u"device-model-turned"_s);
     window.clickButton(u"X 0°, Y 0°, Z 0°"_s);

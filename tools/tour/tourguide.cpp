@@ -76,7 +76,7 @@ void TourGuide::takePicture(const QString &name)
 void TourGuide::printAllCalls()
 {
     static constexpr int longestCall = 100; // a track has many points
-    QMap<QString, std::pair<int, QString>> calls; // by method: how many, and the last one
+    QMap<QString, std::pair<int, QString>> calls; // the number of calls and the last one, by method
     const QStringList received = m_journal.callsSince(0);
     for (const QString &call : received) {
         auto &[count, last] = calls[call.section(u' ', 0, 0)];

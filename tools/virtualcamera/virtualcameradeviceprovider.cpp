@@ -10,7 +10,7 @@
 #include <thread>
 #include <utility>
 
-// Short enough that nobody waits; reading a file this small so often costs almost nothing.
+// Nobody notices so short a delay, and reading a small file so often costs almost nothing.
 static constexpr std::chrono::milliseconds watchInterval(5);
 
 namespace {
@@ -40,7 +40,7 @@ private:
     std::vector<std::pair<VirtualCamera, GstDevice *>> m_devices; // owned by the provider
     std::mutex m_mutex;
     std::condition_variable_any m_wakeUp;
-    std::jthread m_thread; // the last member: it uses the others
+    std::jthread m_thread; // destroyed first, because it uses the other members
 };
 
 struct Provider

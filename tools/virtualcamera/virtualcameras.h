@@ -4,7 +4,8 @@
 #include <QSaveFile>
 #include <QTemporaryDir>
 
-/// The host's virtual cameras, each a line as in cameras.txt. Only one object may exist at a time.
+/// Plugs virtual cameras in and out. A camera is a line as in cameras.txt. Only one object may
+/// exist at a time.
 class VirtualCameras
 {
 public:

@@ -14,6 +14,7 @@
  */
 bool registerVirtualCameraSources(GstPlugin *plugin);
 
-/// A new source that is set to this camera, or null if no factory has its properties. Without pads
-/// and without a factory where the camera has "factory=none" instead of properties.
+/// Returns a new source that is set to this camera, or null if no factory has its properties. A
+/// camera with "factory=none" instead of properties gets a source without pads and without a
+/// factory.
 GstElement *createVirtualCameraSource(const VirtualCamera &camera, const char *name);
