@@ -37,16 +37,15 @@ Item {
         function init() {
             failOnWarning(/.*/);
             host.reset();
-            sensorsEmulationManager.setSensorEnabled("magnetometer", false); // as at the start
+            sensorsEmulationManager.setSensorEnabled("magnetometer", false); // as at start-up
             view = createTemporaryObject(component, root);
-            verify(view);
         }
 
         function button(title: string): PageButton {
             return Find.find(view, item => item instanceof PageButton && item.text === title);
         }
 
-        // The only page that is shown and marked.
+        // The title of the only page that is shown and whose button is marked.
         function shownPage(): string {
             const shown = titles.filter((title, index) => view.pagesIds[index].active);
             const visible = titles.filter((title, index) => view.pagesIds[index].visible);
@@ -106,7 +105,7 @@ Item {
 
         function test_errorDialogFollowsMessages() {
             const dialog = view.errorDialog;
-            host.receive(""); // is no message
+            host.receive(""); // not a message
             verify(!dialog.visible);
             dialog.showOnce("one");
             dialog.showOnce("two");

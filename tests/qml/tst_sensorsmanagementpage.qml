@@ -38,14 +38,10 @@ Item {
             click("Sensors Management");
         }
 
-        function page(): Item {
-            return view.pagesIds[0];
-        }
-
-        // A box or button of the page, else of the view.
+        // The box or button with this text on the page, otherwise in the view.
         function find(title: string): Item {
             const accept = item => item.text === title && item.clicked !== undefined;
-            return Find.find(page(), accept) ?? Find.find(view, accept);
+            return Find.find(view.pagesIds[0], accept) ?? Find.find(view, accept);
         }
 
         function click(title: string) {
@@ -108,7 +104,7 @@ Item {
             compare(checked(), "ACOMGLPT");
             click("Tap Sensor");
             host.receive("enabled:proximity:0::");
-            compare(checked(), "ACOMGL"); // the tap sensor keeps what was chosen
+            compare(checked(), "ACOMGL"); // the tap sensor keeps the user's choice
             host.receive("enabled:proximity:1::");
             compare(enabled(), before);
             click("Apply");
@@ -138,7 +134,7 @@ Item {
                     ["The sensor configuration has been changed. Apply or discard changes?"]);
             compare(sensorsEmulationManager.sensorsEnabledStates.gyroscope, row.enabled);
             compare(sensorsEmulationManager.sensorsEnabledStates.tap, true);
-            compare(page().active, !row.left);
+            compare(view.pagesIds[0].active, !row.left);
         }
     }
 }

@@ -18,11 +18,6 @@ Item {
         id: component
 
         SensorsValuesPage {
-            function sensor(name: string): SensorControls {
-                return Find.find(this, item => item instanceof SensorControls
-                                               && item.sensorName === name);
-            }
-
             anchors.fill: parent
             active: true
         }
@@ -39,145 +34,150 @@ Item {
         function init() {
             failOnWarning(/.*/);
             host.reset();
+            sensorsEmulationManager.setMagneticFieldValues(0, 5.95, -48.76);
             page = createTemporaryObject(component, root);
-            verify(page);
         }
 
-        function axis(name: string, index: int): SliderWithTextField {
-            const axes = [];
-            Find.find(page.sensor(name), item => {
-                if (item instanceof SliderWithTextField)
-                    axes.push(item);
-                return false;
-            });
-            return axes[index];
+        // The items below another one that accept() is true for.
+        function all(item: Item, accept: var): var {
+            const result = [];
+            Find.find(item, child => accept(child) && result.push(child) && false);
+            return result;
         }
 
-        function type(control: SliderWithTextField, text: string): TextField {
-            const field = Find.find(control, item => item instanceof TextField);
-            mouseClick(field);
-            for (const character of text)
-                keyClick(character);
-            return field;
+        function frames(accept: var): var {
+            return all(page, item => item instanceof SensorControls).filter(accept ?? (() => true));
         }
 
-        function test_accelerometer_data(): var {
+        function control(title: string, index: int): Item {
+            return all(frames(frame => frame.title === title)[0], item => item instanceof TextField
+                       || item instanceof ComboBox || item instanceof Button)[index];
+        }
+
+        // All values of the models without floating-point errors, and the light level on the page.
+        function readings(): var {
+            const manager = sensorsEmulationManager;
+            const xyz = ({x, y, z}) => [x, y, z].map(value => Math.round(value * 1e9) / 1e9);
+            return {
+                accelerometer: xyz(manager.accelerometer), gyroscope: xyz(manager.gyroscope),
+                magnetometer: xyz(manager.magnetometer), field: xyz(manager.magneticField),
+                azimuth: manager.compass.azimuth, orientation: manager.orientation.orientation,
+                levels: [manager.magnetometer.calibrationLevel, manager.compass.calibrationLevel],
+                lux: manager.als.lux, reflectance: manager.proximity.reflectance,
+                tap: manager.tap.tapDirection, level: control("Light Sensor", 1).displayText};
+        }
+
+        function test_controls_data(): var {
             return [
-                {tag: "x goes elsewhere", axis: "x", text: "1.5", value: 1500, shown: "1.500"},
-                {tag: "y goes elsewhere", axis: "y", text: "-0.7", value: -700, shown: "-0.700"},
-                {tag: "z goes elsewhere", axis: "z", text: "3", value: 3000, shown: "3.000"},
-                {tag: "1.001 cut off", axis: "x", text: "1.001", value: 1001, shown: "1.001"},
-                {tag: "more than 3 g is sent", axis: "x", text: "3.5", value: 3000, shown: "3.000"},
-            ];
+                ["Accelerometer", 0, "1.001", {accelerometer: [1001, 0, 1000], orientation: 4}],
+                ["Accelerometer", 0, "3.5", {accelerometer: [3000, 0, 1000], orientation: 4}],
+                ["Accelerometer", 1, "-0.7", {accelerometer: [0, -700, 1000], orientation: 2}],
+                ["Accelerometer", 2, "2", {accelerometer: [0, 0, 2000]}],
+                ["Magnetometer", 0, "-25", {magnetometer: [-2.5e-5, 0, 0], azimuth: 90}],
+                ["Magnetometer", 1, "43", {magnetometer: [4.3e-5, 4.3e-5, 0], azimuth: 315}],
+                ["Magnetometer", 2, "65", {magnetometer: [4.3e-5, 0, 6.5e-5]}],
+                ["Magnetometer", 3, "2", {levels: [2, 2]}],
+                ["Compass", 0, "90", {magnetometer: [-4.3589e-5, 0, 0], azimuth: 90}],
+                ["Compass", 1, "3", {levels: [3, 3]}],
+                ["Magnetic Field", 0, "1", {field: [1, 5.95, -48.76]}],
+                ["Magnetic Field", 1, "2", {field: [0, 2, -48.76]}],
+                ["Magnetic Field", 2, "3", {field: [0, 5.95, 3]}],
+                ["Orientation Sensor", 0, "v",
+                 {accelerometer: [0, 0, -300], azimuth: 90, orientation: 6}],
+                ["Gyroscope", 0, "1", {gyroscope: [1, 0, 1.145915590]}],
+                ["Gyroscope", 1, "-25", {gyroscope: [0, -25, 1.145915590]}],
+                ["Gyroscope", 2, "3", {gyroscope: [0, 0, 3]}],
+                ["Light Sensor", 0, "79", {lux: 79, level: "Twilight"}],
+                ["Light Sensor", 0, "80", {lux: 80}],
+                ["Light Sensor", 0, "3000", {lux: 3000, level: "Sunny"}],
+                ["Light Sensor", 0, "-1", {lux: -1, level: "Undefined"}],
+                ["Light Sensor", 1, "vv", {lux: 2500, level: "Sunny"}],
+                ["Proximity Sensor", 0, "7", {reflectance: 7}],
+                ["Proximity Sensor", 1, " ", {reflectance: 0}],
+                ["Proximity Sensor", 2, " ", {reflectance: 10}],
+                ["Tap Sensor", 0, "vvv", {tap: 2}],
+            ].map(([title, index, keys, changes]) => ({
+                tag: `control ${index} of ${title} has another effect after "${keys}"`,
+                title, index, keys, changes}));
         }
 
-        function test_accelerometer(row: var) {
-            const control = axis("accelerometer", ["x", "y", "z"].indexOf(row.axis));
-            const field = type(control, row.text);
-            keyClick(Qt.Key_Return);
-            const model = sensorsEmulationManager.accelerometer;
-            const expected = Object.assign({x: 0, y: 0, z: 1000}, {[row.axis]: row.value});
-            compare({x: model.x, y: model.y, z: model.z}, expected);
-            compare(field.text, row.shown);
-            const acceleration = (row.value * 9.80665 / 1000).toFixed(3) + " m/s²";
-            for (const text of ["g", "=", acceleration])
-                verify(Find.find(control, item => item.text === text && item.visible), text);
+        function test_controls(row: var) {
+            const before = readings();
+            const focused = control(row.title, row.index);
+            focused.forceActiveFocus(Qt.TabFocusReason);
+            for (const key of row.keys)
+                keyClick(key === "v" ? Qt.Key_Down : key);
+            if (focused instanceof TextField)
+                keyClick(Qt.Key_Return);
+            compare(readings(), Object.assign({}, before, row.changes));
+            page.active = false; // the view asks after the page was left
+            compare(page.modelSensorChanged,
+                    /accelerometer|magnetometer|field|gyroscope/.test(Object.keys(row.changes)));
+            page.active = true;
+            verify(!page.modelSensorChanged);
+
+            focused.forceActiveFocus();
+            Find.find(page, item => item.text === "Reset values").clicked(); // takes no focus
+            verify(!focused.activeFocus || !(focused instanceof TextField));
+            sensorsEmulationManager.setMagneticFieldValues(...before.field);
+            compare(readings(), before);
+            verify(page.modelSensorChanged);
+            sensorsEmulationManager.sensorsInitialized();
+            verify(!page.modelSensorChanged);
         }
 
-        function shown(): var {
-            return [0, 1, 2].map(index => Find.find(axis("accelerometer", index),
-                                                    item => item instanceof TextField).text);
+        // The texts of an item and all below it.
+        function shown(item: Item): string {
+            return item.displayText ?? item.text ?? Array.from(item.children).filter(
+                child => child.visible).map(shown).filter(text => text !== "").join(" ");
         }
 
-        function test_resetValues() {
-            const field = type(axis("accelerometer", 0), "2");
-            keyClick(Qt.Key_Return);
-            sensorsEmulationManager.setAccelerometerValues(1500, -2000, 250);
-            compare(shown(), ["1.500", "-2.000", "0.250"]);
-            type(axis("accelerometer", 0), "-");
-            const button = Find.find(page, item => item instanceof Button
-                                                   && item.text === "Reset values");
-            mouseClick(button);
-            const model = sensorsEmulationManager.accelerometer;
-            compare([model.x, model.y, model.z], [0, 0, 1000]);
-            compare(shown(), ["0.000", "0.000", "1.000"]);
-
-            type(axis("accelerometer", 0), "2");
-            button.clicked(); // without taking the focus
-            compare(shown(), ["0.000", "0.000", "1.000"]);
-            verify(!field.activeFocus);
-        }
-
-        function test_lightLevel_data(): var {
-            return [
-                {tag: "level above taken", lux: 79, level: "Twilight"},
-                {tag: "level missed at its lux", lux: 80, level: "Light"},
-                {tag: "nothing above the last level", lux: 3000, level: "Sunny"},
-                {tag: "first level missed", lux: -1, level: "Undefined"},
-                {tag: "choice lost below the first level", lux: -2, level: "Dark"},
-            ];
-        }
-
-        function test_lightLevel(row: var) {
-            sensorsEmulationManager.setAlsLuxValue(0);
-            sensorsEmulationManager.setAlsLuxValue(row.lux);
-            compare(Find.find(page.sensor("als"), item => item instanceof ComboBox).displayText,
-                    row.level);
-        }
-
-        function test_combos_data(): var {
-            return [
-                {tag: "orientation is off by one", sensor: "orientation", keys: 1,
-                 result: () => sensorsEmulationManager.orientation.orientation, value: 6},
-                {tag: "tap direction is off by one", sensor: "tap", keys: 3,
-                 result: () => sensorsEmulationManager.tap.tapDirection, value: 2},
-                {tag: "level is not its lux", sensor: "als", keys: 2,
-                 result: () => sensorsEmulationManager.als.lux, value: 2500},
-            ];
-        }
-
-        function test_combos(row: var) {
-            Find.find(page.sensor(row.sensor), item => item instanceof ComboBox).forceActiveFocus();
-            for (let i = 0; i < row.keys; ++i)
-                keyClick(Qt.Key_Down);
-            compare(row.result(), row.value);
+        function test_shown() {
+            compare(frames().map(shown), [
+                "X 0.000 g = 0.000 m/s² Y 0.000 g = 0.000 m/s² Z 1.000 g = 9.807 m/s² "
+                + "Accelerometer",
+                "X 43.000 μT Y 0.000 μT Z 0.000 μT Calib. level 0 Magnetometer",
+                "Azimuth 270 Calib. level 0 Compass",
+                "X 0.000 μT Y 5.950 μT Z -48.760 μT Magnetic Field",
+                "Orientation FaceUp Orientation Sensor",
+                "X 0.000 deg/s Y 0.000 deg/s Z 1.146 deg/s Gyroscope",
+                "100 lx Light level Light Light Sensor",
+                "Reflectance 5 0.48876  Near Far Proximity Sensor",
+                "Direction Undefined Tap Sensor"]);
+            sensorsEmulationManager.setAlsLuxValue(-2); // below the first level: the choice stays
+            compare(readings().level, "Light");
         }
 
         function test_doubleClick() {
-            const manager = sensorsEmulationManager;
             for (const tap of [-1, 8]) { // the list opens above its box, and over it
-                manager.setTapSensorValue(tap);
-                for (const sensor of ["tap", "als", "orientation"]) {
-                    const box = Find.find(page.sensor(sensor), item => item instanceof ComboBox);
+                sensorsEmulationManager.setTapSensorValue(tap);
+                const before = readings();
+                for (const box of all(page, item => item instanceof ComboBox)) {
                     mouseDoubleClickSequence(box);
-                    compare([manager.tap.tapDirection, manager.als.lux, manager.accelerometer.z],
-                            [tap, 100, 1000], sensor);
+                    compare(readings(), before);
                     tryVerify(() => !box.popup.visible);
                 }
             }
         }
 
-        // Also when the page is too small for that: what has the focus is scrolled into view.
+        // Each control that gets the focus must be in view, also on a page that scrolls.
         function test_tabOrder_data(): var {
-            return [
-                { tag: "all in view", width: 1000, height: 600 },
-                { tag: "scrolling", width: 300, height: 200 },
-            ];
+            return [{tag: "order is lost", width: 1000, height: 600},
+                    {tag: "focus is out of view", width: 300, height: 200}];
         }
 
         function test_tabOrder(row: var) {
             page.anchors.fill = null;
             page.width = row.width;
             page.height = row.height;
-            const first = Find.find(page.sensor("accelerometer"), item => item instanceof Slider);
+            const first = Find.find(page, item => item instanceof Slider);
             first.forceActiveFocus(Qt.TabFocusReason);
             const titles = [];
             for (let focused = first; focused.text !== qsTr("Reset values");
                  focused = Window.activeFocusItem) {
                 waitForRendering(page);
                 const centre = focused.mapToItem(page, focused.width / 2, focused.height / 2);
-                verify(centre.x > 0 && centre.x < row.width, `${titles} ${centre}`);
-                verify(centre.y > 0 && centre.y < row.height, `${titles} ${centre}`);
+                verify(page.contains(centre), `${titles} ${centre}`);
                 verify(focused instanceof Button || focused.Accessible.name !== "", `${titles}`);
                 let frame = focused;
                 while (!(frame instanceof SensorControls))
@@ -192,45 +192,22 @@ Item {
         }
 
         function test_states() {
-            const control = page.sensor("accelerometer");
-            for (const on of [false, true]) {
-                host.setSensorAvailable("accelerometer", on);
-                compare(control.visible, on);
+            const titles = {
+                accelerometer: "Accelerometer", als: "Light Sensor", compass: "Compass",
+                gyroscope: "Gyroscope", magnetometer: "Magnetometer,Magnetic Field",
+                orientation: "Orientation Sensor", proximity: "Proximity Sensor",
+                tap: "Tap Sensor"};
+            const hidden = () => frames(frame => !frame.visible).map(frame => frame.title).join();
+            const disabled = () => frames(frame => !frame.enabled).map(frame => frame.title).join();
+            for (const name in titles) {
+                host.setSensorAvailable(name, false);
+                sensorsEmulationManager.setSensorEnabled(name, true);
+                compare(hidden(), titles[name]);
+                host.setSensorAvailable(name, true);
+                sensorsEmulationManager.setSensorEnabled(name, false);
+                compare([hidden(), disabled()], ["", titles[name]]);
+                sensorsEmulationManager.setSensorEnabled(name, true);
             }
-            for (const on of [false, true]) {
-                sensorsEmulationManager.setSensorEnabled("accelerometer", on);
-                verify(control.visible);
-                compare(control.enabled, on);
-            }
-        }
-
-        function test_modelSensorChanged_data(): var {
-            const setters = ["setCompassAzimuth", "setAlsLuxValue", "setTapSensorValue"];
-            for (const sensor of ["Accelerometer", "Magnetometer", "MagneticField", "Gyroscope"])
-                setters.push(...["X", "Y", "Z"].map(axis => `set${sensor}${axis}`));
-            // light and taps do not come from the model
-            return setters.map(setter => ({tag: setter, changed: !/Als|Tap/.test(setter)}));
-        }
-
-        function test_modelSensorChanged(row: var) {
-            sensorsEmulationManager[row.tag](1);
-            compare(page.modelSensorChanged, row.changed);
-        }
-
-        function test_modelSensorForgotten_data(): var {
-            return [
-                {tag: "kept when shown again", forget: () => page.active = true, changed: false},
-                {tag: "kept after initialisation",
-                 forget: () => sensorsEmulationManager.sensorsInitialized(), changed: false},
-                {tag: "lost when left", forget: () => {}, changed: true},
-            ];
-        }
-
-        function test_modelSensorForgotten(row: var) {
-            sensorsEmulationManager.setGyroscopeX(1);
-            page.active = false;
-            row.forget();
-            compare(page.modelSensorChanged, row.changed);
         }
     }
 }

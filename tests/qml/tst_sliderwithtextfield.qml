@@ -64,19 +64,11 @@ Item {
         }
 
         function test_typed_data(): var {
-            const micro = {resultValueMultiplier: 0.000001, minValue: -65, maxValue: 65};
-            const whole = {integer: true, numberRoundingSize: 0, resultValueMultiplier: 1,
-                           minValue: 0, maxValue: 359};
             const kept = {value: 1500.4, shown: "1.500", sent: 0, properties: {value: 1500.4}};
             return [
-                {tag: "Return lost", key: Qt.Key_Return, text: "1.5", value: 1500, shown: "1.500"},
-                {tag: "lost with focus", text: "1.5", value: 1500, shown: "1.500"},
+                {tag: "text lost with focus", text: "1.5", value: 1500, shown: "1.500"},
                 {tag: "sign lost", key: Qt.Key_Return, text: "-0.25", value: -250, shown: "-0.250"},
                 {tag: "unfinished fraction lost", text: "1.", value: 1000, shown: "1.000"},
-                {tag: "small unit lost", text: "25", value: 2.5e-5, shown: "25.000",
-                 properties: micro},
-                {tag: "whole number shown as fraction", text: "123", value: 123, shown: "123",
-                 properties: whole},
                 Object.assign({tag: "empty text sent", text: ""}, kept),
                 Object.assign({tag: "lone sign sent", key: Qt.Key_Return, text: "-"}, kept),
                 Object.assign({tag: "untouched text sent", key: Qt.Key_Tab}, kept),
@@ -129,7 +121,7 @@ Item {
             ];
         }
 
-        // What is sent is what the field shows, at every stop on the way, and where the handle is.
+        // At every stop on the way, the value that is sent is that of the field and of the handle.
         function test_drag(row: var) {
             const control = create(row.properties);
             for (const dx of [91, 87, -73]) {
@@ -157,34 +149,32 @@ Item {
             }
             mouseDrag(slider, x - 4, slider.height / 2, -1, 0);
             compare(control.sent.length, 1);
-            keyClick(Qt.Key_Right); // a key is no click
+            keyClick(Qt.Key_Right); // only clicks on the handle are ignored
             compare(control.sent.length, 2);
         }
 
         function test_changedFromOutside_data(): var {
             return [
-                {tag: "ignored after typing", before: control => {
-                    type(control, "1.5");
-                    keyClick(Qt.Key_Return);
-                }},
-                {tag: "ignored after a refused text", before: control => {
-                    type(control, "-");
-                    elsewhere.forceActiveFocus();
-                }},
-                {tag: "ignored after dragging", before: control => drag(control, 50)},
+                {tag: "ignored after typing", text: "1.5"},
+                {tag: "ignored after a refused text", text: "-"},
+                {tag: "ignored after dragging"},
             ];
         }
 
         function test_changedFromOutside(row: var) {
             const control = create();
-            row.before(control);
+            if (row.text)
+                type(control, row.text);
+            else
+                drag(control, 50);
+            elsewhere.forceActiveFocus();
             control.sent = [];
             for (const value of [-2001, 0, 0, 2999]) {
-                control.value = value;
+                control.modelValue = value;
                 fuzzyCompare(control.slider.value, value / 1000, 1e-9);
                 compare(control.field.text, (value / 1000).toFixed(3));
             }
-            compare(control.sent, []); // or the model and the control would chase each other
+            compare(control.sent, []); // otherwise control and model would change each other
         }
 
         function test_calculatedValue() {

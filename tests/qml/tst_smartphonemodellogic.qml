@@ -42,7 +42,7 @@ TestCase {
         expected.forEach((value, i) => fuzzyCompare(actual[i], value, tolerance));
     }
 
-    // The same numbers in each run.
+    // The random numbers are the same in each run.
     function forEachAttitude(check: var) {
         let seed = 1;
         const random = limit => {
@@ -66,7 +66,7 @@ TestCase {
     function test_readingsInMotion() {
         forEachAttitude((rotation, [ax, ay, az]) => {
             const [, y, z] = seen(rotation, [ax, gravity + ay, az]);
-            // not as in nature: only gravity and ax have their sign
+            // unlike in nature, ay and az reach x with reversed signs
             const [x] = seen(rotation, [ax, gravity - ay, -az]);
             near(Logic.accelerometerReading(rotation, gravity, [ax, ay, az]), [x, y, z], 1e-9);
         });
@@ -81,7 +81,7 @@ TestCase {
             near(Logic.gyroscopeReading(rotation, Logic.rotationFrequencies(
                 next, rotation, [false, false, false], period)), expected, 1e-2);
         });
-        // not as in nature: a wrapped axis has turned forwards, whatever way it went
+        // unlike in nature, a wrapped axis always counts as turned forwards
         near(Logic.rotationFrequencies([15, -180, 180], [10, 175, -175], [false, true, true], 0.1),
              [5 / 36, 5 / 36, 5 / 36], 1e-12);
     }

@@ -40,14 +40,14 @@ Item {
             area = Find.find(page, item => item instanceof SmartphoneModelArea);
         }
 
-        // The magnetometer in tenths of a microtesla.
+        // A sensor's values; those of the magnetometer in tenths of a microtesla.
         function sent(sensor: string): var {
             const model = sensorsEmulationManager[sensor];
             const unit = sensor === "magnetometer" ? 1e-7 : 1;
             return [model.x, model.y, model.z].map(value => Math.round(value / unit));
         }
 
-        // What the gyroscope reads of a change between two samples, without those of the timer.
+        // The gyroscope's values after a change between two samples. The timer takes no samples.
         function sampled(change: var): var {
             page.active = false;
             motion.sample();
@@ -56,7 +56,9 @@ Item {
             return sent("gyroscope");
         }
 
+        // The page must have the focus afterwards, also when a slider's field had it.
         function startMoving(start: double) {
+            mouseClick(Find.find(page, item => item instanceof TextField));
             mouseClick(Find.find(page, item => item.text === "Move"));
             motion.displacement = [start, start, start];
         }
@@ -67,11 +69,27 @@ Item {
             verify(Find.find(page, item => item.visible && item.text
                                            === "Accelerometer (m/s²): 0.000 9.807 0.000"));
             sensorsEmulationManager.setGyroscopeX(1);
-            tryVerify(() => sent("gyroscope")[0] === 0); // by the timer
+            tryVerify(() => sent("gyroscope")[0] === 0); // the timer sends it
             page.active = false;
             verify(!Array.from(page.data).find(child => child instanceof Timer).running);
             page.rotate([45, 0, 0]);
-            compare(sent("accelerometer"), [0, 1000, 0]); // is that of the other pages now
+            compare(sent("accelerometer"), [0, 1000, 0]); // the other pages set the values now
+        }
+
+        function test_sliders() {
+            const expected = [0, 0, 0, 0, 0, 0];
+            for (const [i, label] of ["X-Rot", "Y-Rot", "Z-Rot", "X", "Y", "Z"].entries()) {
+                page.rotationMode = i < 3;
+                const before = sent("magnetometer");
+                const slider = Find.find(page, item => item.visible && item.label === label);
+                Find.find(slider, item => item instanceof TextField).forceActiveFocus();
+                for (const key of `0.${i + 1}`)
+                    keyClick(key);
+                keyClick(Qt.Key_Return);
+                expected[i] = (i + 1) / 10;
+                compare([...motion.rotation, ...motion.displacement], expected);
+                compare(sent("magnetometer").join() !== before.join(), page.rotationMode, label);
+            }
         }
 
         function test_presets() {
@@ -89,21 +107,19 @@ Item {
 
         function test_keys_data(): var {
             return [
-                {tag: "left", key: Qt.Key_Left, rotation: [0, 0, -1]},
-                {tag: "shift and right", key: Qt.Key_Right, modifier: Qt.ShiftModifier,
-                 rotation: [0, 1, 0]},
-                {tag: "down", key: Qt.Key_Down, rotation: [-1, 0, 0]},
-                {tag: "up in move mode", start: 0, key: Qt.Key_Up, position: [0, 0.01, 0]},
-                {tag: "beyond the limit", start: 2, key: Qt.Key_Right, position: [2, 2, 2]},
-                {tag: "no way back from a drag beyond it", start: 2.05, key: Qt.Key_Left,
-                 position: [2.04, 2.05, 2.05]},
+                {tag: "left turns elsewhere", key: Qt.Key_Left, rotation: [0, 0, -1]},
+                {tag: "shift is ignored", key: Qt.Key_Right, shift: true, rotation: [0, 1, 0]},
+                {tag: "down turns elsewhere", key: Qt.Key_Down, rotation: [-1, 0, 0]},
+                {tag: "focus lost in move mode", start: 0, key: Qt.Key_Up, position: [0, 0.01, 0]},
+                {tag: "moves beyond the limit", start: 2, key: Qt.Key_Right, position: [2, 2, 2]},
+                {tag: "stuck outside", start: 2.05, key: Qt.Key_Left, position: [2.04, 2.05, 2.05]},
             ];
         }
 
         function test_keys(row: var) {
             if (row.start !== undefined)
                 startMoving(row.start);
-            keyClick(row.key, row.modifier ?? Qt.NoModifier);
+            keyClick(row.key, row.shift ? Qt.ShiftModifier : Qt.NoModifier);
             compare(motion.rotation, row.rotation ?? [0, 0, 0]);
             compare(motion.displacement, row.position ?? [0, 0, 0]);
             compare(sent("magnetometer").join() !== "100,200,300", row.rotation !== undefined);
@@ -118,7 +134,7 @@ Item {
 
             mouseClick(Find.find(page, item => item instanceof TextField));
             keyPress(Qt.Key_V, Qt.ControlModifier);
-            verify(page.rotationMode); // pasting is no change of the mode
+            verify(page.rotationMode); // pasting does not change the mode
         }
 
         function test_gyroscope() {
@@ -130,12 +146,12 @@ Item {
                 keyClick(Qt.Key_Right);
                 compare(motion.rotation[2], 181);
                 keyClick(Qt.Key_Up);
-            }), [10 * -1, 0, 0]); // from 180 to -180 is no way, and x turns the other way there
+            }), [-10, 0, 0]); // -180 is the same as 180, and x is reversed there
             compare(sampled(() => page.rotate([500, 0, -180])), [-3000, 0, 0]);
         }
 
         function test_move() {
-            startMoving(0.1); // 0.006 m in 0.1 s
+            startMoving(0.1); // a move of 0.006 m in 0.1 s
             const readings = [0, 1, 2].map(() => {
                 motion.sample();
                 return sent("accelerometer");
@@ -156,7 +172,7 @@ Item {
             sensorsEmulationManager.setSensorEnabled(row.tag, false);
             verify(label.visible && !label.enabled);
             host.setSensorAvailable(row.tag, false);
-            sensorsEmulationManager.setSensorEnabled(row.tag, true); // whatever the emulator says
+            sensorsEmulationManager.setSensorEnabled(row.tag, true); // must have no effect
             sensorsEmulationManager.setGyroscopeX(1);
             verify(!label.visible);
             const before = sent(row.tag);
@@ -168,13 +184,13 @@ Item {
         }
 
         function test_mouse() {
-            mouseDrag(area, 100, 100, 50, 50); // an empty model cannot be turned
+            mouseDrag(area, 100, 100, 50, 50); // turns nothing, because no device is drawn
             compare([motion.rotation, motion.displacement], [[0, 0, 0], [0, 0, 0]]);
             startMoving(0);
             mousePress(area, 100, 100);
             mouseMove(area, 100 + area.width / 6, 100 + area.height / 8);
             mouseMove(area, 100 + area.width / 2, 100 + area.height / 8);
-            fuzzyCompare(motion.displacement[0], 1, 0.02); // 3 is too far
+            fuzzyCompare(motion.displacement[0], 1, 0.02); // 3 is beyond the limit
             mouseMove(area, 100 + area.width / 3, 100 + area.height / 8);
             mouseRelease(area, 100 + area.width / 3, 100 + area.height / 8);
             [2, -0.5, 0].forEach((value, i) => fuzzyCompare(motion.displacement[i], value, 0.02));

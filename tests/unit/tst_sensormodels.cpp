@@ -26,8 +26,8 @@ class SensorModelsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    // The azimuth is the heading in any attitude and for any dip of the field. The z axis of the
-    // magnetometer points into the screen, that of the accelerometer out of it.
+    // The azimuth must be the heading in any attitude and for any dip of the field. The z axis of
+    // the magnetometer points into the screen, that of the accelerometer out of it.
     void azimuthIsTheHeadingInAnyAttitude()
     {
         constexpr int readings = 300'000;
@@ -76,19 +76,19 @@ private Q_SLOTS:
         };
         const Vector back{0, 0, 1000}, face{0, 0, -1000}, none{0, 0, 0};
 
-        add("right side below its threshold", {side(25.4)}, FaceUp);
-        add("right side above its threshold", {side(25.6)}, RightUp);
-        add("left side above its threshold", {side(-25.6)}, LeftUp);
-        add("top below its threshold", {top(20.4)}, FaceUp);
-        add("top above its threshold", {top(20.6)}, TopUp);
-        add("bottom above its threshold", {top(-20.6)}, TopDown);
-        add("side goes before top", {{600, 700, 100}}, RightUp);
-        add("up from the face threshold on", {face, {0, 0, 300}}, FaceUp);
-        add("down from the face threshold on", {back, {0, 0, -300}}, FaceDown);
-        add("face stays below its threshold", {face, {0, 0, 299}}, FaceDown);
-        add("back stays above its threshold", {back, {0, 0, -299}}, FaceUp);
-        add("a tilted device is not on its face", {face, {1000, 0, -400}, none}, FaceUp);
-        add("a slow tilt keeps the face", {face, {1000, 0, -200}, none}, FaceDown);
+        add("right side up too early", {side(25.4)}, FaceUp);
+        add("right side up too late", {side(25.6)}, RightUp);
+        add("left side up too late", {side(-25.6)}, LeftUp);
+        add("top up too early", {top(20.4)}, FaceUp);
+        add("top up too late", {top(20.6)}, TopUp);
+        add("top down too late", {top(-20.6)}, TopDown);
+        add("top goes before side", {{600, 700, 100}}, RightUp);
+        add("face up too late", {face, {0, 0, 300}}, FaceUp);
+        add("face down too late", {back, {0, 0, -300}}, FaceDown);
+        add("face up too early", {face, {0, 0, 299}}, FaceDown);
+        add("face down too early", {back, {0, 0, -299}}, FaceUp);
+        add("tilted device counts as on its face", {face, {1000, 0, -400}, none}, FaceUp);
+        add("slow tilt forgets the face", {face, {1000, 0, -200}, none}, FaceDown);
     }
 
     void orientation()

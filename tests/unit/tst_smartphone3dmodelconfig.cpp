@@ -40,13 +40,16 @@ private Q_SLOTS:
         QTest::addColumn<QString>("mesh");
         QTest::addColumn<QString>("texture");
         const QString anyMesh = u"meshes/any.obj"_s, anyTexture = u"textures/any.png"_s;
-        QTest::newRow("its own") << u"Phone X"_s << u"meshes/phone.obj"_s << u"textures/x.png"_s;
-        QTest::newRow("another case is another name") << u"phone x"_s << anyMesh << anyTexture;
-        QTest::newRow("another suffix is not read") << u"Backup"_s << anyMesh << anyTexture;
-        QTest::newRow("missing keys") << u"Bare"_s << u"meshes"_s << u"textures"_s;
-        QTest::newRow("a file without a name") << QString() << u"meshes/n.obj"_s << u"textures"_s;
-        QTest::newRow("broken lines") << u"Broken"_s << u"meshes/b.obj"_s << u"textures"_s;
-        QTest::newRow("characters that a URL escapes")
+        QTest::newRow("own files are ignored")
+            << u"Phone X"_s << u"meshes/phone.obj"_s << u"textures/x.png"_s;
+        QTest::newRow("case is ignored") << u"phone x"_s << anyMesh << anyTexture;
+        QTest::newRow("another suffix is read") << u"Backup"_s << anyMesh << anyTexture;
+        QTest::newRow("missing keys give no folders") << u"Bare"_s << u"meshes"_s << u"textures"_s;
+        QTest::newRow("file without a name is lost")
+            << QString() << u"meshes/n.obj"_s << u"textures"_s;
+        QTest::newRow("broken lines hide others")
+            << u"Broken"_s << u"meshes/b.obj"_s << u"textures"_s;
+        QTest::newRow("escaped characters are lost")
             << u"Odd"_s << u"meshes/a b#1%20?.obj"_s << u"textures/\u00e4.png"_s;
     }
 
@@ -68,7 +71,7 @@ private Q_SLOTS:
         config.updateSmartphone3DModel(device);
         QTEST(fileOf(config.smartphone3DModelMeshUri()), "mesh");
         QTEST(fileOf(config.smartphone3DModelTextureUri()), "texture");
-        QCOMPARE(changed.size(), 1); // also without a change
+        QCOMPARE(changed.size(), 1); // also when nothing changes
     }
 
     void noFilesAtAll()
