@@ -7,8 +7,8 @@
 
 /*!
  * \file
- * How the arguments of a call are written: one token "type:value" an argument, separated by single
- * spaces.
+ * Writes the arguments of a call. Each argument is one token "type:value"; single spaces separate
+ * the tokens.
  *
  * The emulator-side relay splits the text on spaces and converts each value to the D-Bus type that
  * its token names. Numbers are written in the C locale.
@@ -24,24 +24,24 @@ namespace EmulationManagement::Internal {
 [[nodiscard]] QString doubleArgument(double value);
 /// DOUBLE in fixed notation.
 [[nodiscard]] QString doubleArgument(double value, int decimals);
-/// STRING. \a value must not hold spaces: the relay would take the rest for another argument.
+/// STRING. \a value must not contain spaces: the relay would read the rest as another argument.
 [[nodiscard]] QString stringArgument(const QString &value);
 
 /// Several arguments of one call, in the order of the method's signature.
 [[nodiscard]] QString joinArguments(const QStringList &arguments);
 
 /*!
- * One argument of type ARRAY of ARRAY of DOUBLE, written array by array.
+ * Writes one argument of type ARRAY of ARRAY of DOUBLE, one inner array at a time.
  *
- * Numbers are separated by commas and arrays by semicolons.
+ * Commas separate numbers, and semicolons separate inner arrays.
  */
 class DoubleArraysArgument
 {
 public:
-    /// \a expectedSize is the length of the whole text in characters, an estimate.
+    /// \a expectedSize is an estimate of the length of the whole text, in characters.
     explicit DoubleArraysArgument(qsizetype expectedSize);
 
-    /// Appends an array; \a numbers are texts in the C locale.
+    /// Appends an inner array. \a numbers are texts in the C locale.
     void append(std::initializer_list<QString> numbers);
 
     [[nodiscard]] QString toString() const { return m_text; }

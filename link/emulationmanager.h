@@ -39,8 +39,8 @@ public:
     /*!
      * Sets the invoker, which must outlive this object, and listens to it.
      *
-     * Each call adds connections, even if the invoker is the same: every reply and every new
-     * connection is handled as often as an invoker was set.
+     * Each call adds connections, even if the invoker is the same: after two calls, every reply and
+     * every new connection is handled twice.
      */
     void setRdbusinvoker(RemoteDBusInvokerService *invoker);
 

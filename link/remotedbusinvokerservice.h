@@ -13,8 +13,9 @@ namespace EmulationManagement::Internal {
 /*!
  * The one link to the services inside the emulator.
  *
- * A relay inside the emulator performs D-Bus calls. Each text frame (RFC 6455) that is sent is one
- * request, each text frame that arrives is one reply. Replies carry no request identifier.
+ * A relay inside the emulator performs D-Bus calls. Each text frame (RFC 6455) that this class
+ * sends is one request, and each text frame that it receives is one reply. Replies carry no request
+ * identifier.
  *
  * Once opened, the link reconnects as long as the object lives: at once after a connection is lost,
  * then every retryInterval. The interval limits the load while the emulator is off, when each

@@ -1,4 +1,5 @@
-// The part of the plugin object that follows the emulator, prepares it and opens the window.
+// The part of EmulationManagementPlugin that follows the emulator, prepares it, opens the window,
+// and ends the streams when the window is hidden.
 
 #include "emulationmanagementplugin.h"
 
