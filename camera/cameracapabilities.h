@@ -17,8 +17,8 @@ struct CameraSource
  * The frame sizes of a camera, widest first. Empty if \a caps is null.
  *
  * Each entry is a map with "width" and "height" in pixels, "string" (640x480 for example) and
- * "framerates", see initAvailableFramerates(). Entries of \a caps whose frame rate is a list of
- * ranges, or whose size is not one positive width and height, are skipped.
+ * "framerates", see initAvailableFramerates(). Entries of \a caps are skipped if their frame rate
+ * is a list of ranges, or if their width or height is not a single positive number.
  */
 [[nodiscard]] QVariantList availableResolutions(const GstCaps *caps);
 

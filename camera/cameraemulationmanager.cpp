@@ -184,7 +184,7 @@ void CameraEmulationManager::handleUnplugged(const QString &name)
     if (cameraStreamRunning() && (name == m_cameraName || name == m_appliedCameraName))
         stopCameraStream();
     if (name == m_appliedCameraName)
-        m_appliedCameraName.clear(); // plugged in again, it may have another device path
+        m_appliedCameraName.clear(); // its device path may differ when it is plugged in again
 }
 
 void CameraEmulationManager::handleRemoved(const QString &name)

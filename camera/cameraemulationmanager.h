@@ -23,7 +23,7 @@ class QUrl;
  * GStreamer's errors are not reported: the stream then sends nothing, and streamFramesPerSecond()
  * shows it.
  *
- * CameraDiscovery says when it notices cameras that are plugged in or out.
+ * See CameraDiscovery for the condition under which plugged and unplugged cameras are noticed.
  */
 class CameraEmulationManager : public QObject
 {
@@ -90,9 +90,9 @@ public:
     /// Index of the selected size in resolutions().
     [[nodiscard]] int resolutionIndex() const { return m_resolutionIndex; }
     /*!
-     * Selects the width and height of an entry of resolutions(). Keeps the frame rate if the entry
-     * has it, otherwise selects the entry's largest one. If the index is out of range, width and
-     * height stay as well. If the entry has no frame rates, the selected one stays.
+     * Selects the width and height of an entry of resolutions(), and its largest frame rate unless
+     * it has the selected one. If the entry has no frame rates, the selected one stays. If the
+     * index is out of range, width, height and frame rate stay.
      */
     void setResolutionIndex(int index);
 
@@ -111,7 +111,8 @@ public:
 
     /// Ends any stream, then streams the camera that was applied last. If it was unplugged or its
     /// size cannot be streamed, applies the selection first. If that size cannot be streamed
-    /// either, nothing starts. Without any camera, streamRunning() gets true but nothing is sent.
+    /// either, nothing starts. Without any camera, streamRunning() becomes true but nothing is
+    /// sent.
     Q_INVOKABLE void startCameraStream();
     /// Ends a camera's stream.
     Q_INVOKABLE void stopCameraStream();
@@ -149,9 +150,9 @@ Q_SIGNALS:
     void heightChanged();
     void resolutionIndexChanged();
     void cameraNameChanged();
-    /// The video file came to its end. Emitted on a thread of GStreamer's.
+    /// The video file came to its end. Emitted on one of GStreamer's threads.
     void videoStreamStopped();
-    /// The camera's pipeline has the selected camera, size and frame rate.
+    /// The camera's pipeline now uses the selected camera, size and frame rate.
     void cameraStreamSettingsApplied();
     /// Tells whether the codec of a file that is to be played is supported. \a codecName is empty
     /// if it could not be read.
@@ -179,7 +180,7 @@ private:
     QString m_cameraName;
     VideoFilePipeline m_videoPipeline;
     CameraPipeline m_cameraPipeline;
-    QString m_appliedCameraName; // the camera and size that m_cameraPipeline has
+    QString m_appliedCameraName; // the camera and size that m_cameraPipeline uses
     QSize m_appliedSize;
     StreamPipeline *m_playing = nullptr; // streamRunning() and videoStreamRunning() derive from it
     StreamMeter m_meter;

@@ -18,5 +18,5 @@ struct VideoStream
  */
 [[nodiscard]] VideoStream firstVideoStream(const QString &path);
 
-/// Whether the emulator's camera gets files of this codec: VP8 and VP9.
+/// True for VP8 and VP9. Files of other codecs are not streamed.
 [[nodiscard]] bool isSupportedCodec(const QString &codec);

@@ -7,7 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
-// The high end of a range may be the largest integer, while cameras reach a few hundred frames/s.
+// Limits the rates that a range gives: its high end may be the largest integer, although no camera
+// exceeds a few hundred frames/s.
 static constexpr qsizetype maxRangeSize = 200;
 static constexpr qint64 rangeStep = 5;
 

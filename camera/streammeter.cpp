@@ -22,7 +22,7 @@ StreamMeter::StreamMeter(QObject *parent)
 void StreamMeter::start(StreamPipeline *pipeline)
 {
     m_pipeline = pipeline;
-    static_cast<void>(m_pipeline->takeFrameCount()); // drops those of an earlier stream
+    static_cast<void>(m_pipeline->takeFrameCount()); // drops the frames of an earlier stream
     m_measurementsWithoutFrame = 0;
     m_sinceMeasurement.start();
     m_timer.start();

@@ -19,10 +19,10 @@ public:
     void start(StreamPipeline *pipeline);
     void stop();
 
-    /// Negative while unknown, which is without a stream or before its first frame. 0 after two
-    /// seconds without a frame.
+    /// Negative while it is unknown: without a stream, and before the stream's first frame. 0 after
+    /// two seconds without a frame.
     [[nodiscard]] int framesPerSecond() const { return m_framesPerSecond; }
-    /// In pixels. Not valid while unknown.
+    /// In pixels. Invalid unless framesPerSecond() is positive.
     [[nodiscard]] QSize size() const { return m_size; }
 
 Q_SIGNALS:

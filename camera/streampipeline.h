@@ -19,7 +19,7 @@ public:
     /// The address and UDP port that pictures are sent to.
     static constexpr char host[] = "127.0.0.1";
     static constexpr int udpPort = 34343;
-    /// The largest width and height, in pixels, that RTP/JPEG has room for (RFC 2435, 3.1.5).
+    /// The largest width and height, in pixels, that RTP/JPEG can carry (RFC 2435, 3.1.5).
     static constexpr int maximumSideLength = 2040;
 
     /// Names of the pipeline and of its last elements.
@@ -41,17 +41,17 @@ public:
 
     /// The number of frames that were sent since the last call.
     [[nodiscard]] int takeFrameCount() { return m_frameCount.exchange(0); }
-    /// Width and height of the frames in pixels. Not valid before the first frame.
+    /// Width and height of the frames in pixels. Invalid before the first frame.
     [[nodiscard]] QSize frameSize() const;
 
-    /// Whether RTP/JPEG has room for this size, in pixels. True for an unknown size, -1x-1.
+    /// Whether RTP/JPEG can carry this size, in pixels. True for an unknown size, -1x-1.
     [[nodiscard]] static bool isStreamable(QSize size);
 
 protected:
     explicit StreamPipeline(const Names &names);
 
     [[nodiscard]] GstElement *pipeline() const { return m_pipeline.get(); }
-    /// Null, like udpSink(), where GStreamer lacks its good plugins.
+    /// Null if GStreamer's good plugins are not installed, and so is udpSink().
     [[nodiscard]] GstElement *jpegEncoder() const { return m_jpegEncoder.get(); }
     [[nodiscard]] GstElement *udpSink() const { return m_udpSink.get(); }
 

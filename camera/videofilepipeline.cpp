@@ -12,7 +12,8 @@ static constexpr StreamPipeline::Names names{.pipeline = "video-stream-pipeline"
                                              .jpegEncoder = "jpegencVS",
                                              .rtpPayloader = "m_rtpjpegpayVS",
                                              .udpSink = "udpsinkVS"};
-// Any film is longer. A file without pictures ends at once and would keep the processor busy.
+// A file without pictures ends at once. Replaying it without a pause would keep the processor busy.
+// Any film is longer than this.
 static constexpr std::chrono::milliseconds shortestLoop = 100ms;
 
 /// Links the first pad with pictures. Linking a pad with sound, or a second one, fails.

@@ -25,7 +25,7 @@ public:
     void restart();
 
 Q_SIGNALS:
-    /// The file came to its end. Emitted on a thread of GStreamer's, which must not call stop().
+    /// The file came to its end. Emitted on one of GStreamer's threads, which must not call stop().
     void ended();
 
 private:

@@ -9,7 +9,7 @@ class QSettings;
 namespace EmulationManagement::Internal {
 
 /*!
- * Reads the INI files of \a directory, of which each describes a device model.
+ * Reads the INI files of \a directory, each of which describes a device model.
  *
  * Returns the result of \a read for each file, by the name of the device model ("device-name"). If
  * two files name the same device model, the one listed later wins. A file without a name has the
