@@ -19,7 +19,7 @@ public:
     explicit CompassModel(QObject *parent = nullptr);
 
     QString name() const override;
-    /// The heading that the default accelerometer and magnetometer readings give.
+    /// Sets the heading that the default accelerometer and magnetometer readings give.
     void setDefaultValues();
 
     [[nodiscard]] int azimuth() const;

@@ -10,8 +10,8 @@ using namespace Qt::StringLiterals;
 
 namespace EmulationManagement::Internal {
 
-// In degrees. The side needs more tilt than the top, so that a device that is held upright and a
-// little askew stays in portrait.
+// In degrees. A device must tilt further to its side than to its top or bottom, so that one that is
+// held upright and a little askew stays in portrait.
 constexpr long sideThreshold = 25;
 constexpr long topThreshold = 21;
 constexpr double faceThreshold = 300.0; // thousandths of g

@@ -22,7 +22,7 @@ public:
     explicit OrientationModel(QObject *parent = nullptr);
 
     QString name() const override;
-    /// The orientation of a device that lies on its back.
+    /// Sets the orientation of a device that lies on its back.
     void setDefaultValues();
 
     [[nodiscard]] QOrientationReading::Orientation orientation() const;
@@ -30,8 +30,8 @@ public:
     /*!
      * Derives the orientation from the acceleration \a x, \a y, \a z in thousandths of g.
      *
-     * While the device is neither tilted nor clearly on its back or its face (|z| below 300), it
-     * stays on the one that it was on last.
+     * A device that is not tilted lies on its back or its face. If |z| is below 300, which is too
+     * little to tell which, it keeps the last of the two.
      */
     void setOrientation(double x, double y, double z);
 

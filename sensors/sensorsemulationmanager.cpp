@@ -12,9 +12,9 @@ using namespace Qt::StringLiterals;
 
 namespace EmulationManagement::Internal {
 
-// The horizontal flux density of the readings that give an azimuth, in tesla.
+// The horizontal flux density, in tesla, of the reading that setCompassAzimuth() sets.
 constexpr double azimuthFluxDensity = 4.358898943540674e-05;
-// The accelerations that give an orientation, in thousandths of g.
+// The accelerations that setOrientation() sets, in thousandths of g.
 constexpr int tiltedAcceleration = 100;
 constexpr int facingAcceleration = 300;
 
@@ -50,7 +50,7 @@ SensorsEmulationManager::SensorsEmulationManager(QObject *parent)
     connect(this, &EmulationManager::emulatorConnected, this,
             &SensorsEmulationManager::setupSensors);
     connect(this, &EmulationManager::rdbusinvokerChanged, this, [this] {
-        // the values outlive a later crash of the IDE
+        // Save the values now, so that they survive a later crash of the IDE.
         connect(rdbusinvoker(), &RemoteDBusInvokerService::webSocketDisconnected, this,
                 &SensorsEmulationManager::saveCurrentSensorsValues, Qt::UniqueConnection);
     });
@@ -416,7 +416,7 @@ void SensorsEmulationManager::setupSensors()
             checkSensorState(name);
         m_sensorsSetUp = true;
     }
-    saveCurrentSensorsValues(); // values that were set without an emulator are restored, too
+    saveCurrentSensorsValues(); // so that values that were set without an emulator are restored
     restoreSensorsValues();
     Q_EMIT sensorsInitialized();
 }
@@ -445,7 +445,7 @@ void SensorsEmulationManager::readSensorsValues()
 
 void SensorsEmulationManager::restoreSensorsValues()
 {
-    // another IDE may have saved other values since this one started
+    // Another IDE may have saved other values since this one started.
     readSensorsValues();
     setAccelerometerValues(m_accelerometer->x(), m_accelerometer->y(), m_accelerometer->z());
     setMagnetometerValues(m_magnetometer->x(), m_magnetometer->y(), m_magnetometer->z());
@@ -453,7 +453,7 @@ void SensorsEmulationManager::restoreSensorsValues()
     setGyroscopeValues(m_gyroscope->x(), m_gyroscope->y(), m_gyroscope->z());
     setAlsLuxValue(m_als->lux());
     setProximitySensorReflectanceValue(m_proximity->reflectance());
-    // a saved number that is no direction was not read and is not sent
+    // readSensorsValues() ignores a saved number that is not a direction: do not send it either.
     if (TapModel::isTapDirection(m_settings.readTapSensorValue()))
         setTapSensorValue(m_tap->tapDirection());
 }

@@ -32,7 +32,8 @@ namespace EmulationManagement::Internal {
  * changed since they were last read or written.
  *
  * Two maps by sensor name tell which sensors the device has (availability) and which are switched
- * on in the emulator (enabled states). The magnetic field is in neither: it stays on the host.
+ * on in the emulator (enabled states). Neither map has the magnetic field, because it is never sent
+ * to the emulator.
  */
 class SensorsEmulationManager : public EmulationManager
 {
@@ -161,7 +162,7 @@ private:
     QMap<QString, QVariant> m_sensorsAvailability;
     bool m_sensorsSetUp = false; // the emulator was asked for its states once
     QSet<QString> m_switchedOffByUser;
-    QVariantList m_savedSensorsValues; // when they were last read or saved
+    QVariantList m_savedSensorsValues; // as they were last read or saved
 };
 
 } // namespace EmulationManagement::Internal

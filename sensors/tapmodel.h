@@ -16,7 +16,8 @@ class TapModel : public SensorModel
                    WRITE setTapDirection NOTIFY tapDirectionChanged)
 
 public:
-    /// The numbers of the emulator's sensor service. Among the single directions, z is before y.
+    /// The emulator's sensor service defines these numbers. Its single directions of z come before
+    /// those of y.
     enum TapDirection {
         Undefined = -1,
         X_Both = 0,
