@@ -63,7 +63,7 @@ void HostSdk::removeEmulator(int index)
     machine->shutDown();
     if (isIdle(*machine))
         emulator->deleteLater();
-    else // its next state is its end
+    else // the machine is stopping: its next state is Disconnected
         connect(machine, &VirtualMachine::stateChanged, emulator, &QObject::deleteLater);
 }
 

@@ -11,8 +11,8 @@ class LocalEmulator;
 
 /// The SDK for its owner: manages the emulators and the device models of a settings file.
 ///
-/// All its other files are in the folder "emulators" beside that file. It writes every change to
-/// the file at once.
+/// The SDK's other files are in the folder "emulators" beside the settings file. Every change is
+/// written to the settings file at once.
 class RAVIK_EXPORT HostSdk final : public Sdk
 {
     Q_OBJECT
@@ -56,7 +56,7 @@ private:
     void save() const;
 
     const QString m_settingsFile;
-    SdkSettings m_settings; // its emulators are those before listEmulators()
+    SdkSettings m_settings; // has the emulators only until listEmulators() takes them
     QList<Internal::LocalEmulator *> m_emulators; // children
     bool m_shuttingDown = false;
 };

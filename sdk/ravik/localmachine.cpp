@@ -133,7 +133,7 @@ void LocalMachine::connectTo(ConnectOptions, const QObject *context, Callback ca
         return;
     }
     m_waiting.append({context, std::move(callback)});
-    // handleFinished() starts a machine again that is being stopped.
+    // If the machine is being stopped, handleFinished() starts it again.
     if (m_off && m_state != Starting)
         start();
 }

@@ -16,7 +16,7 @@ struct EmulatorSettings
     QStringList packages = {};        // empty: the emulator's own list
     QStringList withoutPackages = {}; // removed from either list
 
-    /// The name of the emulator's folder, made from its name. No two emulators have the same.
+    /// The name of the emulator's folder, made from its name. No two are the same.
     [[nodiscard]] QString folderName() const;
 };
 
@@ -38,7 +38,7 @@ struct SdkSettings
     HostSettings host;
     QStringList deviceModels; // never empty
     QList<EmulatorSettings> emulators;
-    bool hasDefaults = false; // a list was missing in the file
+    bool hasDefaults = false; // the file lacked a list and got its defaults
 
     static SdkSettings load(const QString &fileName);
     void save(const QString &fileName) const;

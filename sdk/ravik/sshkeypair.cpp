@@ -41,7 +41,7 @@ void SshKeyPair::ensure()
         Q_EMIT ready();
         return;
     }
-    // ssh-keygen asks before it replaces a file. One file of a pair is useless without the other.
+    // A private key without its public key is useless. ssh-keygen would ask before it replaces it.
     QFile::remove(privateKeyFile());
     QDir().mkpath(QFileInfo(privateKeyFile()).path());
     m_generator.start(u"ssh-keygen"_s, {u"-q"_s, u"-t"_s, u"ed25519"_s, u"-N"_s, QString(), u"-C"_s,

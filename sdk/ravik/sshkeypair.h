@@ -5,7 +5,7 @@
 
 namespace Ravik::Internal {
 
-/// The key that the SDK logs in to its emulators with.
+/// The pair of keys with which the SDK logs in to its emulators.
 class SshKeyPair : public QObject
 {
     Q_OBJECT
@@ -17,9 +17,9 @@ public:
     [[nodiscard]] QString privateKeyFile() const;
     [[nodiscard]] QString publicKeyFile() const;
 
-    /// Makes the pair unless it exists; ready() or failed() follows, possibly at once.
+    /// Makes the pair unless it exists. ready() or failed() follows, possibly before this returns.
     void ensure();
-    /// Stops making it: neither signal follows.
+    /// Stops making the pair. Neither signal follows.
     void cancel();
 
 Q_SIGNALS:

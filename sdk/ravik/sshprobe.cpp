@@ -13,7 +13,7 @@ static constexpr auto timeLimit = 30s;
 
 SshProbe::SshProbe()
 {
-    // The IDE may use the system's proxy for all sockets.
+    // Connect directly: the IDE may use the system's proxy for all sockets.
     m_socket.setProxy(QNetworkProxy::NoProxy);
     m_pollTimer.setInterval(pollInterval);
     connect(&m_pollTimer, &QTimer::timeout, this, &SshProbe::poll);

@@ -12,7 +12,7 @@ namespace QSsh {
 static constexpr qint64 maxOutputSize = 16 << 20;
 static constexpr qsizetype maxErrorSize = 4096;
 // Seconds of silence after which the client asks the server for an answer. The client gives up
-// after three questions without one.
+// after three unanswered questions.
 static constexpr int aliveInterval = 5;
 
 // The client's own exit code when it could not log in or lost the connection.
@@ -40,7 +40,7 @@ static QStringList clientArguments(const QString &command,
     if (!parameters.knownHostsFile.isEmpty())
         options << fileNameOption(u"UserKnownHostsFile"_s, parameters.knownHostsFile);
 
-    // The user's own configuration could send the connection elsewhere.
+    // Ignore the user's own configuration: it could send the connection elsewhere.
     QStringList arguments{u"-F"_s, u"none"_s};
     for (const QString &option : std::as_const(options))
         arguments << u"-o"_s << option;

@@ -41,7 +41,7 @@ public:
     ~VirtualMachine() override;
 
     /// True unless the machine runs. The arguments, which may be null, receive whether it runs
-    /// without a window and whether somebody else than the SDK started it.
+    /// without a window and whether someone other than the SDK started it.
     virtual bool isOff(bool *runningHeadless, bool *startedOutside) const = 0;
     [[nodiscard]] virtual State state() const = 0;
     /// Why the last start failed or the machine ended by itself; empty otherwise.

@@ -21,9 +21,9 @@ public:
     explicit SshRemoteProcessRunner(QObject *parent = nullptr);
     ~SshRemoteProcessRunner() override;
 
-    /// Runs \a command in the remote user's shell. A command that still runs is ended without a
-    /// signal. processClosed() is always emitted later, from the event loop, also for a command
-    /// that writes too much and for a server that falls silent.
+    /// Runs \a command in the remote user's shell. An earlier command that still runs is ended
+    /// without a signal. processClosed() is always emitted later, from the event loop, even if the
+    /// command writes too much or the server falls silent.
     void run(const QString &command, const SshConnectionParameters &parameters);
 
     /// The command of the last run().
@@ -42,7 +42,7 @@ private:
 
     QString m_command;
     QByteArray m_errorText; // only the beginning is kept
-    QProcess *m_process = nullptr; // a child, of the last run()
+    QProcess *m_process = nullptr; // of the last run(), a child of this object
 };
 
 } // namespace QSsh
