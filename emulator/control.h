@@ -15,10 +15,11 @@ class Relay;
 ///
 ///     relay close                    drop the relay's connections and stop listening
 ///     relay open                     listen again
-///     relay delay MILLISECONDS       send every reply later by this time
+///     relay delay MILLISECONDS       delay every reply by this time
 ///     relay answer TEXT              send TEXT instead of the next reply
 ///     relay repeat TIMES TEXT        send TEXT, repeated TIMES times, instead of the next reply
-///     fail METHOD ERRORNAME TEXT     answer METHOD with this error; METHOD alone ends that
+///     fail METHOD ERRORNAME TEXT     answer METHOD with this error instead of calling it
+///     fail METHOD                    call METHOD again
 ///     service with|without NAME      put a service on the D-Bus or take it off
 ///     package with|without NAME      add or remove a package
 ///     freeze MILLISECONDS            block for this time: no part answers, SSH included

@@ -10,7 +10,8 @@ namespace NimbraEmulator {
 
 using namespace Qt::StringLiterals;
 
-// Qt answers calls within one connection by itself, so the relay and the services have one each.
+// Qt handles calls within one connection without the bus, so the relay and the services have a
+// connection each.
 static constexpr auto serviceConnection = "services"_L1;
 static constexpr auto relayConnection = "relay"_L1;
 
@@ -90,7 +91,7 @@ void Emulator::startControl()
                                           m_journal);
     if (m_control->listen(QDir(m_options.data).filePath(u"control"_s)))
         return;
-    // The path of a socket is limited to 108 bytes. The emulator works without this socket.
+    // The path may exceed a socket's limit of 108 bytes. The emulator works without this socket.
     m_journal.write("fault"_L1,
                     {{u"request"_s, u"control is off: %1"_s.arg(m_control->errorString())}});
 }

@@ -17,6 +17,9 @@ namespace NimbraEmulator {
 
 /// The whole emulator: makes its parts, starts them in order and ends them in reverse order. The
 /// journal begins with the constructor and ends with the destructor.
+///
+/// A call from the host takes this way: TcpForwarder, Relay, RelayClient, SystemBus, and then the
+/// slot of SensorService or LocationService that has the name of the called method.
 class Emulator : public QObject
 {
     Q_OBJECT

@@ -5,8 +5,8 @@
 
 namespace NimbraEmulator {
 
-/// The record of the emulator's actions on standard output: one compact JSON object a line, in the
-/// order of the events, each line flushed at once.
+/// Writes the record of the emulator's actions to standard output: each line is one compact JSON
+/// object, the lines have the order of the events, and each is flushed at once.
 class JournalWriter
 {
 public:

@@ -14,7 +14,7 @@ namespace NimbraEmulator {
 class JournalWriter;
 class RelayClient;
 
-/// Faults of the relay that were requested.
+/// The faults that were requested of the relay, see Control.
 struct RelayFaults
 {
     struct Failure
@@ -25,7 +25,7 @@ struct RelayFaults
 
     std::chrono::milliseconds delay{0}; ///< before each reply is sent
     std::optional<QString> answer;      ///< sent once, instead of the next reply
-    QHash<QString, Failure> failures;   ///< by method, which is not called then
+    QHash<QString, Failure> failures;   ///< by the names of the methods, which are not called
 };
 
 /// Connects the host to the emulator's system bus: a WebSocket server that receives request lines
@@ -41,7 +41,7 @@ public:
           QObject *parent = nullptr);
     ~Relay() override;
 
-    /// Listens; true also when it already does. On failure puts one sentence into \a error.
+    /// Starts to listen unless it already listens. On failure puts one sentence into \a error.
     [[nodiscard]] bool open(QString *error);
 
     /// Drops all connections and stops listening.

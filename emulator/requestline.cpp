@@ -9,8 +9,8 @@ namespace NimbraEmulator {
 
 using namespace Qt::StringLiterals;
 
-static constexpr qsizetype maxNameLength = 255;         // of the D-Bus protocol
-static constexpr qsizetype maxArrayBytes = 64 << 20;    // of the D-Bus protocol
+static constexpr qsizetype maxNameLength = 255;         // limit of the D-Bus protocol
+static constexpr qsizetype maxArrayBytes = 64 << 20;    // limit of the D-Bus protocol
 static constexpr QStringView arrayType = u"array:array:double:";
 
 static bool isFullMatch(const QString &text, const QRegularExpression &pattern)
@@ -138,7 +138,7 @@ static Request invalid(const QString &error)
 
 Request parseRequest(const QString &line)
 {
-    constexpr int nameCount = 5; // without arguments, the last space is optional
+    constexpr int nameCount = 5; // the space after the fifth may be missing without arguments
     QStringList names;
     QStringView rest = line;
     while (names.size() < nameCount && !rest.isNull()) {

@@ -27,8 +27,8 @@ struct Request
 /// Parses a request line. Sets only `error` if it is invalid. D-Bus can carry every valid request.
 [[nodiscard]] Request parseRequest(const QString &line);
 
-/// The reply to \a request: five fields separated by ":". Nothing is escaped: a ":" in a text makes
-/// more fields.
+/// The reply to \a request: five fields separated by ":". Nothing is escaped, so each ":" in a text
+/// adds a field.
 [[nodiscard]] QString replyLine(const Request &request, const QString &returned,
                                 const QString &errorName = {}, const QString &errorText = {});
 

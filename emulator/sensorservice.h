@@ -6,7 +6,7 @@
 
 namespace NimbraEmulator {
 
-/// The readings that the sensors were given.
+/// The readings that were set last.
 struct SensorReadings
 {
     template<typename Number>
@@ -19,7 +19,7 @@ struct SensorReadings
 
     Vector<int> accelerometer; ///< mG
     int als = 0;               ///< lux
-    Vector<double> gyroscope;
+    Vector<double> gyroscope;    ///< degrees per second
     Vector<double> magnetometer; ///< T
     int magnetometerCalibrationLevel = 0;
     int proximity = 0; ///< reflectance

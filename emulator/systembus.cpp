@@ -7,7 +7,8 @@ namespace NimbraEmulator {
 
 using namespace Qt::StringLiterals;
 
-// A track of many thousand points is one message, so messages may have the protocol's 128 MiB.
+// A track of many thousand points is one message, so messages may be as long as the protocol
+// allows: 128 MiB.
 static constexpr auto configuration = R"(<!DOCTYPE busconfig PUBLIC
  "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
  "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">

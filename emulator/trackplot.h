@@ -34,7 +34,7 @@ private:
     QPointF m_centre;     // longitude and latitude, in degrees
     QSizeF m_extent;      // of the track in degrees of latitude
     double m_shrink = 1;  // length of a degree of longitude here, in degrees of latitude
-    QPixmap m_track;      // drawn once, because it may have many thousand points
+    QPixmap m_track;      // kept, because drawing many thousand points takes long
 };
 
 } // namespace NimbraEmulator
