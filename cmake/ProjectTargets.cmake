@@ -1,4 +1,4 @@
-# The options of all targets of the project.
+# The options of all targets of the project, and add_ide_plugin(), which adds a plugin of the IDE.
 
 option(WARNINGS_AS_ERRORS "Treat warnings of the project's own code as errors" OFF)
 set(SANITIZE "" CACHE STRING "Sanitizers to build everything with, for example address,undefined")
@@ -53,7 +53,7 @@ function(add_ide_plugin target)
     target_link_libraries(${target} PRIVATE
         ${arg_LIBRARIES} QtCreator::Core QtCreator::ExtensionSystem QtCreator::Utils
         ide_options)
-    # moc reads the metadata file, a dependency that CMake does not see by itself
+    # CMake does not see by itself that moc reads the metadata file.
     set_property(TARGET ${target} APPEND PROPERTY AUTOMOC_DEPEND_FILTERS
         "Q_PLUGIN_METADATA" "FILE *\"([^\"]+)\"")
     set_target_properties(${target} PROPERTIES
