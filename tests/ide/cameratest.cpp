@@ -13,20 +13,6 @@ static QObject *manager()
     return contextObject("cameraEmulationManager");
 }
 
-static void plug(VirtualCameras *cameras, const QByteArray &name)
-{
-    cameras->set({name + "|device=/dev/a|video/x-raw,width=64,height=48,framerate=30/1"});
-    waitFor("the camera", [] { return !manager()->property("cameras").toList().isEmpty(); });
-}
-
-void CameraTest::testPlugging()
-{
-    VirtualCameras cameras;
-    plug(&cameras, "Camera");
-    cameras.set({});
-    waitFor("the camera to go", [] { return manager()->property("cameras").toList().isEmpty(); });
-}
-
 void CameraTest::testEndOfStream()
 {
     JournalReader journal(journalPath());
@@ -45,11 +31,14 @@ void CameraTest::testEndOfStream()
 
     chooseAction();
     VirtualCameras cameras;
-    plug(&cameras, "Later");
+    cameras.set({"Later|device=/dev/a|video/x-raw,width=64,height=48,framerate=30/1"});
+    waitFor("the camera", [] { return !manager()->property("cameras").toList().isEmpty(); });
     manager()->setProperty("cameraName", "Later");
     startStream("startCameraStream");
     stopMachine();
     QVERIFY(!manager()->property("streamRunning").toBool());
+    cameras.set({});
+    waitFor("the camera to go", [] { return manager()->property("cameras").toList().isEmpty(); });
 }
 
 void CameraTest::cleanupTestCase()

@@ -8,7 +8,6 @@ class CameraTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void testPlugging();
     void testEndOfStream();
     void cleanupTestCase();
 };

@@ -121,8 +121,7 @@ void ConnectionTest::testMissingPackages()
 
     control("package with geoclue-emulator");
     control("package with gstreamer-emulator");
-    chooseAction();
-    waitFor("the window", [] { return view()->isVisible(); });
+    showWindow();
     QCOMPARE(answers.boxes().size(), 1);
 }
 
@@ -215,8 +214,7 @@ void ConnectionTest::testOpeningInProgress()
     QVERIFY(!view()->isVisible());
 
     finished.clear();
-    chooseAction();
-    waitFor("the window", [] { return view()->isVisible(); });
+    showWindow();
     waitFor("the progress to end", [&] { return !finished.isEmpty(); });
     emulatorJournal.waitForEvent("relay-connected", start);
     QCOMPARE(answers.boxes().size(), 1);
@@ -228,8 +226,7 @@ void ConnectionTest::testMachineJustStarted()
     machine()->connectTo({}, this, [](bool) {});
     waitFor("the process", [] { return !machine()->isOff(nullptr, nullptr); });
     QVERIFY(machine()->state() != Ravik::VirtualMachine::Connected);
-    chooseAction();
-    waitFor("the window", [] { return view()->isVisible(); });
+    showWindow();
     QCOMPARE(answers.boxes().size(), 0);
 }
 
@@ -242,8 +239,7 @@ void ConnectionTest::testMessageLeftOpen()
     waitFor("the message", [] { return QApplication::activeModalWidget(); });
     const QPointer<QWidget> box = QApplication::activeModalWidget();
     control("package with geoclue-emulator");
-    chooseAction();
-    waitFor("the window", [] { return view()->isVisible(); });
+    showWindow();
 
     Core::ICore::mainWindow()->activateWindow();
     box->close();
@@ -282,8 +278,7 @@ void ConnectionTest::testNextEmulatorServed()
     const MessageBoxAnswers answers(QMessageBox::Ok);
     QCOMPARE(sensorsManager()->property("sensorsAvailability").toMap().keys(false),
              (QStringList{"proximity", "tap"}));
-    chooseAction();
-    waitFor("the window", [] { return view()->isVisible(); });
+    showWindow();
     QCOMPARE(answers.boxes().size(), 0);
 }
 

@@ -4,23 +4,10 @@
 
 #include <messageboxanswers.h>
 
-#include <QQmlComponent>
-#include <QQmlEngine>
 #include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-
-static std::unique_ptr<QObject> createDialog(const QByteArray &properties)
-{
-    QQmlComponent component(PluginDriver::view()->engine());
-    component.setData(
-        "import QtQuick.Dialogs\nimport org.plova 1.0\nWarningDialog {" + properties + "}", {});
-    std::unique_ptr<QObject> dialog(component.create());
-    if (!dialog)
-        qFatal("%s", qPrintable(component.errorString()));
-    return dialog;
-}
 
 void DialogsTest::testWarningDialog_data()
 {
@@ -42,7 +29,7 @@ void DialogsTest::testWarningDialog()
 {
     QFETCH(QByteArray, properties);
     QFETCH(QMessageBox::StandardButton, answer);
-    const std::unique_ptr<QObject> dialog = createDialog("text: 'Really?'; " + properties);
+    const auto dialog = PluginDriver::createWarningDialog("text: 'Really?'; " + properties);
     QSignalSpy acceptedSpy(dialog.get(), SIGNAL(accepted(bool)));
     QSignalSpy rejectedSpy(dialog.get(), SIGNAL(rejected()));
     const MessageBoxAnswers answers(answer, true);

@@ -10,14 +10,11 @@
 
 #include <QAccessible>
 #include <QAction>
-#include <QQmlComponent>
 #include <QQmlListReference>
 #include <QQuickItem>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTest>
-
-#include <memory>
 
 static QString language()
 {
@@ -80,11 +77,8 @@ void LanguageTest::testEveryTextIsTranslated()
         if (const auto *accessible = QAccessible::queryAccessibleInterface(object))
             texts << accessible->text(QAccessible::Name);
     }
-    QQmlComponent component(PluginDriver::view()->engine());
-    component.setData("import QtQuick.Dialogs\nimport org.plova 1.0\nWarningDialog {"
-                      "standardButtons: MessageDialog.Apply | MessageDialog.Discard }",
-                      {});
-    const std::unique_ptr<QObject> question(component.create());
+    const auto question = PluginDriver::createWarningDialog(
+        "standardButtons: MessageDialog.Apply | MessageDialog.Discard");
     const MessageBoxAnswers answers(QMessageBox::Discard);
     QMetaObject::invokeMethod(question.get(), "show");
     texts << answers.boxes().constFirst().buttonTexts;

@@ -13,6 +13,7 @@
 #include <QAction>
 #include <QGuiApplication>
 #include <QLocalSocket>
+#include <QQmlComponent>
 #include <QQmlContext>
 #include <QQmlListReference>
 #include <QQuickItem>
@@ -77,6 +78,17 @@ QObject *trackPlayer()
     return *player;
 }
 
+std::unique_ptr<QObject> createWarningDialog(const QByteArray &properties)
+{
+    QQmlComponent component(view()->engine());
+    component.setData(
+        "import QtQuick.Dialogs\nimport org.plova 1.0\nWarningDialog {" + properties + "}", {});
+    std::unique_ptr<QObject> dialog(component.create());
+    if (!dialog)
+        qFatal("%s", qPrintable(component.errorString()));
+    return dialog;
+}
+
 void chooseAction()
 {
     Core::ActionManager::command("EmulationManagement.ShowEmulationManagementView.Action")
@@ -98,6 +110,12 @@ Ravik::Emulator *emulator()
 Ravik::VirtualMachine *machine()
 {
     return emulator()->virtualMachine();
+}
+
+void showWindow()
+{
+    chooseAction();
+    waitFor(u"the window"_s, [] { return view()->isVisible(); });
 }
 
 void openWindow(JournalReader &journal)

@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QQuickView>
 
+#include <memory>
+
 namespace Ravik {
 class Emulator;
 class HostSdk;
@@ -28,6 +30,9 @@ QObject *errorDialog();
 QObject *gpsPage();
 QObject *trackPlayer();
 
+/// Creates a question as the pages do. \a properties is QML text.
+std::unique_ptr<QObject> createWarningDialog(const QByteArray &properties);
+
 /// Triggers the menu's action "Emulation Management…".
 void chooseAction();
 
@@ -35,7 +40,9 @@ Ravik::HostSdk *sdk();
 /// The emulator that the plugin serves; waits until the SDK has listed it.
 Ravik::Emulator *emulator();
 Ravik::VirtualMachine *machine();
-/// Opens the window with the emulator and waits until the two are connected.
+/// Chooses the action and waits for the window.
+void showWindow();
+/// Shows the window and waits until it is connected to the emulator and has set it up.
 void openWindow(JournalReader &journal);
 /// Starts the machine without the plugin and waits until it can be reached.
 void startMachine();
