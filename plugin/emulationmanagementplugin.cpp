@@ -163,6 +163,12 @@ void EmulationManagementPlugin::setupView()
             &EmulationManagementPlugin::prepareShutdown);
 }
 
+void EmulationManagementPlugin::handleViewHidden()
+{
+    m_cameraEmulationManager.stopStreams();
+    m_sensorsEmulationManager.saveCurrentSensorsValues();
+}
+
 void EmulationManagementPlugin::setupMenu()
 {
     auto *action = new QAction(tr("Emulation Management…"), this);

@@ -1,5 +1,4 @@
-// The part of EmulationManagementPlugin that follows the emulator, prepares it, opens the window,
-// and ends the streams when the window is hidden.
+// The part of EmulationManagementPlugin that follows the emulator, prepares it and opens the window.
 
 #include "emulationmanagementplugin.h"
 
@@ -151,12 +150,6 @@ void EmulationManagementPlugin::openView()
     if (!m_emulationManagementView.isVisible())
         m_cameraEmulationManager.setupCameraStreamPipeline();
     m_emulationManagementView.bringToFront();
-}
-
-void EmulationManagementPlugin::handleViewHidden()
-{
-    m_cameraEmulationManager.stopStreams();
-    m_sensorsEmulationManager.saveCurrentSensorsValues();
 }
 
 bool EmulationManagementPlugin::setUpPortForwarding()

@@ -1,5 +1,5 @@
 #include <camera/cameraemulationmanager.h>
-#include <journal.h>
+#include <journalwriter.h>
 #include <videoreceiver.h>
 #include <virtualcameras.h>
 
@@ -28,7 +28,7 @@ class CameraStreamingTest : public QObject
     Q_OBJECT
 
     VirtualCameras m_cameras;
-    NimbraEmulator::Journal m_journal;
+    NimbraEmulator::JournalWriter m_journal;
     NimbraEmulator::VideoReceiver m_receiver{m_journal};
 
     // Skips the frames that were on their way when the stream changed.

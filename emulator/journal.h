@@ -1,9 +1,0 @@
-#pragma once
-
-#include "journalwriter.h"
-
-namespace NimbraEmulator {
-
-using Journal = JournalWriter;
-
-} // namespace NimbraEmulator
