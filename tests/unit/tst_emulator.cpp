@@ -14,47 +14,61 @@ using namespace EmulationManagement::Internal;
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-// Rows in this order: a request > its reply up to the error's name. S and L are the addresses of
-// the sensor and the location service, ERROR the prefix of their errors, DBUS that of D-Bus's
-// errors, INVALID the relay's reply to an invalid request.
-static constexpr const char *requests[] = {
-    "S disableSensor string:als > disableSensor:als::",
-    "S enabled string:als > enabled:als:0:",
-    "S enableSensor string:als > enableSensor:als::",
-    "S enabled string:als > enabled:als:1:",
-    "S enabled string:sonar > enabled:sonar::ERROR.UnknownSensor",
-    "S setAccelerometerValues int32:10 int32:-3 int32:981 > setAccelerometerValues:10|-3|981::",
-    "S setGyroscopeX double:1.50e-07 > setGyroscopeX:1.50e-07::", // the reply repeats the text
-    "S explode  > explode:::DBUS.UnknownMethod",
-    "S setTapSensorValue double:-1 > setTapSensorValue:-1::DBUS.UnknownMethod",
-    "L pauseTrack > pauseTrack:::", // the last space is optional
-    "L goToPositionOnTrack int32:0 > goToPositionOnTrack:0::ERROR.IndexOutOfRange",
-    "L loadTrack array:array:double:60.0,30,12.50,0;1,2,3,4 > loadTrack:60.0,30,12.50,0;1,2,3,4::",
-    "L loadTrack array:array:double:1,2,3;1,2,3,4 > loadTrack:1,2,3;1,2,3,4::ERROR.InvalidTrack",
-    "system org.nobody / org.nobody x  > x:::DBUS.ServiceUnknown",
-    " > INVALID",
-    "system a.b / a.b > INVALID",
-    "session a.b / a.b x  > INVALID",
-    "system a.b x a.b x  > INVALID", // D-Bus would close the relay's connection
-    "S set-x  > INVALID",
-    "S enabled  string:als > INVALID",
-    "S enabled float:1 > INVALID",
-    "S setAlsValue int32:2147483648 > INVALID",
-    "L setAltitude double:nan > INVALID",
-    "L setTrackLooped boolean:2 > INVALID",
-    "L loadTrack array:array:double:1,2,3,4; > INVALID",
+// S and L are the addresses of the sensor and the location service, ERROR the prefix of their
+// errors, DBUS that of D-Bus's errors, INVALID the relay's reply to an invalid request. The order
+// matters.
+struct Exchange
+{
+    const char *fault;
+    const char *request;
+    const char *reply; // up to the error's name
 };
 
-static QString expanded(const char *row)
+static constexpr Exchange exchanges[] = {
+    {"off is lost", "S disableSensor string:als", "disableSensor:als::"},
+    {"off is not told", "S enabled string:als", "enabled:als:0:"},
+    {"on is lost", "S enableSensor string:als", "enableSensor:als::"},
+    {"on is not told", "S enabled string:als", "enabled:als:1:"},
+    {"unknown sensor taken", "S enabled string:sonar", "enabled:sonar::ERROR.UnknownSensor"},
+    {"arguments not joined by bars", "S setAccelerometerValues int32:10 int32:-3 int32:981",
+     "setAccelerometerValues:10|-3|981::"},
+    {"number not repeated as it came", "S setGyroscopeX double:1.50e-07",
+     "setGyroscopeX:1.50e-07::"},
+    {"unknown method taken", "S explode ", "explode:::DBUS.UnknownMethod"},
+    {"wrong type taken", "S setTapSensorValue double:-1",
+     "setTapSensorValue:-1::DBUS.UnknownMethod"},
+    {"last space required", "L pauseTrack", "pauseTrack:::"},
+    {"index not checked", "L goToPositionOnTrack int32:0",
+     "goToPositionOnTrack:0::ERROR.IndexOutOfRange"},
+    {"track lost", "L loadTrack array:array:double:60.0,30,12.50,0;1,2,3,4",
+     "loadTrack:60.0,30,12.50,0;1,2,3,4::"},
+    {"point of three numbers taken", "L loadTrack array:array:double:1,2,3;1,2,3,4",
+     "loadTrack:1,2,3;1,2,3,4::ERROR.InvalidTrack"},
+    {"unknown service taken", "system org.nobody / org.nobody x ", "x:::DBUS.ServiceUnknown"},
+    {"empty request passed on", "", "INVALID"},
+    {"request without a method passed on", "system a.b / a.b", "INVALID"},
+    {"other bus taken", "session a.b / a.b x ", "INVALID"},
+    {"bad path ends the connection to D-Bus", "system a.b x a.b x ", "INVALID"},
+    {"bad method name passed on", "S set-x ", "INVALID"},
+    {"two spaces taken", "S enabled  string:als", "INVALID"},
+    {"unknown type taken", "S enabled float:1", "INVALID"},
+    {"integer overflows", "S setAlsValue int32:2147483648", "INVALID"},
+    {"NaN passed on", "L setAltitude double:nan", "INVALID"},
+    {"flag of 2 taken", "L setTrackLooped boolean:2", "INVALID"},
+    {"empty point taken", "L loadTrack array:array:double:1,2,3,4;", "INVALID"},
+};
+
+/// \a text in full. ERROR is that of the service \a letter.
+static QString expanded(const char *text, char letter = 'S')
 {
-    const QString service = row[0] == 'S' ? u"org.vexa.SensorfwEmulationManagement"_s
+    const QString service = letter == 'S' ? u"org.vexa.SensorfwEmulationManagement"_s
                                           : u"org.vexa.GeoclueEmulationManagement"_s;
-    QString text = QString::fromLatin1(row);
-    if (text.startsWith(u"S ") || text.startsWith(u"L ")) {
+    QString line = QString::fromLatin1(text);
+    if (line.startsWith(u"S ") || line.startsWith(u"L ")) {
         const QString path = QString(service).replace(u'.', u'/');
-        text.replace(0, 1, u"system %1 /%2 %1"_s.arg(service, path));
+        line.replace(0, 1, u"system %1 /%2 %1"_s.arg(service, path));
     }
-    return text.replace(u"ERROR"_s, QString(service + u".Error"_s))
+    return line.replace(u"ERROR"_s, QString(service + u".Error"_s))
         .replace(u"DBUS"_s, u"org.freedesktop.DBus.Error"_s)
         .replace(u"INVALID"_s, u":::org.vexa.RemoteDBusInvoker.Error.InvalidRequest"_s);
 }
@@ -100,16 +114,19 @@ private Q_SLOTS:
 
     void reply_data()
     {
-        QTest::addColumn<QStringList>("row");
-        for (const char *row : requests)
-            QTest::newRow(row) << expanded(row).split(u" > "_s);
+        QTest::addColumn<QString>("request");
+        QTest::addColumn<QString>("expected");
+        for (const Exchange &row : exchanges) {
+            QTest::newRow(row.fault)
+                << expanded(row.request, row.request[0]) << expanded(row.reply, row.request[0]);
+        }
     }
 
     void reply()
     {
-        QFETCH(const QStringList, row);
-        const QStringList fields = ask(row.at(0)).split(u':');
-        QCOMPARE(fields.first(4).join(u':'), row.at(1));
+        QFETCH(const QString, request);
+        const QStringList fields = ask(request).split(u':');
+        QTEST(fields.first(4).join(u':'), "expected");
         QCOMPARE(fields.at(3).isEmpty(), fields.mid(4).join(u':').isEmpty()); // an error has a text
     }
 
