@@ -34,11 +34,11 @@ private Q_SLOTS:
     void requestIsOneFrame_data()
     {
         QTest::addColumn<QString>("arguments");
-        QTest::newRow("tokens") << u"int32:10 int32:-3 int32:981"_s;
-        QTest::newRow("the space before no arguments is kept") << QString();
-        QTest::newRow("placeholders in a value are not filled") << u"string:%1%2%6%L1"_s;
-        QTest::newRow("text beyond Latin 1") << u"string:Приёмник"_s;
-        QTest::newRow("longer than a frame of the socket") << QString(2'000'000, u'7');
+        QTest::newRow("fields in another order") << u"int32:10 int32:-3 int32:981"_s;
+        QTest::newRow("the space before no arguments lost") << QString();
+        QTest::newRow("placeholders in a value filled") << u"string:%1%2%6%L1"_s;
+        QTest::newRow("text beyond Latin 1 lost") << u"string:Приёмник"_s;
+        QTest::newRow("split at a frame of the socket") << QString(2'000'000, u'7');
     }
 
     void requestIsOneFrame()

@@ -40,12 +40,12 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArrayList>("faults"); // they last for the next rows
         QTest::addColumn<QString>("missing");
-        QTest::newRow("all are there") << QByteArrayList() << QString();
-        QTest::newRow("one is missing")
+        QTest::newRow("complete list refused") << QByteArrayList() << QString();
+        QTest::newRow("one missing not noticed")
             << QByteArrayList{"without geoclue-emulator"} << u"geoclue-emulator"_s;
-        QTest::newRow("a longer name counts")
+        QTest::newRow("longer name not taken")
             << QByteArrayList{"with my-geoclue-emulator-tools"} << QString();
-        QTest::newRow("one of them, and one whose name begins alike, are missing")
+        QTest::newRow("only the first missing told")
             << QByteArrayList{"without sensorfw-qt5-emulator-plugins",
                               "without remote-dbus-invoker"}
             << u"remote-dbus-invoker sensorfw-qt5-emulator-plugins"_s;

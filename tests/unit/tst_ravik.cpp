@@ -32,14 +32,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("protocol");
         QTest::addColumn<int>("hostPort");
         QTest::addColumn<bool>("accepted"); // beside the rule "a", tcp, 5454
-        QTest::newRow("another name and port") << u"b"_s << u"udp"_s << 34343 << true;
-        QTest::newRow("same name") << u"a"_s << u"udp"_s << 34343 << false;
-        QTest::newRow("same host port") << u"b"_s << u"udp"_s << 5454 << false;
-        QTest::newRow("the SDK's own name") << u"ssh"_s << u"tcp"_s << 9 << false;
-        QTest::newRow("the SDK's own port") << u"b"_s << u"tcp"_s << int(sshPort) << false;
-        QTest::newRow("unknown protocol") << u"b"_s << u"sctp"_s << 9 << false;
-        QTest::newRow("no port") << u"b"_s << u"tcp"_s << 0 << false;
-        QTest::newRow("a name that breaks its line") << u"b,c"_s << u"tcp"_s << 9 << false;
+        QTest::newRow("another name and port refused") << u"b"_s << u"udp"_s << 34343 << true;
+        QTest::newRow("same name taken") << u"a"_s << u"udp"_s << 34343 << false;
+        QTest::newRow("same host port taken") << u"b"_s << u"udp"_s << 5454 << false;
+        QTest::newRow("the SDK's own name taken") << u"ssh"_s << u"tcp"_s << 9 << false;
+        QTest::newRow("the SDK's own port taken") << u"b"_s << u"tcp"_s << int(sshPort) << false;
+        QTest::newRow("unknown protocol taken") << u"b"_s << u"sctp"_s << 9 << false;
+        QTest::newRow("port 0 taken") << u"b"_s << u"tcp"_s << 0 << false;
+        QTest::newRow("a name that breaks its line taken") << u"b,c"_s << u"tcp"_s << 9 << false;
     }
 
     void forwardingRules()

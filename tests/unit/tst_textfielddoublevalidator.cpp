@@ -22,25 +22,25 @@ private Q_SLOTS:
             QTest::newRow(name) << input << state << bottom << top << decimals;
         };
         using enum QValidator::State;
-        add("a field can be emptied", QString(), Intermediate);
-        add("a sign can be typed first", u"-"_s, Intermediate);
-        add("bottom", u"-90"_s, Acceptable);
-        add("below bottom", u"-90.000001"_s, Invalid);
-        add("top", u"90"_s, Acceptable);
-        add("above top", u"90.000001"_s, Invalid);
-        add("as many decimals as allowed", u"12.345678"_s, Acceptable);
-        add("one decimal too many", u"12.3456789"_s, Invalid);
-        add("a point can be typed", u"1."_s, Acceptable);
-        add("a point alone", u"."_s, Invalid);
-        add("the user's decimal comma", u"1,5"_s, Invalid);
-        add("exponent", u"9e1"_s, Acceptable);
-        add("an exponent counts as decimals", u"1.2345e-01"_s, Invalid);
-        add("not a number", u"nan"_s, Invalid);
-        add("a prefix out of range", u"1"_s, Invalid, 10, 20, 0);
-        add("a sign in a positive range", u"-"_s, Intermediate, 10, 20, 0);
-        add("a negative number there", u"-1"_s, Invalid, 10, 20, 0);
-        add("a point where none may be", u"5."_s, Invalid, 0, 9, 0);
-        add("a whole number there", u"5"_s, Acceptable, 0, 9, 0);
+        add("emptying refused", QString(), Intermediate);
+        add("typing a sign first refused", u"-"_s, Intermediate);
+        add("bottom refused", u"-90"_s, Acceptable);
+        add("below bottom taken", u"-90.000001"_s, Invalid);
+        add("top refused", u"90"_s, Acceptable);
+        add("above top taken", u"90.000001"_s, Invalid);
+        add("last allowed decimal refused", u"12.345678"_s, Acceptable);
+        add("one decimal too many taken", u"12.3456789"_s, Invalid);
+        add("typing a point refused", u"1."_s, Acceptable);
+        add("a point alone taken", u"."_s, Invalid);
+        add("the user's decimal comma taken", u"1,5"_s, Invalid);
+        add("exponent refused", u"9e1"_s, Acceptable);
+        add("decimals of an exponent not counted", u"1.2345e-01"_s, Invalid);
+        add("not a number taken", u"nan"_s, Invalid);
+        add("prefix out of range taken", u"1"_s, Invalid, 10, 20, 0);
+        add("sign in a positive range refused", u"-"_s, Intermediate, 10, 20, 0);
+        add("negative number there taken", u"-1"_s, Invalid, 10, 20, 0);
+        add("point without decimals taken", u"5."_s, Invalid, 0, 9, 0);
+        add("whole number refused", u"5"_s, Acceptable, 0, 9, 0);
     }
 
     void validate()
