@@ -4,10 +4,22 @@
 "use strict";
 
 const fs = require("fs");
-const vm = require("vm");
+const path = require("path");
 
-const [script, log] = process.argv.slice(2).map(file => fs.readFileSync(file, "utf8"));
-vm.runInThisContext(script.replace(".pragma library", ""));
+// Runs a script of the plugin and returns its functions and constants. Node.js knows neither its
+// directives nor qsTr().
+function load(file) {
+    const source = fs.readFileSync(file, "utf8")
+        .replace(".pragma library", "")
+        .replace(/^\.import "(.*)" as (.*)$/gm, "const $2 = load('$1');");
+    const names = [...source.matchAll(/^(?:function|const) (\w+)/gm)].map(match => match[1]);
+    const run = new Function("load", "qsTr", `${source}\nreturn {${names}};`);
+    return run(name => load(path.join(path.dirname(file), name)), text => text);
+}
+
+const [script, log] = process.argv.slice(2);
+const {loadNmeaLog} = load(script);
+const text = fs.readFileSync(log, "utf8");
 const start = performance.now();
-globalThis.loadNmeaLog(log);
+loadNmeaLog(text);
 console.log(performance.now() - start);

@@ -1,13 +1,18 @@
 .pragma library
+.import "track-points.js" as TrackPoints
 
 // Reads the points of a track from the text of an NMEA 0183 log.
 //
-// Lines of unknown sentences are passed over; a known sentence that is not well formed spoils the
-// log. Only the talker "GP" is known, and checksums are not verified.
+// A log is a text with a sentence a line. A sentence is a tag, which is the talker and the type,
+// and further fields, all separated by commas. Lines of unknown sentences are skipped; a malformed
+// line of a known sentence makes the whole log invalid. "GP" is the only known talker. Checksums
+// are not verified.
 
-// The decimals that are kept of degrees and of metres.
-const latLongRoundingSize = 7;
-const altRoundingSize = 2;
+// The functions among these can also be called as functions of this script.
+const {
+    altRoundingSize, latLongRoundingSize, millisBetween, millisToPointTime, pointAt, roundValue,
+    setUpTrackPointTimeAndInterval, trackHasPointsWithoutDateTime,
+} = TrackPoints;
 
 const millisPerSecond = 1000;
 const millisPerMinute = 60 * millisPerSecond;
@@ -16,91 +21,82 @@ const millisPerDay = 24 * millisPerHour;
 
 const [lineFeed, carriageReturn, comma] = [0x0a, 0x0d, 0x2c];
 
-const nonEmptyLine = /[^\r\n]+/g;
-const restOfLine = /[^\r\n]*/y;
-const timeOfDay = /^\d{6}(?:\.\d{2,3})?$/;
-const sixDigits = /^\d{6}$/;
-const decimal = /^\d+\.\d+$/;
-
-// Fields of the patterns below.
+// Patterns of fields.
 const anything = "[^,\\r\\n]*";
-const position = "(\\d+\\.\\d+),([NS]),(\\d+\\.\\d+),([EW])";
-const time = "(\\d{6}(?:\\.\\d{2,3})?)";
+const decimal = "\\d+\\.\\d+";
+const timeOfDay = "\\d{6}(?:\\.\\d{2,3})?";
+const sixDigits = "\\d{6}";
+const coordinates = [decimal, "[NS]", decimal, "[EW]"].join(","); // four fields
+const isDecimal = fieldTest(decimal, 1);
+const isTimeOfDay = fieldTest(timeOfDay, 1);
+const isSixDigits = fieldTest(sixDigits, 1);
+const areCoordinates = fieldTest(coordinates, 4);
 
-// Engines without translations, as Node.js, say it in English.
-if (typeof qsTr !== "function")
-    globalThis.qsTr = text => text;
-
-// How each sentence is read:
-//  - line: patterns of a line with nothing out of place, whose groups are the values that count;
-//  - fields: the fields that these groups are, the tag being field 0;
-//  - accepts: whether other lines are well formed. Where any text may stand, commas may too, and
-//    what follows stands farther to the right. Looking for the leftmost place of each finds a
-//    place for all if there is one, in a time that grows with the line, as it does for one pattern
-//    of many wildcards only until a line has many commas;
-//  - point, time: made of the groups. A sentence without time has points without time stamps.
+// The known sentences by their tags:
+//  - position, altitude, time, date: the numbers of these fields, which count from the tag, number
+//    0; null where the sentence has no such field. The position is the first of its four fields.
+//  - unusual: matches where no usual line of this sentence begins. A usual line has all fields in
+//    their places. This is the negation of a pattern because most lines are usual, and because the
+//    engine creates an object for each match.
+//  - acceptsShifted: whether the fields of an unusual line are those of a well-formed line. Free
+//    text may contain commas, which shift all later fields to the right. Looking for the leftmost
+//    place of each field takes a time that is proportional to the length of the line. One pattern
+//    with a wildcard for each text would try all combinations of commas.
 const sentences = {
     $GPRMC: {
-        line: patternsOf("$GPRMC", time, anything, position, anything, anything, "(\\d{6})",
-                         anything, ""),
-        fields: [1, 3, 4, 5, 6, 9],
-        accepts: fields => {
-            const position = indexOf(fields, 3, fields.length, isPosition);
-            return timeOfDay.test(fields[1]) && position >= 0
-                && indexOf(fields, position + 6, fields.length - 2, isSixDigits) >= 0;
+        position: 3, altitude: null, time: 1, date: 9,
+        unusual: notAt("\\$GPRMC", timeOfDay, anything, coordinates, anything, anything, sixDigits,
+                       anything, ""),
+        acceptsShifted: fields => {
+            const position = findField(fields, areCoordinates, 3, fields.length);
+            return isTimeOfDay(fields, 1) && position >= 0
+                && findField(fields, isSixDigits, position + 6, fields.length - 2) >= 0;
         },
-        point: groups => createTrackPoint("$GPRMC", groups[2], groups[3], groups[4], groups[5], 0),
-        time: (groups, prevDate) => parseDateFromNmea(groups[6], groups[1], prevDate),
     },
     $GPGGA: {
-        line: patternsOf("$GPGGA", time, position, anything, anything, anything, "(\\d+\\.\\d+)",
-                         anything, anything, anything, anything, ""),
-        fields: [1, 2, 3, 4, 5, 9],
-        accepts: fields => timeOfDay.test(fields[1]) && isPosition(fields, 2)
-            && indexOf(fields, 9, fields.length - 5, isDecimal) >= 0,
-        point: groups => createTrackPoint("$GPGGA", groups[2], groups[3], groups[4], groups[5],
-                                          roundValue(Number(groups[6]), altRoundingSize)),
-        time: (groups, prevDate) => parseDateFromNmea("", groups[1], prevDate),
+        position: 2, altitude: 9, time: 1, date: null,
+        unusual: notAt("\\$GPGGA", timeOfDay, coordinates, anything, anything, anything, decimal,
+                       anything, anything, anything, anything, ""),
+        acceptsShifted: fields => isTimeOfDay(fields, 1) && areCoordinates(fields, 2)
+            && findField(fields, isDecimal, 9, fields.length - 5) >= 0,
     },
     $GPGLL: {
-        line: patternsOf("$GPGLL", position, "(" + anything + ")"),
-        fields: [1, 2, 3, 4, 5],
-        accepts: () => false,
-        point: groups => createTrackPoint("$GPGLL", groups[1], groups[2], groups[3], groups[4], 0),
-        time: (groups, prevDate) => parseDateFromNmea("", checkedTime(groups[5]), prevDate),
+        position: 1, altitude: null, time: 5, date: null,
+        unusual: notAt("\\$GPGLL", coordinates, ""),
+        acceptsShifted: () => false,
     },
     $GPWPL: {
-        line: patternsOf("$GPWPL", position, ""),
-        fields: [1, 2, 3, 4],
-        accepts: () => false,
-        point: groups => createTrackPoint("$GPWPL", groups[1], groups[2], groups[3], groups[4], 0),
-        time: () => null,
+        position: 1, altitude: null, time: null, date: null,
+        unusual: notAt("\\$GPWPL", coordinates, ""),
+        acceptsShifted: () => false,
     },
 };
+const talker = "$GP";
 const tags = Object.keys(sentences);
 
-// Patterns for a place in a text: of a line that begins with these fields, and of none there. A
-// pattern that fails is twice as quick as one that matches, of which the engine makes an object.
-function patternsOf(tag, ...fields) {
-    const line = "\\" + [tag, ...fields].join(",");
-    return {usual: new RegExp(line, "y"), notUsual: new RegExp("(?!" + line + ")", "y")};
+// Matches a line, or its first ten fields. Group n is field n, or undefined if the line has fewer
+// fields. This is quicker than to split the line.
+const firstFields = new RegExp(anything + `(?:,(${anything}))?`.repeat(9), "y");
+const nonEmptyLine = /[^\r\n]+/g;
+const restOfLine = /[^\r\n]*/y;
+
+// The number of points at the first collection of garbage. It doubles each time, so that all
+// collections together take a time that is proportional to the length of the log.
+const firstCollection = 8192;
+
+// Returns a pattern that matches at each place of a text where no line begins with these fields.
+function notAt(...fields) {
+    return new RegExp("(?!" + fields.join(",") + ")", "y");
 }
 
-function isSixDigits(fields, index) {
-    return sixDigits.test(fields[index]);
+// Returns a function that tells whether the fields at an index match a pattern of this many fields.
+function fieldTest(pattern, count) {
+    const whole = new RegExp("^" + pattern + "$");
+    return (fields, index) => whole.test(fields.slice(index, index + count).join(","));
 }
 
-function isDecimal(fields, index) {
-    return decimal.test(fields[index]);
-}
-
-function isPosition(fields, index) {
-    return isDecimal(fields, index) && /^[NS]$/.test(fields[index + 1])
-        && isDecimal(fields, index + 2) && /^[EW]$/.test(fields[index + 3]);
-}
-
-// The first index from begin on and before end that the fields are accepted at, or -1.
-function indexOf(fields, begin, end, accept) {
+// Returns the first index from begin to before end at which accept() is true, or -1.
+function findField(fields, accept, begin, end) {
     for (let index = begin; index < end; ++index) {
         if (accept(fields, index))
             return index;
@@ -108,44 +104,66 @@ function indexOf(fields, begin, end, accept) {
     return -1;
 }
 
-// Where the first line of a sentence begins, from a position of the text on; infinity for none.
-function indexOfLine(text, tag, position) {
-    for (;;) {
-        const start = text.indexOf(tag, position);
-        if (start < 0)
-            return Infinity;
-        position = start + tag.length;
-        const before = start === 0 ? lineFeed : text.charCodeAt(start - 1);
-        const after = position === text.length ? lineFeed : text.charCodeAt(position);
-        if ((before === lineFeed || before === carriageReturn)
-                && (after === comma || after === lineFeed || after === carriageReturn))
-            return start;
+// Returns the tag of the known sentence that begins at a place of the text, or null.
+function tagAt(text, start) {
+    const before = start === 0 ? lineFeed : text.charCodeAt(start - 1);
+    if (before !== lineFeed && before !== carriageReturn)
+        return null;
+    for (let i = 0; i < tags.length; ++i) {
+        if (text.startsWith(tags[i], start)) {
+            const end = start + tags[i].length;
+            const after = end === text.length ? lineFeed : text.charCodeAt(end);
+            return after === comma || after === lineFeed || after === carriageReturn ? tags[i]
+                                                                                     : null;
+        }
     }
-}
-
-// The groups of the line of this sentence at a position, or null when it is not well formed.
-function groupsOf(sentence, text, start) {
-    sentence.line.usual.lastIndex = start;
-    const usual = sentence.line.usual.exec(text);
-    if (usual)
-        return usual;
-    restOfLine.lastIndex = start;
-    const line = restOfLine.exec(text)[0];
-    const fields = line.split(",");
-    return sentence.accepts(fields) ? [line, ...sentence.fields.map(index => fields[index])] : null;
+    return null;
 }
 
 function isWellFormed(sentence, text, start) {
-    sentence.line.notUsual.lastIndex = start;
-    return !sentence.line.notUsual.test(text) || groupsOf(sentence, text, start) !== null;
+    sentence.unusual.lastIndex = start;
+    if (!sentence.unusual.test(text))
+        return true;
+    restOfLine.lastIndex = start;
+    return sentence.acceptsShifted(restOfLine.exec(text)[0].split(","));
 }
 
-// What loadNmeaLog() throws. Lines count from 1 and empty ones not at all; 0 stands for no line.
+function fieldsAt(text, start) {
+    firstFields.lastIndex = start;
+    return firstFields.exec(text);
+}
+
+function pointOf(tag, fields) {
+    const {position, altitude} = sentences[tag];
+    const metres = altitude === null ? 0 : roundValue(Number(fields[altitude]), altRoundingSize);
+    return createTrackPoint(tag, fields[position], fields[position + 1], fields[position + 2],
+                            fields[position + 3], metres);
+}
+
+// Returns the time stamp of a line, or null if its sentence has no time.
+function timeStampOf(sentence, fields, prevDate) {
+    if (sentence.time === null)
+        return null;
+    const text = fields[sentence.time];
+    // A $GPGLL line is well-formed without its time, but is of no use for a track.
+    if (sentence === sentences.$GPGLL && !/^\d{6}/.test(text)) {
+        const message = qsTr('NMEA file has a position at "%1", which is not a time');
+        throw new TypeError(message.replace("%1", () => text));
+    }
+    return parseDateFromNmea(sentence.date === null ? "" : fields[sentence.date], text, prevDate);
+}
+
+// Returns an error with the number of a line: empty lines do not count, the first line is number 1,
+// and 0 means that the error has no line.
 function syntaxError(message, incorrectLine) {
     return Object.assign(new SyntaxError(message), {incorrectLine});
 }
 
-// What loadNmeaLog() throws for a text without a known sentence.
+function incorrectLineError(text, start) {
+    return syntaxError(qsTr("Incorrect NMEA file"), countLines(text.substring(0, start + 1)));
+}
+
+// Returns the error for a text without a known sentence.
 function nothingKnownError(text) {
     const lines = countLines(text);
     if (lines === 0)
@@ -154,17 +172,8 @@ function nothingKnownError(text) {
                             + "Supported formats: GPRMC, GPGGA, GPGLL, GPWPL."), lines);
 }
 
-// Without its time, a sentence of positions says nothing of use for a track.
-function checkedTime(text) {
-    if (!/^\d{6}/.test(text)) {
-        const message = qsTr('NMEA file has a position at "%1", which is not a time');
-        throw new TypeError(message.replace("%1", () => text));
-    }
-    return text;
-}
-
-// The QML engine collects no garbage while a function runs: that of a long log would be forty times
-// the log. Collecting it ever more rarely costs a time that grows as the log does.
+// The QML engine collects no garbage while a function runs. The garbage of a long log would take
+// forty times as much memory as the log.
 function collectGarbage() {
     if (typeof gc === "function")
         gc();
@@ -178,14 +187,8 @@ function countLines(text) {
     return count;
 }
 
-// Halves are rounded upwards.
-function roundValue(value, precision) {
-    const factor = Math.pow(10, precision);
-    return Math.round(value * factor) / factor;
-}
-
-// Degrees of a text of degrees, as many digits as given, and minutes, "4807.038"; south and west
-// are negative.
+// Converts a text of degrees and minutes, for example "4807.038", to degrees; degreesSize is the
+// number of digits of the degrees. South and west are negative.
 function parseCoordinateFromNmea(coordinateString, coordinateHemisphere, degreesSize) {
     const degrees = Number(coordinateString.substring(0, degreesSize));
     const minutes = Number(coordinateString.substring(degreesSize));
@@ -201,12 +204,14 @@ function parseLongitudeFromNmea(longitudeString, longitudeHemisphere) {
     return parseCoordinateFromNmea(longitudeString, longitudeHemisphere, 3);
 }
 
-// The time stamp of a time "hhmmss.sss" and a date "ddmmyy", which may be empty: then the day is
-// that of the previous time stamp, or the one after it past midnight, or today.
+// Returns the time stamp of a time "hhmmss.sss" and a date "ddmmyy". If the date is empty, the day
+// is that of the previous time stamp, or the next day if the time is earlier than the previous one.
+// Without a previous time stamp, the day is today.
 //
-// Only differences of time stamps are used. The month is taken as an index that counts from 0, so
-// that a date lies a month late, and the day stands for the year as well: the stamps of a log jump
-// by years at midnight and by other than a month's length at its end.
+// Two oddities are required. The number of the month is used as an index that counts from 0, so the
+// date is one month late. The number of the day is used as the year, too. Only differences between
+// time stamps are used, so this shows at midnight, where they jump by years, and at the end of a
+// month.
 function parseDateFromNmea(dateString, timeString, prevDate) {
     const digits = Number(timeString.substring(0, 6));
     const hours = Math.floor(digits / 10000);
@@ -225,41 +230,15 @@ function parseDateFromNmea(dateString, timeString, prevDate) {
     return new Date(prevDate && date < now ? date + millisPerDay : date);
 }
 
-function millisBetween(firstDate, secondDate) {
-    return secondDate.getTime() - firstDate.getTime();
-}
-
-// "hh:mm:ss.t" of milliseconds; whole days are left out.
-function millisToPointTime(duration) {
-    // the time of the day at the duration's end, which is as long since the start of 1970
-    return duration < 0 ? "-" + millisToPointTime(-duration)
-                        : new Date(duration).toISOString().substring(11, 21);
-}
-
-// Makes a point the next one of the track. Both times are null for a track without time stamps.
-function setUpTrackPointTimeAndInterval(points, trackPoint, startTime, trackPointTime) {
-    const previous = points[points.length - 1];
-    trackPoint.index = points.length;
-    trackPoint.time = previous && trackPointTime ? millisBetween(startTime, trackPointTime) : 0;
-    trackPoint.interval = previous ? trackPoint.time - previous.time : 0;
-    trackPoint.timeString = millisToPointTime(trackPoint.time);
-}
-
+// The altitude is metres.
 function createTrackPoint(pointFormat, latString, latHemisphere, lonString, lonHemisphere, alt) {
-    return {
-        format: pointFormat,
-        latitude: parseLatitudeFromNmea(latString, latHemisphere),
-        longitude: parseLongitudeFromNmea(lonString, lonHemisphere),
-        altitude: alt ?? 0,
-        index: 0,
-        time: 0,
-        interval: 0,
-        timeString: "",
-    };
+    return pointAt(pointFormat, parseLatitudeFromNmea(latString, latHemisphere),
+                   parseLongitudeFromNmea(lonString, lonHemisphere), alt ?? 0);
 }
 
-// The points of a log, all of the sentence that comes first. Throws a SyntaxError with a number
-// incorrectLine when there are none to be had, or more than so many.
+// Returns the points of a log. The type of the first known sentence decides which sentences become
+// points. Throws an error for the user if the log is invalid, has no points or has more than
+// maximumPoints. A SyntaxError has the number incorrectLine, see syntaxError().
 function loadNmeaLog(text, maximumPoints = Infinity) {
     if (text === "")
         throw syntaxError(qsTr("NMEA file is empty"), 0);
@@ -267,37 +246,28 @@ function loadNmeaLog(text, maximumPoints = Infinity) {
     let format = null;
     let startTime = null;
     let previousTime = null;
-    let nextCollection = 8192;
-    // where the next line of each sentence begins
-    const starts = tags.map(tag => indexOfLine(text, tag, 0));
-    for (;;) {
-        let next = 0;
-        for (let i = 1; i < tags.length; ++i) {
-            if (starts[i] < starts[next])
-                next = i;
-        }
-        const start = starts[next];
-        if (start === Infinity)
-            break;
-        const tag = tags[next];
+    let nextCollection = firstCollection;
+    // Searching for the talker is quicker than splitting the text into lines.
+    for (let start = text.indexOf(talker); start >= 0; start = text.indexOf(talker, start + 1)) {
+        const tag = tagAt(text, start);
+        if (tag === null)
+            continue;
         const sentence = sentences[tag];
-        starts[next] = indexOfLine(text, tag, start + tag.length);
-        // the first sentence decides what the track is made of
-        if (format && tag !== format && isWellFormed(sentence, text, start))
+        if (!isWellFormed(sentence, text, start))
+            throw incorrectLineError(text, start);
+        if (format !== null && tag !== format)
             continue;
         if (points.length === nextCollection) {
             collectGarbage();
             nextCollection *= 2;
         }
-        const groups = groupsOf(sentence, text, start);
-        const point = groups && sentence.point(groups);
-        const time = groups && sentence.time(groups, previousTime);
-        // in a line that is not usual, anything may stand in the place of a value
-        if (!groups || !isFinite(point.latitude + point.longitude + point.altitude)
-                || (time && isNaN(time.getTime()))) {
-            throw syntaxError(qsTr("Incorrect NMEA file"),
-                              countLines(text.substring(0, start + 1)));
-        }
+        const fields = fieldsAt(text, start);
+        const point = pointOf(tag, fields);
+        const time = timeStampOf(sentence, fields, previousTime);
+        // In a line with shifted fields, the fields of the values may contain anything.
+        if (!isFinite(point.latitude + point.longitude + point.altitude)
+                || (time && isNaN(time.getTime())))
+            throw incorrectLineError(text, start);
         if (points.length === maximumPoints) {
             const message = qsTr("NMEA file has more than %1 points");
             throw syntaxError(message.replace("%1", maximumPoints), 0);
@@ -311,13 +281,4 @@ function loadNmeaLog(text, maximumPoints = Infinity) {
     if (points.length === 0)
         throw nothingKnownError(text);
     return points;
-}
-
-// Whether any but the first of the points, which always has none, lies at no time.
-function trackHasPointsWithoutDateTime(points) {
-    for (let i = 1; i < points.length; ++i) {
-        if (points[i].time === 0)
-            return true;
-    }
-    return false;
 }
