@@ -10,7 +10,9 @@ import org.plova 1.0
 import "location"
 import "shared"
 import "../js/location/nmea-parsing.js" as Nmea
+import "../js/location/number-texts.js" as NumberTexts
 import "../js/location/text-file.js" as TextFile
+import "../js/location/track-points.js" as TrackPoints
 import "../js/location/track-rows.js" as TrackRows
 
 // Sets a position, or loads a track and plays it.
@@ -21,32 +23,33 @@ EmulationPage {
     required property MessageDialog messageDialog
 
     readonly property GPSEmulationManager gpsManager: gpsEmulationManager // qmllint disable unqualified
-    readonly property var locale: Qt.locale("en_US")
+    readonly property var locale: NumberTexts.locale // QML has no type for locales
     readonly property double latitudeMinValue: -90
     readonly property double latitudeMaxValue: 90
     readonly property double longitudeMinValue: -180
     readonly property double longitudeMaxValue: 180
     readonly property double altitudeMinValue: -1000
     readonly property double altitudeMaxValue: 10000
-    readonly property int latLongRoundingSize: Nmea.latLongRoundingSize
-    readonly property int altRoundingSize: Nmea.altRoundingSize
+    readonly property int latLongRoundingSize: TrackPoints.latLongRoundingSize
+    readonly property int altRoundingSize: TrackPoints.altRoundingSize
     readonly property alias defaultInterval: player.defaultInterval
     readonly property alias lastRow: player.lastRow
     property alias actualTrackPoints: player.actualTrackPoints
-    // The track has no times to play it by.
+    // Whether the track has no times to play it by.
     property bool onlyDefaultInterval: false
     readonly property alias trackStopped: player.stopped
     property string nmeaFileUrl: ""
-    // Bytes. Points take some forty times as much memory as in their file.
+    // Bytes. Points take about forty times as much memory as in their file.
     readonly property int maximumFileSize: 100e6
-    // A track must fit into one upload: its text, at most 46 characters a point, into
-    // maxRequestBytes of emulator/relay.cpp and, as replies repeat it, into maxReplySize of
-    // link/remotedbusinvokerservice.h; its points, 40 bytes each, into the 64 MiB of a D-Bus array.
+    // A track must fit into one upload. The text has at most 46 characters for each point and must
+    // fit into maxRequestBytes of emulator/relay.cpp. A reply repeats the text, so it must also fit
+    // into maxReplySize of link/remotedbusinvokerservice.h. A point has 40 bytes in a D-Bus array,
+    // which has at most 64 MiB.
     readonly property int maximumPoints: 1.4e6
-    // The emulator was told to stop after an error and has not said "OK" since. It may be the stop
-    // that it refuses.
+    // Whether playback was stopped because of an error, and no "OK" has come since. The emulator
+    // may refuse the stop, too, which must not cause another stop.
     property bool stoppedAfterError: false
-    // How many files have been read or begun.
+    // The number of files that the user has opened.
     property int fileRequests: 0
 
     function openFile(url: url) {
@@ -54,38 +57,45 @@ EmulationPage {
         nmeaFileUrl = url;
         const size = gpsManager.fileSize(url);
         if (size < 0) {
-            showTrack(null);
+            refuseUnreadableFile();
         } else if (size > maximumFileSize) {
             refuseTrack(qsTr("NMEA file is larger than %1 MB").arg(maximumFileSize / 1e6));
         } else {
             TextFile.read(url, text => {
-                // another file may have been chosen in the meantime
-                if (request === fileRequests)
+                // The user may have opened another file in the meantime.
+                if (request !== fileRequests)
+                    return;
+                if (text === null)
+                    refuseUnreadableFile();
+                else
                     showTrack(text);
             });
         }
     }
 
-    function showTrack(text: var) {
+    function showTrack(text: string) {
         let points;
         try {
-            if (text === null)
-                throw new Error(qsTr("NMEA file cannot be read"));
             points = Nmea.loadNmeaLog(text, maximumPoints);
         } catch (error) {
             refuseTrack(error.incorrectLine > 0
                 ? error.message + qsTr(", line: %1").arg(error.incorrectLine) : error.message);
             return;
         }
-        const rows = TrackRows.tableRows(points, locale, latLongRoundingSize, altRoundingSize);
-        // Rows have no field of that name, so that any track may be played at its own speed.
+        const rows = TrackRows.tableRows(points);
+        // It is required that the rows are checked, not the points. A row's time has another name,
+        // so the answer is always false and any track can be played at its own speed.
         onlyDefaultInterval = Nmea.trackHasPointsWithoutDateTime(rows);
         if (onlyDefaultInterval)
             gpsManager.setTrackIntervalMode(true);
         player.setTrack(rows, TrackRows.trackRecord(rows, points));
     }
 
-    // Playback is stopped first: the buttons are disabled while the table is empty.
+    function refuseUnreadableFile() {
+        refuseTrack(qsTr("NMEA file cannot be read"));
+    }
+
+    // Stops playback first, because the user cannot stop it while the table is empty.
     function refuseTrack(message: string) {
         if (!player.stopped)
             player.stop();
@@ -103,10 +113,7 @@ EmulationPage {
 
             CurrentPosition {
                 Layout.fillWidth: true
-                altitudeDecimals: root.altRoundingSize
-                coordinateDecimals: root.latLongRoundingSize
-                numberLocale: root.locale
-                position: root.gpsManager.currentPosition
+                gpsManager: root.gpsManager
             }
 
             CoordinateControls {
@@ -120,7 +127,6 @@ EmulationPage {
                 latitudeMinValue: root.latitudeMinValue
                 longitudeMaxValue: root.longitudeMaxValue
                 longitudeMinValue: root.longitudeMinValue
-                numberLocale: root.locale
 
                 onPositionSubmitted: (latitude, longitude, altitude) => {
                     if (player.playing)
@@ -168,7 +174,6 @@ EmulationPage {
                         Layout.fillWidth: true
                         currentIndex: root.gpsManager.currentPositionIndex
                         enabled: track.rowCount > 0
-                        locale: root.locale
                         rowCount: track.rowCount
 
                         onMoved: index => {

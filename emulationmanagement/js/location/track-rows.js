@@ -1,20 +1,23 @@
 .pragma library
+.import "number-texts.js" as NumberTexts
 
-// What the points of a track are to the user, whose table has a column for each key and its title
-// in the user's language, and to the emulator. Texts have the group separators of their locale: the
-// emulator takes an altitude of a thousand metres for none.
+// Turns the points of a track into rows of the user's table and into the record for the emulator.
 
-function tableRows(points, locale, coordinateDecimals, altitudeDecimals) {
+// The keys name the columns of the table. Their titles are in the user's language.
+function tableRows(points) {
     return points.map(point => ({
         "No.": point.index,
         "Time": point.timeString,
-        "Latitude": point.latitude.toLocaleString(locale, "f", coordinateDecimals),
-        "Longitude": point.longitude.toLocaleString(locale, "f", coordinateDecimals),
-        "Altitude": point.altitude.toLocaleString(locale, "f", altitudeDecimals),
+        "Latitude": NumberTexts.degreesText(point.latitude),
+        "Longitude": NumberTexts.degreesText(point.longitude),
+        "Altitude": NumberTexts.metresText(point.altitude),
     }));
 }
 
-// The rows of the table as the location service takes them, with milliseconds between the points.
+// Returns the points as GPSEmulationManager::loadTrack() takes them, with intervals in milliseconds.
+//
+// It is required that these are the texts of the table. They have group separators, which the
+// manager does not read, so altitudes from 1000 m reach the emulator as 0.
 function trackRecord(rows, points) {
     return rows.map((row, index) => ({
         latitude: row["Latitude"],

@@ -4,12 +4,11 @@ import QtQuick.Layouts
 
 import org.plova 1.0
 
-// Fields for a position to be set.
+// Fields for a position, which are sent one by one or together.
 GroupBox {
     id: root
 
     required property GPSEmulationManager gpsManager
-    required property var numberLocale
     required property int coordinateDecimals
     required property int altitudeDecimals
     required property double latitudeMinValue
@@ -32,7 +31,6 @@ GroupBox {
 
             decimals: root.coordinateDecimals
             label: qsTr("Latitude")
-            locale: root.numberLocale
             maxValue: root.latitudeMaxValue
             minValue: root.latitudeMinValue
 
@@ -44,7 +42,6 @@ GroupBox {
 
             decimals: root.coordinateDecimals
             label: qsTr("Longitude")
-            locale: root.numberLocale
             maxValue: root.longitudeMaxValue
             minValue: root.longitudeMinValue
 
@@ -56,7 +53,6 @@ GroupBox {
 
             decimals: root.altitudeDecimals
             label: qsTr("Altitude")
-            locale: root.numberLocale
             maxValue: root.altitudeMaxValue
             minValue: root.altitudeMinValue
 

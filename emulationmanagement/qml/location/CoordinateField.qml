@@ -3,8 +3,9 @@ import QtQuick.Controls
 import QtQuick.Layouts
 
 import "../shared"
+import "../../js/location/number-texts.js" as NumberTexts
 
-// A field for one number of a position. What is no number gives way to the last one that was.
+// A field for one number of a position. A text that is not a number is replaced by the last number.
 RowLayout {
     id: root
 
@@ -12,16 +13,15 @@ RowLayout {
     property alias minValue: textField.minValue
     property alias maxValue: textField.maxValue
     property alias decimals: textField.decimals
-    required property var locale
 
     property string lastNumber: "0"
 
-    // Enter was pressed.
+    // The user pressed Enter.
     signal submitted(value: double)
 
     function value(): double {
         keepNumber();
-        return Number.fromLocaleString(locale, lastNumber);
+        return NumberTexts.numberOf(lastNumber);
     }
 
     function keepNumber() {

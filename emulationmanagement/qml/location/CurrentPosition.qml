@@ -2,14 +2,15 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 
-// Where the emulated device is.
+import org.plova 1.0
+
+import "../../js/location/number-texts.js" as NumberTexts
+
+// Shows the position of the emulated device.
 GroupBox {
     id: root
 
-    required property var position
-    required property var numberLocale
-    required property int coordinateDecimals
-    required property int altitudeDecimals
+    required property GPSEmulationManager gpsManager
 
     title: qsTr("Current Position")
 
@@ -40,22 +41,19 @@ GroupBox {
         PositionValue {
             Layout.fillWidth: true
             label: qsTr("Latitude")
-            value: root.position.latitude.toLocaleString(
-                root.numberLocale, "f", root.coordinateDecimals)
+            value: NumberTexts.degreesText(root.gpsManager.currentPosition.latitude)
         }
 
         PositionValue {
             Layout.fillWidth: true
             label: qsTr("Longitude")
-            value: root.position.longitude.toLocaleString(
-                root.numberLocale, "f", root.coordinateDecimals)
+            value: NumberTexts.degreesText(root.gpsManager.currentPosition.longitude)
         }
 
         PositionValue {
             Layout.fillWidth: true
             label: qsTr("Altitude")
-            value: root.position.altitude.toLocaleString(
-                root.numberLocale, "f", root.altitudeDecimals)
+            value: NumberTexts.metresText(root.gpsManager.currentPosition.altitude)
         }
     }
 }

@@ -2,16 +2,17 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 
-// How far a track has been played, and a handle to go elsewhere.
+import "../../js/location/number-texts.js" as NumberTexts
+
+// Shows how far a track has been played. The user can move the handle to another point.
 RowLayout {
     id: root
 
     property int rowCount: 0
     property int currentIndex: 0
-    required property var locale
     readonly property alias pressed: slider.pressed
 
-    // The handle was moved to another point.
+    // The user moved the handle to another point.
     signal moved(index: int)
 
     spacing: 6
@@ -39,10 +40,10 @@ RowLayout {
     }
 
     Label {
-        // as wide as it ever is, so that the slider keeps its width
+        // The width of the widest text, so that the slider keeps its width.
         Layout.minimumWidth: widest.width
         horizontalAlignment: Text.AlignRight
-        text: (slider.value / slider.to * 100).toLocaleString(root.locale, "f", 2) + "%"
+        text: NumberTexts.percentText(slider.value / slider.to)
 
         TextMetrics {
             id: widest
