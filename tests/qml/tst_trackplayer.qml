@@ -3,42 +3,31 @@ import QtTest
 
 import "qrc:/emulationmanagement/qml/location"
 
-// When the steps of a track come, by a clock that the test sets.
 TestCase {
     id: test
 
+    readonly property var point: ({"No.": 0, "Time": "", "Latitude": "", "Longitude": "",
+                                   "Altitude": ""})
+    property double clock: 0
+    property int stepTime: 0
+
     name: "TrackPlayer"
-
-    QtObject {
-        id: manager
-
-        property int currentPositionIndex: 0
-        property int trackSpeed: 1
-        property double clock: 0
-        property int stepTime: 0
-        readonly property bool trackLoaded: true
-        readonly property bool trackLooped: false
-        readonly property bool useDefaultInterval: false
-
-        function goToPositionOnTrack() { clock += stepTime; }
-        function loadTrack() {}
-        function monotonicTime(): double { return clock; }
-        function setLocalPosition() {}
-        function startTrack() {}
-        function stopTrack() {}
-    }
 
     Component {
         id: component
 
         TrackPlayer {
-            gpsManager: manager
+            function monotonicTime(): double { return test.clock; }
+
+            gpsManager: gpsEmulationManager
             track: TrackModel {}
+
+            onCurrentRowChanged: test.clock += test.stepTime
         }
     }
 
-    // The timer fires so long after the last time. Then the track is at this point and the timer
-    // waits so long.
+    // The timer fires so many milliseconds after the last time. Then the track is at this point and
+    // the timer waits so many milliseconds.
     function test_schedule_data(): var {
         return [
             {tag: "delays or fractions add up", interval: 404, speed: 5,
@@ -52,20 +41,17 @@ TestCase {
     }
 
     function test_schedule(row: var) {
-        const point = {"No.": 0, "Time": "", "Latitude": "", "Longitude": "", "Altitude": "",
-                       interval: row.interval};
-        const points = Array(9).fill(point);
         const player = createTemporaryObject(component, test);
-        manager.trackSpeed = row.speed ?? 1;
-        manager.stepTime = row.stepTime ?? 0;
-        player.setTrack(points, points);
+        gpsEmulationManager.setTrackSpeed(row.speed ?? 1);
+        stepTime = row.stepTime ?? 0;
+        player.setTrack(Array(9).fill(point), Array(9).fill({interval: row.interval}));
         player.start();
         const timer = player.data[0];
         for (const [after, index, wait] of row.steps) {
-            manager.clock += after;
+            clock += after;
             timer.stop();
             timer.triggered();
-            compare([manager.currentPositionIndex, timer.interval], [index, wait]);
+            compare([gpsEmulationManager.currentPositionIndex, timer.interval], [index, wait]);
         }
     }
 }

@@ -1,37 +1,46 @@
 import QtQuick
 
-// Plays a track: a timer steps from point to point, and the emulator is told each of them.
+import org.plova 1.0
+
+// Plays a track: a timer steps from point to point, and each point is sent to the emulator.
 //
-// The manager's currentPositionIndex says where playback is; the current row follows it, and each
-// new one goes to the emulator. Whether a track is stopped, plays or is paused is known here.
+// The manager's currentPositionIndex is the place of playback. The current row follows it, and each
+// new current row is sent to the emulator. This component knows whether a track is stopped, is
+// playing or is paused.
 Item {
     id: root
 
     enum Playback { Stopped, Playing, Paused }
 
-    // A GPSEmulationManager; the test of this component gives one whose clock it sets.
-    required property var gpsManager
+    required property GPSEmulationManager gpsManager
     required property TrackModel track
-    // The track as the emulator was given it.
+    // The track as it was uploaded: a JavaScript array of objects, for which QML has no type.
     property var actualTrackPoints: []
     readonly property int lastRow: track.rowCount - 1
-    property int currentRow: -1 // -1 for none
+    property int currentRow: -1 // -1 means that no row is current
     property int playback: TrackPlayer.Stopped
     readonly property bool playing: playback === TrackPlayer.Playing
     readonly property bool stopped: playback === TrackPlayer.Stopped
-    // Milliseconds between points without intervals of their own, and before a track starts over.
+    // All times are milliseconds.
+    //
+    // The interval between points that have no intervals of their own, and before a looped track
+    // starts again.
     readonly property int defaultInterval: 2000
-    // Milliseconds, twelve days.
-    readonly property int longestInterval: 1 << 30
-    // Milliseconds. After a longer delay, as when the machine slept, the schedule starts anew.
+    readonly property int longestInterval: 1 << 30 // twelve days, which a timer can still wait
+    // After a longer delay, for example because the machine slept, the schedule starts again.
     readonly property int longestDelay: 1000
-    readonly property int frame: 16 // milliseconds
-    // When the present step is due, by the manager's clock.
+    readonly property int frame: 16
+    // The time of the next step, by monotonicTime().
     property double dueTime: 0
-    // The track goes on when the handle of the progress is released.
+    // Whether playback continues when the user releases the handle of the progress slider.
     property bool playingWhenHeld: false
 
-    // Takes another track and uploads it.
+    // Returns the time of a clock that nobody sets. A test overrides this.
+    function monotonicTime(): double {
+        return gpsManager.monotonicTime();
+    }
+
+    // Replaces the track and uploads the new one.
     function setTrack(rows: var, trackPoints: var) {
         setRows(rows);
         actualTrackPoints = trackPoints;
@@ -56,8 +65,8 @@ Item {
         if (gpsManager.currentPositionIndex === lastRow)
             gpsManager.stopTrack();
         gpsManager.startTrack();
-        dueTime = gpsManager.monotonicTime();
-        // a track of one point ends where it starts
+        dueTime = monotonicTime();
+        // A track of one point ends at once.
         playback = scheduleStep() ? TrackPlayer.Playing : TrackPlayer.Stopped;
         if (playing)
             runTrackTimer();
@@ -70,21 +79,21 @@ Item {
         synchronize();
     }
 
-    // The timer ends first: while it runs, a new current row starts the track again, and the first
-    // row becomes current here.
+    // Stops the timer first: stopTrack() makes the first row current, and a new current row starts
+    // the track again while the timer runs.
     function stop() {
         rest();
         gpsManager.stopTrack();
     }
 
-    // Ends playback without telling the emulator.
+    // Ends playback without a call to the emulator.
     function rest() {
         trackTimer.stop();
         playingWhenHeld = false;
         playback = TrackPlayer.Stopped;
     }
 
-    // Waits until release() without telling the emulator.
+    // Interrupts playback until release(), without a call to the emulator.
     function hold() {
         playingWhenHeld = playing;
         if (!playing)
@@ -98,7 +107,7 @@ Item {
             start();
     }
 
-    // Goes to a row that the user chose, also when it is the current one.
+    // Goes to a row that the user chose, even if it is already the current row.
     function chooseRow(row: int) {
         if (row === currentRow)
             goToCurrentRow();
@@ -107,25 +116,28 @@ Item {
     }
 
     function goToCurrentRow() {
-        // a connection that was lost took the track with it
+        // The emulator loses its track when the connection is lost.
         if (!gpsManager.trackLoaded)
             gpsManager.loadTrack(actualTrackPoints);
         gpsManager.goToPositionOnTrack(currentRow);
-        // not during a step, which goes on by itself
+        // The timer does not run during a step, which starts it again itself.
         if (trackTimer.running)
             start();
     }
 
-    // Shows the current point as the position; the emulator learns of it as a point of the track.
+    // Shows the current point as the position. The emulator has the position from its track.
     function setCurrentCoordinate() {
-        if (currentRow < 0) // the link was lost while it was told
+        // The table is cleared if the connection is lost while the row is sent.
+        if (currentRow < 0)
             return;
         const row = track.getRow(currentRow);
-        gpsManager.setLocalPosition(row["Latitude"], row["Longitude"], row["Altitude"]);
+        // Texts with group separators give NaN.
+        gpsManager.setLocalPosition(Number(row["Latitude"]), Number(row["Longitude"]),
+                                    Number(row["Altitude"]));
     }
 
-    // Sets when the next step is due; false at the end. Counts from the time when the present step
-    // was due, so that delays do not add up.
+    // Sets the time of the next step. Returns false at the end of the track. The interval counts
+    // from the time when the last step was due, so that delays do not add up.
     function scheduleStep(): bool {
         const index = gpsManager.currentPositionIndex;
         let interval = defaultInterval;
@@ -141,16 +153,16 @@ Item {
     }
 
     function runTrackTimer() {
-        trackTimer.interval = Math.max(0, Math.round(dueTime - gpsManager.monotonicTime()));
+        trackTimer.interval = Math.max(0, Math.round(dueTime - monotonicTime()));
         trackTimer.restart();
     }
 
-    // Takes all steps that are due: intervals may be shorter than the time that the window takes to
-    // draw a picture. Ends after a frame, so that the window still answers when steps take longer
+    // Takes all steps that are due, because intervals may be shorter than a frame of the window.
+    // Returns after the time of a frame, so that the window still responds if steps take longer
     // than their intervals.
     function step() {
-        const now = gpsManager.monotonicTime();
-        // a timer counts from the last picture of the window, and so may fire early
+        const now = monotonicTime();
+        // A timer may fire early because it counts from the last frame of the window.
         if (dueTime - now > frame / 2) {
             runTrackTimer();
             return;
@@ -165,7 +177,7 @@ Item {
                 synchronize();
                 return;
             }
-        } while (dueTime <= now && gpsManager.monotonicTime() - now < frame);
+        } while (dueTime <= now && monotonicTime() - now < frame);
         runTrackTimer();
     }
 
