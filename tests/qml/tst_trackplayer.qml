@@ -3,6 +3,8 @@ import QtTest
 
 import "qrc:/emulationmanagement/qml/location"
 
+import "find.js" as Find
+
 TestCase {
     id: test
 
@@ -11,7 +13,10 @@ TestCase {
     property double clock: 0
     property int stepTime: 0
 
-    name: "TrackPlayer"
+    name: "Track"
+    visible: true
+    when: windowShown
+    width: 800
 
     Component {
         id: component
@@ -24,6 +29,13 @@ TestCase {
 
             onCurrentRowChanged: test.clock += test.stepTime
         }
+    }
+
+    TrackTable {
+        id: table
+
+        height: 100
+        track: TrackModel {}
     }
 
     // The timer fires so many milliseconds after the last time. Then the track is at this point and
@@ -52,6 +64,22 @@ TestCase {
             timer.stop();
             timer.triggered();
             compare([gpsEmulationManager.currentPositionIndex, timer.interval], [index, wait]);
+        }
+    }
+
+    // The headings are above their columns, also after the table gets another width.
+    function test_headings() {
+        const view = Find.find(table, item => item instanceof TableView);
+        table.track.setRows([point]);
+        for (const width of [400, 800]) {
+            table.width = width;
+            waitForRendering(table);
+            ["No.", "Time", "Latitude", "Longitude", "Altitude"].forEach((title, column) => {
+                const heading = Find.find(table, item => item.text === title);
+                const cell = view.itemAtCell(Qt.point(column, 0));
+                compare([heading.mapToItem(view, 0, 0).x, heading.width],
+                        [cell.mapToItem(view, 0, 0).x, cell.width]);
+            });
         }
     }
 }
