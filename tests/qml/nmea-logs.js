@@ -1,8 +1,8 @@
 .pragma library
 
-// Logs as receivers write them.
+// Writes logs as receivers write them.
 
-// A repeatable source of numbers from 0 on and below a limit.
+// Returns a repeatable source of random integers from 0 to below a limit.
 function random(seed) {
     let state = seed;
     return limit => {
@@ -22,8 +22,8 @@ function padded(number, size) {
     return String(number).padStart(size, "0");
 }
 
-// One of several shapes: sentences of one or all types, of one or all talkers, with fractions of
-// seconds or not, from any time of day on, with any ends of lines.
+// Returns a log. The seed chooses one or all types of sentences, one or all talkers, the fractions
+// of seconds, the first time of day and the line breaks.
 function log(seed, epochs) {
     const next = random(seed);
     const types = [["RMC"], ["GGA"], ["GLL"], ["WPL"], ["GGA", "RMC", "GSV", "GLL", "GSA"]][next(5)];
@@ -52,7 +52,7 @@ function log(seed, epochs) {
     return lines.join(["\n", "\r\n", "\r\n\r\n"][next(3)]) + ["", "\n"][next(2)];
 }
 
-// A log with some characters lost, doubled or replaced.
+// Returns a log with some characters lost, doubled or replaced.
 function damaged(text, seed) {
     const next = random(seed);
     let result = text;

@@ -1,11 +1,12 @@
 .pragma library
 
-// Reads logs the plain way: a pattern with wildcards for each sentence, and integer arithmetic.
-// Slow for lines with many commas.
+// Reads logs in a simple way, with one pattern with wildcards for each sentence and with integer
+// arithmetic. This is slow for lines with many commas.
 
 const time = "\\d{6}(\\.\\d{2,3})?";
 const position = "\\d+\\.\\d+,(N|S),\\d+\\.\\d+,(E|W)";
-// by tag: the pattern behind the tag, and the fields of position, altitude, time and date
+// By tag: the pattern after the tag, and the numbers of the fields of position, altitude, time and
+// date. The number 0 means that the sentence has no such field.
 const sentences = {
     $GPRMC: [`${time},.*,${position},.*,.*,\\d{6},.*,.*`, 3, 0, 1, 9],
     $GPGGA: [`${time},${position},.*,.*,.*,\\d+\\.\\d+,.*,.*,.*,.*,.*`, 2, 9, 1, 0],
@@ -36,11 +37,12 @@ function stamp(date, text, previous) {
         return result.getTime() + ofDay;
     }
     const now = previous ?? Date.now();
-    const result = now - now % day + ofDay;
+    const result = Math.floor(now / day) * day + ofDay; // now is negative before 1970
     return previous !== null && result < previous ? result + day : result;
 }
 
-// The points as [latitude, longitude, altitude, time, interval], or the number of the bad line.
+// Returns the points as [latitude, longitude, altitude, time, interval], or the number of the
+// incorrect line.
 function read(text) {
     const points = [];
     let tag = null, start = null, previous = null;
@@ -64,7 +66,7 @@ function read(text) {
             altitude ? Math.round(Number(fields[altitude]) * 100) / 100 : 0,
             at0, points.length === 0 ? 0 : at0 - points[points.length - 1][3],
         ]);
-        // any text may have pushed the values out of their places
+        // free text with commas may have shifted the values
         if ([previous, ...points[points.length - 1]].some(isNaN))
             return index + 1;
     }

@@ -36,30 +36,32 @@ TestCase {
                 + ggaAt("000000"), maximumPoints: 3,
              points: [{}, {interval: 2000}, {interval: 86399000, time: 86401000,
                                              timeString: "00:00:01.0"}]},
-            // the 31st of the second month is the 3rd of the third
             {tag: "date read by the calendar", text: rmc("000000", "190194") + "\n"
                 + rmc("000000", "200194"), points: [{}, {interval: 366 * 86400000}]},
-            {tag: "day of a future year", text: rmc("000000", "310194") + "\n"
-                + rmc("000001", "310194"), points: [{}, {interval: 1000}]},
-            {tag: "other type mixed in", text: gga + "\n" + rmc("1", "1").replace("1,A", "123520,A")
-                .replace(",1,020", ",191194,020") + "\n$GNGGA,\n" + ggaAt("123520"),
+            {tag: "year in the future", text: rmc("000000", "310194") + "\n"
+                + rmc("000000", "010194"), points: [{}, {interval: Date.UTC(2001, 1, 1)
+                - Date.UTC(new Date().getFullYear() < 2031 ? 1931 : 2031, 1, 31)}]},
+            {tag: "points of another type",
+             text: [gga, rmc("123520", "191194"), "$GNGGA,", ggaAt("123520")].join("\n"),
              points: [{}, {format: "$GPGGA", interval: 1000}]},
-            {tag: "comma in free text", text: "$GPRMC,123519,A,x,4807.038,N,01131.000,E,1.5,N,"
-                + "01131.000,E,1,2,191194,3,4", error: "Incorrect NMEA file", line: 1},
-            {tag: "waypoint without comma", text: "$GPWPL,4807.038,N,01131.000,E", line: 1,
+            {tag: "shifted fields taken for values", text: "$GPRMC,123519,A,x,4807.038,N,"
+                + "01131.000,E,1.5,N,01131.000,E,1,2,191194,3,4", line: 1,
              error: "Incorrect NMEA file"},
-            {tag: "empty", text: "", error: "NMEA file is empty", line: 0},
+            {tag: "line without its last comma", text: "$GPWPL,4807.038,N,01131.000,E", line: 1,
+             error: "Incorrect NMEA file"},
+            {tag: "empty text", text: "", error: "NMEA file is empty", line: 0},
             {tag: "wrong line", text: gga + "\r\n\r\n\n$GPXXX\n" + gga.replace("N", "X"), line: 3,
              error: "Incorrect NMEA file"},
-            {tag: "only the tag", text: gga + "\n$GPGGA", line: 2, error: "Incorrect NMEA file"},
-            {tag: "no fix", text: "$GPGGA,123519,,,,,0,00,,,M,,M,,*66", line: 1,
+            {tag: "line of only a tag skipped", text: gga + "\n$GPGGA", line: 2,
              error: "Incorrect NMEA file"},
-            {tag: "too many points", text: gga + "\n" + gga + "\n" + gga, maximumPoints: 2, line: 0,
+            {tag: "missing fix accepted", text: "$GPGGA,123519,,,,,0,00,,,M,,M,,*66", line: 1,
+             error: "Incorrect NMEA file"},
+            {tag: "limit ignored", text: gga + "\n" + gga + "\n" + gga, maximumPoints: 2, line: 0,
              error: "NMEA file has more than 2 points"},
-            {tag: "only line breaks", text: "\r\n\n", error: "NMEA file has only empty lines"},
-            {tag: "position without time", text: "$GPGLL,4916.45,N,12311.12,W,A",
+            {tag: "empty lines counted", text: "\r\n\n", error: "NMEA file has only empty lines"},
+            {tag: "position without time accepted", text: "$GPGLL,4916.45,N,12311.12,W,A",
              error: 'NMEA file has a position at "A", which is not a time'},
-            {tag: "nothing known", text: "$GNGGA\n\n$GPGGAX,1\n x\n", error: unknown, line: 3},
+            {tag: "unknown tag accepted", text: "$GNGGA\n\n$GPGGAX,1\n x\n", error: unknown, line: 3},
         ];
     }
 
@@ -78,7 +80,7 @@ TestCase {
         });
     }
 
-    // Points without an interval must not pass for points without a time.
+    // Points with the interval 0 do not count as points without a time.
     function test_pointsWithoutTime() {
         const waypoint = "$GPWPL,4807.038,N,01131.000,E,W*5C\n";
         for (const [text, answer] of [[waypoint, false], [waypoint + waypoint, true],
@@ -102,18 +104,18 @@ TestCase {
         }
     }
 
-    // What is accepted must be what the patterns accept, and where they fail the line must be right.
+    // Accepted logs give the points of the reference, refused logs its line number.
     function test_damagedLogs() {
         for (let seed = 0; seed < 1000; ++seed) {
             const text = Logs.damaged(Logs.log(seed, 3), seed);
             const result = read(text);
             const expected = Reference.read(text);
-            if (result !== undefined) // nothing known, or a position without time
+            if (result !== undefined) // the error has no line, or no sentence is known
                 compare(result, expected, text);
         }
     }
 
-    // A pattern with as many wildcards would take years.
+    // A pattern with wildcards would try all combinations of these commas, which takes years.
     function test_manyCommas() {
         compare(read("$GPGGA,123519,4807.038,N,01131.000,E" + ",".repeat(100000)), 1);
     }
