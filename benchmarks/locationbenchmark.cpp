@@ -37,7 +37,7 @@ static QByteArray sentence(const QString &body)
     return '$' + text + '*' + QByteArray::number(sum, 16).toUpper().rightJustified(2, '0') + "\r\n";
 }
 
-/// Kilobytes: "VmHWM" is the peak memory of the process, "VmRSS" its present memory.
+/// Returns kilobytes: "VmHWM" is the peak memory of the process, "VmRSS" its current memory.
 static double memory(const QByteArray &key)
 {
     QFile file("/proc/self/status");
@@ -51,7 +51,7 @@ static double memory(const QByteArray &key)
     return 0;
 }
 
-/// The item of the type that \a file defines.
+/// Returns the item of the type that \a file defines.
 static QQuickItem *item(const QByteArray &file)
 {
     const QList<QQuickItem *> items = view()->rootObject()->findChildren<QQuickItem *>();
@@ -67,7 +67,7 @@ static int lastRow()
     return gpsPage()->property("lastRow").toInt();
 }
 
-/// Milliseconds from the choice of the file to the first frame with the table.
+/// Returns the milliseconds from the choice of the file to the first frame with the table.
 static double showTrack(const QString &log)
 {
     QElapsedTimer timer;
@@ -199,7 +199,7 @@ void LocationBenchmark::testUpload()
     std::vector<double> times;
     std::vector<double> loops;
     for (int round = 0; round < 5; ++round) {
-        // without a connection the text is made but not sent
+        // Without a connection, the text is made but not sent.
         times.push_back(millisecondsOf([&] {
             QMetaObject::invokeMethod(gpsManager(), "loadTrack", Q_ARG(QVariantList, track));
         }));
@@ -235,7 +235,7 @@ void LocationBenchmark::testPlayback()
     file.close();
     static_cast<void>(showTrack(file.fileName()));
 
-    // a sequence of single-shot timers with the same precision as those of the page
+    // A sequence of single-shot timers with the precision of the page's timers.
     int bareSteps = 0;
     double bareTime = 0;
     QElapsedTimer clock;
@@ -246,7 +246,7 @@ void LocationBenchmark::testPlayback()
         if (++bareSteps < steps)
             bare.start(interval);
     });
-    // not waitFor(), which blocks the event loop for milliseconds at a time
+    // waitFor() would block the event loop for milliseconds at a time.
     QSignalSpy stepped(gpsManager(), SIGNAL(currentPositionIndexChanged()));
     clock.start();
     bare.start(interval);

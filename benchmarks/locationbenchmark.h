@@ -6,8 +6,8 @@
 /*!
  * Measures reading, showing, uploading and playing tracks.
  *
- * One kind of log resembles that of a receiver: every eighth sentence is a point. The limits apply
- * to this kind. The other kind is the worst case: every sentence is a point.
+ * There are two kinds of logs. In a receiver's log, each eighth sentence is a point; the limits are
+ * for this kind. A log of points only is the worst case.
  */
 class LocationBenchmark : public QObject
 {
@@ -22,7 +22,7 @@ private Q_SLOTS:
 
 private:
     [[nodiscard]] QString writeLog(const QString &name, int sentences, bool pointsOnly);
-    /// Milliseconds that the plugin's script needs to parse the log; the result is dropped.
+    /// Returns the milliseconds that the plugin's script needs to parse the log.
     [[nodiscard]] double parse(const QString &log);
 
     QTemporaryDir m_folder;

@@ -14,7 +14,7 @@ namespace EmulationManagement::Internal {
 constexpr int coordinateDecimals = 7;
 constexpr int altitudeDecimals = 2;
 
-// Of a point of a track.
+// The keys of a track point.
 const QString latitudeKey = u"latitude"_s;
 const QString longitudeKey = u"longitude"_s;
 const QString altitudeKey = u"altitude"_s;
@@ -25,13 +25,13 @@ static double numberOr(double value, double replacement)
     return std::isnan(value) ? replacement : value;
 }
 
-// What a point of a track lacks, or what is no number, counts as 0.
+// Returns 0 if the point has no such key or its value is not a number.
 static double numberOf(const QVariantMap &point, const QString &key)
 {
     const auto value = point.constFind(key);
     if (value == point.cend())
         return 0;
-    // the page gives texts, which a variant would convert by a detour
+    // The page passes texts, which QVariant::toDouble() converts more slowly.
     const auto *text = get_if<QString>(&*value);
     return numberOr(text ? text->toDouble() : value->toDouble(), 0);
 }
@@ -117,7 +117,8 @@ void GPSEmulationManager::setupGPSData()
 
 void GPSEmulationManager::setLocalPosition(double latitude, double longitude, double altitude)
 {
-    // The page passes "1,234.00" of its table, which is not a number: that coordinate stays.
+    // The page converts the texts of its table, of which "1,234.00" is not a number. The coordinate
+    // then keeps its value.
     m_currentPosition->setValues(numberOr(latitude, m_currentPosition->latitude()),
                                  numberOr(longitude, m_currentPosition->longitude()),
                                  numberOr(altitude, m_currentPosition->altitude()));
@@ -176,7 +177,7 @@ void GPSEmulationManager::loadTrack(const QVariantList &trackPoints)
             QString::number(numberOf(point, intervalKey)),
         });
     }
-    // before the call: the loss of the link, which may show in it, takes the track away again
+    // Set before the call, because the call may notice that the link is lost, which resets both.
     m_currentPositionIndex = 0;
     m_trackLoaded = true;
     callDBusMethod(u"loadTrack"_s, points.toString());

@@ -15,9 +15,10 @@ namespace EmulationManagement::Internal {
 /*!
  * Sends positions and tracks to the emulator's location service and keeps what was sent.
  *
- * Each call changes the local state as soon as it is handed on, whatever the emulator answers.
- * Values are not checked: the page bounds them. A coordinate that is not a number leaves the one
- * before as it is. Every set notifies, also when nothing changed.
+ * Each call is handed to the link and changes the local state, whatever the emulator replies.
+ * Latitudes and longitudes are degrees, altitudes are metres. The manager does not check ranges,
+ * because the page's fields do. A coordinate that is not a number is not changed. Every setter
+ * notifies, even if the value stays the same.
  */
 class GPSEmulationManager : public EmulationManager
 {
@@ -40,28 +41,28 @@ public:
     QString dbusService() const override;
     QString dbusObject() const override;
     QString dbusInterface() const override;
-    /// Does nothing: no call of the location service returns a value.
+    /// Does nothing, because no method of the location service returns a value.
     void processDBusMethodsReturnValues(const QStringList &values) override;
 
     [[nodiscard]] PositionModel *currentPosition() const;
     [[nodiscard]] bool trackLooped() const;
     [[nodiscard]] bool useDefaultInterval() const;
-    /// Multiplier of the playback speed.
+    /// The multiplier of the playback speed.
     [[nodiscard]] int trackSpeed() const;
-    /// Index of the current track point.
+    /// The index of the current track point.
     [[nodiscard]] int currentPositionIndex() const;
     Q_INVOKABLE void setCurrentPositionIndex(int index);
     /// True from the upload of a track until the next set-up.
     [[nodiscard]] bool trackLoaded() const;
 
     /*!
-     * Brings the emulator to a known state: track stopped, options and saved position sent.
+     * Stops the track and sends the playback options and the saved position.
      *
-     * The track is not sent again; trackLoaded() tells the page to do so.
+     * Does not send the track again. trackLoaded() tells the page to send it.
      */
     void setupGPSData();
 
-    /// Shows and saves a position that the emulator learns in another way.
+    /// Shows and saves a position without sending it. The emulator gets it as a track point.
     Q_INVOKABLE void setLocalPosition(double latitude, double longitude, double altitude);
     Q_INVOKABLE void setPosition(double latitude, double longitude, double altitude);
     Q_INVOKABLE void setLatitude(double latitude);
@@ -69,8 +70,8 @@ public:
     Q_INVOKABLE void setAltitude(double altitude);
     /*!
      * Uploads a track in one call. Each point is a map with "latitude", "longitude", "altitude"
-     * and "interval" (milliseconds since the point before), as numbers or as texts of the C
-     * locale; what is missing or does not convert is sent as 0.
+     * and "interval" (milliseconds since the previous point), as numbers or as texts in the C
+     * locale. A missing value, or one that is not a number, is sent as 0.
      */
     Q_INVOKABLE void loadTrack(const QVariantList &trackPoints);
     Q_INVOKABLE void startTrack();
@@ -82,10 +83,10 @@ public:
     Q_INVOKABLE void setTrackSpeed(int speed);
     Q_INVOKABLE void goToPositionOnTrack(int index);
 
-    /// Milliseconds of a clock that nobody sets.
+    /// Returns the milliseconds of a clock that nobody sets.
     [[nodiscard]] Q_INVOKABLE static double monotonicTime();
-    /// Bytes of a local file, or -1 for what is missing and for folders, pipes and devices. Reading
-    /// a pipe may take for ever, reading a device never end.
+    /// Returns the bytes of a local file, or -1 if it does not exist or is a folder, a pipe or a
+    /// device. Reading a pipe may block forever, and reading a device may never end.
     [[nodiscard]] Q_INVOKABLE static qint64 fileSize(const QUrl &url);
 
 Q_SIGNALS:

@@ -6,9 +6,10 @@
 namespace EmulationManagement::Internal {
 
 /*!
- * A position: latitude and longitude in degrees (north and east positive), altitude in metres.
+ * Holds a position: latitude and longitude in degrees (north and east positive), and altitude in
+ * metres.
  *
- * Setters always notify, also when the value stays the same.
+ * Setters always notify, even if the value stays the same.
  */
 class PositionModel : public QObject
 {

@@ -1,12 +1,13 @@
 .pragma library
 
-// Reads a file and calls back with its text, or with null if it cannot be read.
+// Reads a file and calls back with its text, or with null if the file cannot be read.
 function read(url, callback) {
     const request = new XMLHttpRequest();
     request.onreadystatechange = () => {
         if (request.readyState !== XMLHttpRequest.DONE)
             return;
-        // an empty file has no status, but only one that was opened has headers
+        // The status does not tell whether the file was opened: an empty file has none. The headers
+        // do.
         const opened = request.getAllResponseHeaders() !== "";
         callback(opened ? request.responseText : null);
     };

@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Controls
 
-// A button with a picture instead of a text, in the colour that texts have in the IDE's theme.
+// A button with a picture instead of a text. The picture has the text colour of the IDE's theme.
 Button {
     id: root
 

@@ -5,14 +5,14 @@ import org.plova 1.0
 
 import "../shared"
 
-// Buttons to play a track, and how it is played.
+// Buttons that play a track, and the options of its playback.
 Flow {
     id: root
 
     required property GPSEmulationManager gpsManager
     property bool playing: false
     property bool stopped: true
-    // The track has no speed of its own.
+    // Whether the track has no intervals of its own.
     property bool onlyDefaultInterval: false
 
     signal playClicked

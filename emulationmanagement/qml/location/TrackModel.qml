@@ -4,7 +4,8 @@ import Qt.labs.qmlmodels
 TableModel {
     id: root
 
-    // Untyped, and so not compiled to C++, whose lists the model takes for no arrays.
+    // The parameter has no type, so that this function is not compiled to C++: a TableModel accepts
+    // a JavaScript array, but not the list that compiled code passes.
     function setRows(points) {
         root.rows = points;
     }

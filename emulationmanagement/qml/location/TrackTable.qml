@@ -11,7 +11,7 @@ ColumnLayout {
     required property TrackModel track
     readonly property int rowCount: track.rowCount
     property int currentRow: -1
-    // The current row stays in the middle, wherever it goes.
+    // Whether the current row is scrolled to the middle. Otherwise it is only scrolled into view.
     property bool centred: false
 
     readonly property color highlightColor: themeHighlightColor // qmllint disable unqualified
@@ -37,8 +37,8 @@ ColumnLayout {
 
     spacing: 0
 
-    // Also while nothing plays, so that the first row is seen when a track was stopped. Called
-    // later, as rows may change several times between two pictures.
+    // The table scrolls also when nothing is played, so that the first row is visible after a stop.
+    // The call is delayed because the row may change several times between two frames.
     onCurrentRowChanged: Qt.callLater(showRow, currentRow,
                                       centred ? TableView.AlignVCenter : TableView.Contain)
 
@@ -85,7 +85,7 @@ ColumnLayout {
         delegate: Rectangle {
             id: cell
 
-            required property var display
+            required property string display
             required property int row
 
             readonly property bool highlighted: row === root.currentRow
@@ -104,8 +104,8 @@ ColumnLayout {
             }
         }
 
-        // Without a selection model, the view has no navigation of its own. That would stop at each
-        // cell for the Tab key.
+        // The view has no selection model and so no key navigation of its own, in which the Tab key
+        // would stop at each cell.
         Keys.onDownPressed: root.chooseNeighbour(1)
         Keys.onUpPressed: root.chooseNeighbour(-1)
         ScrollBar.vertical: ScrollBar {}
