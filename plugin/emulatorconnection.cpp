@@ -1,4 +1,4 @@
-// The part of EmulationManagementPlugin that follows the emulator, prepares it and opens the window.
+// The part of EmulationManagementPlugin that prepares the emulator and opens the window.
 
 #include "emulationmanagementplugin.h"
 
