@@ -10,22 +10,9 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <span>
-
 namespace TestSupport {
 
 using namespace Qt::StringLiterals;
-
-/// Adds a row for each text "call > result > …": the call is the row's name, the parts of the text
-/// are its data.
-inline void addCallRows(std::span<const char *const> calls)
-{
-    QTest::addColumn<QStringList>("row");
-    for (const char *call : calls) {
-        const QStringList row = QString::fromLatin1(call).split(u" > "_s);
-        QTest::newRow(qPrintable(row.constFirst())) << row;
-    }
-}
 
 /// A manager of the D-Bus service \a service, connected to a recording relay. The manager has sent
 /// nothing yet, because its link was already connected when it got it.
