@@ -80,9 +80,11 @@ const firstFields = new RegExp(anything + `(?:,(${anything}))?`.repeat(9), "y");
 const nonEmptyLine = /[^\r\n]+/g;
 const restOfLine = /[^\r\n]*/y;
 
-// The number of points at the first collection of garbage. It doubles each time, so that all
-// collections together take a time that is proportional to the length of the log.
-const firstCollection = 8192;
+// The place in the text where garbage is first collected. Each later place is a multiple of the
+// previous one, so that all collections together take a time that is proportional to the length of
+// the log.
+const firstCollection = 500000;
+const collectionGrowth = 1.5;
 
 // Returns a pattern that matches at each place of a text where no line begins with these fields.
 function notAt(...fields) {
@@ -257,9 +259,9 @@ function loadNmeaLog(text, maximumPoints = Infinity) {
             throw incorrectLineError(text, start);
         if (format !== null && tag !== format)
             continue;
-        if (points.length === nextCollection) {
+        if (start >= nextCollection) {
             collectGarbage();
-            nextCollection *= 2;
+            nextCollection = collectionGrowth * start;
         }
         const fields = fieldsAt(text, start);
         const point = pointOf(tag, fields);
