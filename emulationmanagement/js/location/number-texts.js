@@ -4,14 +4,15 @@
 // Numbers as the user reads and types them: in English, whatever the user's language is. The texts
 // have group separators, for example "1,234.00".
 
+const {altRoundingSize, latLongRoundingSize} = TrackPoints;
 const locale = Qt.locale("en_US");
 
 function degreesText(degrees) {
-    return degrees.toLocaleString(locale, "f", TrackPoints.latLongRoundingSize);
+    return degrees.toLocaleString(locale, "f", latLongRoundingSize);
 }
 
 function metresText(metres) {
-    return metres.toLocaleString(locale, "f", TrackPoints.altRoundingSize);
+    return metres.toLocaleString(locale, "f", altRoundingSize);
 }
 
 function percentText(fraction) {
