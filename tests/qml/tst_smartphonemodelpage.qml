@@ -78,8 +78,8 @@ Item {
 
         function test_sliders() {
             const expected = [0, 0, 0, 0, 0, 0];
-            for (const [i, label] of ["X-Rot", "Y-Rot", "Z-Rot", "X", "Y", "Z"].entries()) {
-                page.rotationMode = i < 3;
+            for (const [i, label] of ["X", "Y", "Z", "X-Rot", "Y-Rot", "Z-Rot"].entries()) {
+                mouseClick(Find.find(page, item => item.text === (i < 3 ? "Move" : "Rotation")));
                 const before = sent("magnetometer");
                 const slider = Find.find(page, item => item.visible && item.label === label);
                 Find.find(slider, item => item instanceof TextField).forceActiveFocus();
@@ -87,8 +87,8 @@ Item {
                     keyClick(key);
                 keyClick(Qt.Key_Return);
                 expected[i] = (i + 1) / 10;
-                compare([...motion.rotation, ...motion.displacement], expected);
-                compare(sent("magnetometer").join() !== before.join(), page.rotationMode, label);
+                compare([...motion.displacement, ...motion.rotation], expected);
+                compare(sent("magnetometer").join() !== before.join(), i >= 3, label);
             }
         }
 
