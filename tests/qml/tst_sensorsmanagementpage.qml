@@ -48,19 +48,15 @@ Item {
             mouseClick(find(title));
         }
 
-        // The first letters of the sensors whose boxes are checked.
+        // The first letters of the sensors whose boxes are checked, from the top to the bottom.
         function checked(): string {
-            return titles.filter(title => find(title).checked).map(title => title[0]).join("");
+            return titles.map(find).filter(box => box.checked).sort((one, other) => one.y - other.y)
+                         .map(box => box.text[0]).join("");
         }
 
         function enabled(): string {
             const states = sensorsEmulationManager.sensorsEnabledStates;
             return Object.keys(states).filter(name => states[name]).join(" ");
-        }
-
-        function test_boxesStandInOrder() {
-            tryVerify(() => find(titles[0]).height > 0 && titles.every(
-                (title, i) => i === 0 || find(title).y > find(titles[i - 1]).y));
         }
 
         function test_dependencies_data(): var {
@@ -132,9 +128,9 @@ Item {
             click("GPS Management");
             compare(host.questions,
                     ["The sensor configuration has been changed. Apply or discard changes?"]);
-            compare(sensorsEmulationManager.sensorsEnabledStates.gyroscope, row.enabled);
-            compare(sensorsEmulationManager.sensorsEnabledStates.tap, true);
-            compare(view.pagesIds[0].active, !row.left);
+            const {gyroscope, tap} = sensorsEmulationManager.sensorsEnabledStates;
+            compare([gyroscope, tap, checked().includes("G"), view.pagesIds[0].active],
+                    [row.enabled, true, row.enabled && row.left, !row.left]);
         }
     }
 }
