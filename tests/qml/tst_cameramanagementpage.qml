@@ -166,11 +166,11 @@ Item {
 
         function test_namesAreNoMarkup() {
             open(["A & <b>B</b>" + rear.substring(4)]);
+            click("Set settings");
             comboBox("Camera").popup.open();
-            const entry = Find.find(comboBox("Camera").popup.contentItem,
-                                    item => item.text === "A & <b>B</b>");
-            compare(entry.contentItem.text, entry.text);
-            compare(entry.contentItem.textFormat, Text.PlainText);
+            const plain = item => item.text === "A & <b>B</b>" && item.textFormat === Text.PlainText;
+            verify(Find.find(page, plain));
+            verify(Find.find(comboBox("Camera").popup.contentItem, plain));
             comboBox("Camera").popup.close();
         }
 
