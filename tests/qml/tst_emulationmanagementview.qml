@@ -65,6 +65,7 @@ Item {
                 compare(shownPage(), title);
             }
             compare(host.questions, []);
+            verify(Qt.colorEqual(view.color, themeBackgroundColorNormal));
         }
 
         function test_warning_data(): var {
