@@ -104,6 +104,24 @@ Item {
             compare(settings.readDoNotShowAgainResetSensorsDialog(), row.saved ?? false);
         }
 
+        // Each field refuses the key that would take its number out of the range.
+        function test_coordinates() {
+            mouseClick(button("GPS Management"));
+            const limits = {Latitude: [-90, 90], Longitude: [-180, 180], Altitude: [-1000, 10000]};
+            for (const label in limits) {
+                const field = Find.find(view.pagesIds[3], item => item instanceof TextField
+                                                                  && item.Accessible.name === label);
+                field.forceActiveFocus();
+                for (const limit of limits[label]) {
+                    keyClick(Qt.Key_A, Qt.ControlModifier);
+                    for (const key of limit + ".1")
+                        keyClick(key);
+                    keyClick(Qt.Key_Return);
+                    compare(gpsEmulationManager.currentPosition[label.toLowerCase()], limit);
+                }
+            }
+        }
+
         function test_errorDialogFollowsMessages() {
             const dialog = view.errorDialog;
             host.receive(""); // not a message
