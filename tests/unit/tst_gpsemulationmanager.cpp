@@ -48,7 +48,9 @@ private Q_SLOTS:
         add("NaN sent", "setPosition(NaN, NaN, 0)",
             "setPosition double:1.5000000 double:2.5000000 double:0.00",
             "1.5 2.5 0 false false 1 7 false", "");
-        add("NaN as altitude", "setAltitude(NaN)", "", "1.5 2.5 3.5 false false 1 7 false", "");
+        add("NaN as a coordinate",
+            "setLatitude(NaN) ?? manager.setLongitude(NaN) ?? manager.setAltitude(NaN)", "",
+            "1.5 2.5 3.5 false false 1 7 false", "");
         add("place of the track kept", "stopTrack()", "stopTrack ",
             "1.5 2.5 3.5 false false 1 0 false", "index");
         add("no signal without a change", "setTrackLooped(false)", "setTrackLooped boolean:0",
