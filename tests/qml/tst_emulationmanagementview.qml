@@ -137,6 +137,8 @@ Item {
             tryCompare(dialog, "opened", true);
             keyClick(Qt.Key_Return);
             tryCompare(dialog, "visible", false);
+            view.pagesIds[3].showTrack("$GPGLL,");
+            compare(dialog.text, "Incorrect NMEA file, line: 1");
         }
     }
 }
