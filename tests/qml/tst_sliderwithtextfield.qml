@@ -67,7 +67,6 @@ Item {
             const kept = {value: 1500.4, shown: "1.500", sent: 0, properties: {value: 1500.4}};
             return [
                 {tag: "text lost with focus", text: "1.5", value: 1500, shown: "1.500"},
-                {tag: "sign lost", key: Qt.Key_Return, text: "-0.25", value: -250, shown: "-0.250"},
                 {tag: "unfinished fraction lost", text: "1.", value: 1000, shown: "1.000"},
                 Object.assign({tag: "empty text sent", text: ""}, kept),
                 Object.assign({tag: "lone sign sent", key: Qt.Key_Return, text: "-"}, kept),
