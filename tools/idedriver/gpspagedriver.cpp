@@ -6,6 +6,8 @@
 #include <QQuickItem>
 #include <QUrl>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 GpsPageDriver::GpsPageDriver(const WindowDriver &driver)
@@ -49,15 +51,18 @@ void GpsPageDriver::clickTrackButton(const QString &name) const
 
 void GpsPageDriver::clickRow(int row) const
 {
-    const QList<QQuickItem *> labels = m_driver.items(u"QQuickLabel"_s, table());
-    for (const QQuickItem *label : labels) {
-        const QQuickItem *cell = label->parentItem();
-        if (cell->property("row").toInt() == row && cell->property("row").isValid()) {
-            m_driver.click(label);
-            return;
-        }
-    }
-    throw WaitingFailed("there is no row " + std::to_string(row));
+    const QQuickItem *labelOfRow = nullptr;
+    // The table creates the items of a row when it draws the row for the first time.
+    waitFor(u"row %1"_s.arg(row), [&] {
+        const QList<QQuickItem *> labels = m_driver.items(u"QQuickLabel"_s, table());
+        const auto label = std::ranges::find_if(labels, [row](const QQuickItem *item) {
+            const QVariant rowOfCell = item->parentItem()->property("row");
+            return rowOfCell.isValid() && rowOfCell.toInt() == row;
+        });
+        labelOfRow = label == labels.cend() ? nullptr : *label;
+        return labelOfRow != nullptr;
+    });
+    m_driver.click(labelOfRow);
 }
 
 QQuickItem *GpsPageDriver::progress() const
