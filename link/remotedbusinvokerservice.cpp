@@ -8,11 +8,15 @@ namespace EmulationManagement::Internal {
 
 const QString RemoteDBusInvokerService::portForwardingRule = u"emulationmanagementtcp"_s;
 
+static constexpr qsizetype longRequest = 1 << 20; // characters, which take a millisecond or two
+
 RemoteDBusInvokerService::RemoteDBusInvokerService(QObject *parent)
     : QObject(parent)
 {
     m_retryTimer.setSingleShot(true);
     connect(&m_retryTimer, &QTimer::timeout, this, &RemoteDBusInvokerService::connectToEmulator);
+    m_pause.setSingleShot(true);
+    connect(&m_pause, &QTimer::timeout, this, &RemoteDBusInvokerService::sendWaitingRequests);
 }
 
 RemoteDBusInvokerService::~RemoteDBusInvokerService()
@@ -24,7 +28,7 @@ RemoteDBusInvokerService::~RemoteDBusInvokerService()
 
 void RemoteDBusInvokerService::createWebSocket()
 {
-    m_webSocket.emplace(QString(), QWebSocketProtocol::Version13);
+    m_webSocket.emplace(QString(), QWebSocketProtocol::Version13, this);
     QWebSocket *webSocket = &*m_webSocket;
     webSocket->setMaxAllowedIncomingFrameSize(maxReplySize);
     webSocket->setMaxAllowedIncomingMessageSize(maxReplySize);
@@ -51,7 +55,11 @@ void RemoteDBusInvokerService::handleDisconnected()
     // Wait before reconnecting to a relay that accepts connections only to close them.
     const bool wasUsable
         = m_sinceConnected.isValid() && m_sinceConnected.durationElapsed() >= retryInterval;
+    const bool wasConnected = m_sinceConnected.isValid();
     m_sinceConnected.invalidate();
+    m_waitingRequests.clear();
+    if (wasConnected)
+        Q_EMIT connectionLost();
     Q_EMIT webSocketDisconnected();
     if (wasUsable)
         connectToEmulator();
@@ -63,17 +71,36 @@ void RemoteDBusInvokerService::callDBusMethod(const QString &bus, const QString 
                                               const QString &objectPath, const QString &interface,
                                               const QString &method, const QString &arguments)
 {
+    sendRequest(request(bus, service, objectPath, interface, method, arguments));
+}
+
+QString RemoteDBusInvokerService::request(const QString &bus, const QString &service,
+                                          const QString &objectPath, const QString &interface,
+                                          const QString &method, const QString &arguments)
+{
+    return bus + u' ' + service + u' ' + objectPath + u' ' + interface + u' ' + method + u' '
+           + arguments;
+}
+
+void RemoteDBusInvokerService::sendRequest(const QString &request)
+{
     if (!m_webSocket)
         return;
-    // Fill the arguments last: a "%1" in them must not be taken for a placeholder.
-    m_webSocket->sendTextMessage(u"%1 %2 %3 %4 %5 %6"_s.arg(bus)
-                                     .arg(service)
-                                     .arg(objectPath)
-                                     .arg(interface)
-                                     .arg(method)
-                                     .arg(arguments));
+    if (m_pause.isActive()) {
+        m_waitingRequests.enqueue(request);
+        return;
+    }
+    m_webSocket->sendTextMessage(request);
     // Send now: the pages update before the event loop would flush the socket.
     m_webSocket->flush();
+    if (request.size() >= longRequest)
+        m_pause.start();
+}
+
+void RemoteDBusInvokerService::sendWaitingRequests()
+{
+    while (!m_waitingRequests.isEmpty() && !m_pause.isActive())
+        sendRequest(m_waitingRequests.dequeue());
 }
 
 } // namespace EmulationManagement::Internal

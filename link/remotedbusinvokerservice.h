@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QQueue>
 #include <QString>
 #include <QTimer>
 #include <QWebSocket>
@@ -54,8 +55,22 @@ public:
     void callDBusMethod(const QString &bus, const QString &service, const QString &objectPath,
                         const QString &interface, const QString &method, const QString &arguments);
 
+    /// Returns the request that callDBusMethod() sends, so that it can be made in another thread.
+    [[nodiscard]] static QString request(const QString &bus, const QString &service,
+                                         const QString &objectPath, const QString &interface,
+                                         const QString &method, const QString &arguments);
+    /*!
+     * Sends one text frame. While the link is down, the request is dropped without a reply.
+     *
+     * Sending a long request, such as a track, takes tens of milliseconds. The requests after it
+     * are sent, in order, when the event loop has handled other events.
+     */
+    void sendRequest(const QString &request);
+
 Q_SIGNALS:
     void webSocketConnected();
+    /// A connection was lost. webSocketDisconnected() follows.
+    void connectionLost();
     /// A connection was lost, or an attempt to connect failed.
     void webSocketDisconnected();
     /// A reply line of the relay, unchanged.
@@ -64,12 +79,15 @@ Q_SIGNALS:
 private:
     void createWebSocket();
     void handleDisconnected();
+    void sendWaitingRequests();
 
     // Created by the first connectToEmulator(): the first socket of a process loads the TLS
     // library, which would be the largest part of the plugin's C++ start-up time.
     std::optional<QWebSocket> m_webSocket;
     QElapsedTimer m_sinceConnected; // invalid while there is no connection
     QTimer m_retryTimer;
+    QTimer m_pause; // active from a long request until the next ones may be sent
+    QQueue<QString> m_waitingRequests;
 };
 
 } // namespace EmulationManagement::Internal

@@ -55,6 +55,28 @@ private Q_SLOTS:
         QCOMPARE(relay.takeRequests(link), QStringList{request});
     }
 
+    // A long request keeps the event loop busy, so the next ones wait for its next turn.
+    void longRequestsTakeTurns()
+    {
+        TestSupport::RecordingRelay relay;
+        Link link;
+        QVERIFY(relay.connectLink(link));
+        const QString track(2'000'000, u'7');
+        const QStringList requests{track, u"a"_s, track, u"b"_s, u"c"_s};
+        for (const QString &request : requests)
+            link.sendRequest(request);
+        QCOMPARE(relay.takeRequests(link), requests);
+
+        QSignalSpy lost(&link, &Link::connectionLost);
+        QSignalSpy connected(&link, &Link::webSocketConnected);
+        relay.dropClients();
+        link.sendRequest(track);
+        link.sendRequest(u"for the lost connection"_s);
+        QVERIFY(connected.wait());
+        QCOMPARE(relay.takeRequests(link), QStringList());
+        QCOMPARE(lost.size(), 1);
+    }
+
     void retriesUntilSomethingListens()
     {
         TestSupport::RecordingRelay relay;
