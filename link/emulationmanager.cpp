@@ -2,6 +2,8 @@
 
 #include "remotedbusinvokerservice.h"
 
+#include <QStringTokenizer>
+
 using namespace Qt::StringLiterals;
 
 namespace EmulationManagement::Internal {
@@ -36,7 +38,9 @@ void EmulationManager::processReplyFromEmulator(const QString &reply)
         Q_EMIT replyFromEmulatorReceived(reply);
         return;
     }
-    const QStringList fields = reply.split(u':');
+    QStringList fields;
+    for (const QStringView field : QStringTokenizer(reply, u':'))
+        fields.append(QString::fromRawData(field.data(), field.size()));
     if (!fields.at(errorNameField).isEmpty()) {
         Q_EMIT replyFromEmulatorReceived(
             u"%1 %2"_s.arg(fields.at(errorNameField), fields.at(errorTextField)));
@@ -53,6 +57,17 @@ void EmulationManager::callDBusMethod(const QString &method, const QString &argu
     const QString objectPath = dbusObject();
     const QString interface = dbusInterface();
     m_rdbusinvoker->callDBusMethod(busName, service, objectPath, interface, method, arguments);
+}
+
+QString EmulationManager::request(const QString &method, const QString &arguments) const
+{
+    return RemoteDBusInvokerService::request(bus(), dbusService(), dbusObject(), dbusInterface(),
+                                             method, arguments);
+}
+
+void EmulationManager::sendRequest(const QString &request)
+{
+    m_rdbusinvoker->sendRequest(request);
 }
 
 } // namespace EmulationManagement::Internal

@@ -31,7 +31,8 @@ public:
     virtual QString dbusInterface() const = 0;
     /*!
      * Handles the five fields of a successful reply: method, its arguments joined with "|",
-     * returned value and two empty texts.
+     * returned value and two empty texts. They are parts of the line and not copies, because a
+     * track is long: a field that is kept must be copied.
      */
     virtual void processDBusMethodsReturnValues(const QStringList &values) = 0;
 
@@ -67,6 +68,9 @@ protected:
      * have been set.
      */
     void callDBusMethod(const QString &method, const QString &arguments);
+    /// Returns the request of such a call, which sendRequest() sends.
+    [[nodiscard]] QString request(const QString &method, const QString &arguments) const;
+    void sendRequest(const QString &request);
 
 private:
     RemoteDBusInvokerService *m_rdbusinvoker = nullptr;
