@@ -14,7 +14,8 @@ namespace NimbraEmulator {
 
 using namespace Qt::StringLiterals;
 
-// The journal keeps only the beginning of longer replies, because requested faults send huge ones.
+// The journal keeps only the beginning of longer lines: tracks may have a million points, and
+// requested faults send huge replies.
 static constexpr qsizetype longestJournalText = 1 << 20;
 
 static QJsonValue toJson(const QVariant &argument)
@@ -33,13 +34,15 @@ static QJsonValue toJson(const QVariant &argument)
 
 static QJsonObject toJson(const QString &line, const Request &request)
 {
-    QJsonObject details{{u"text"_s, line}};
+    QJsonObject details{{u"text"_s, line.left(longestJournalText)}};
     if (request.error.isEmpty()) {
+        details.insert("service"_L1, request.service);
+        details.insert("method"_L1, request.method);
+        if (line.size() > longestJournalText)
+            return details;
         QJsonArray arguments;
         for (const QVariant &argument : request.arguments)
             arguments.append(toJson(argument));
-        details.insert("service"_L1, request.service);
-        details.insert("method"_L1, request.method);
         details.insert("arguments"_L1, arguments);
     }
     return details;
