@@ -34,10 +34,10 @@ QString joinArguments(const QStringList &arguments)
     return arguments.join(u' ');
 }
 
-DoubleArraysArgument::DoubleArraysArgument(qsizetype expectedSize)
-    : m_text(u"array:array:double:"_s)
+DoubleArraysArgument::DoubleArraysArgument(const QString &begin, qsizetype expectedSize)
 {
-    m_text.reserve(expectedSize);
+    m_text.reserve(begin.size() + expectedSize);
+    m_text += begin + "array:array:double:"_L1;
 }
 
 void DoubleArraysArgument::append(std::initializer_list<QString> numbers)

@@ -38,8 +38,9 @@ namespace EmulationManagement::Internal {
 class DoubleArraysArgument
 {
 public:
-    /// \a expectedSize is an estimate of the length of the whole text, in characters.
-    explicit DoubleArraysArgument(qsizetype expectedSize);
+    /// \a begin is text before the argument; \a expectedSize is an estimate of the length of the
+    /// argument, in characters.
+    DoubleArraysArgument(const QString &begin, qsizetype expectedSize);
 
     /// Appends an inner array. \a numbers are texts in the C locale.
     void append(std::initializer_list<QString> numbers);

@@ -1,5 +1,7 @@
 #include "gpsemulationmanager.h"
 
+#include "trackargument.h"
+
 #include <link/argumentencoding.h>
 
 #include <QFileInfo>
@@ -11,8 +13,10 @@ using namespace Qt::StringLiterals;
 
 namespace EmulationManagement::Internal {
 
-constexpr int coordinateDecimals = 7;
-constexpr int altitudeDecimals = 2;
+static constexpr int coordinateDecimals = TrackArgument::coordinateDecimals;
+static constexpr int altitudeDecimals = TrackArgument::altitudeDecimals;
+
+static const QString loadTrackMethod = u"loadTrack"_s;
 
 // The keys of a track point.
 const QString latitudeKey = u"latitude"_s;
@@ -31,14 +35,13 @@ static double numberOf(const QVariantMap &point, const QString &key)
     const auto value = point.constFind(key);
     if (value == point.cend())
         return 0;
-    // The page passes texts, which QVariant::toDouble() converts more slowly.
-    const auto *text = get_if<QString>(&*value);
-    return numberOr(text ? text->toDouble() : value->toDouble(), 0);
+    return numberOr(value->toDouble(), 0);
 }
 
 GPSEmulationManager::GPSEmulationManager(QObject *parent)
     : EmulationManager(parent)
     , m_currentPosition(new PositionModel(this))
+    , m_trackReader(request(loadTrackMethod, {}))
 {
     connect(this, &EmulationManager::emulatorConnected, this, &GPSEmulationManager::setupGPSData);
 }
@@ -104,6 +107,11 @@ bool GPSEmulationManager::trackLoaded() const
     return m_trackLoaded;
 }
 
+TrackReader *GPSEmulationManager::trackReader()
+{
+    return &m_trackReader;
+}
+
 void GPSEmulationManager::setupGPSData()
 {
     stopTrack();
@@ -166,21 +174,27 @@ void GPSEmulationManager::setAltitude(double altitude)
 
 void GPSEmulationManager::loadTrack(const QVariantList &trackPoints)
 {
-    static constexpr qsizetype usualPointSize = 40; // characters
-    DoubleArraysArgument points(trackPoints.size() * usualPointSize);
+    TrackArgument argument({}, trackPoints.size());
     for (const QVariant &trackPoint : trackPoints) {
         const QVariantMap point = trackPoint.toMap();
-        points.append({
-            QString::number(numberOf(point, latitudeKey), 'f', coordinateDecimals),
-            QString::number(numberOf(point, longitudeKey), 'f', coordinateDecimals),
-            QString::number(numberOf(point, altitudeKey), 'f', altitudeDecimals),
-            QString::number(numberOf(point, intervalKey)),
-        });
+        argument.append(numberOf(point, latitudeKey), numberOf(point, longitudeKey),
+                        numberOf(point, altitudeKey), numberOf(point, intervalKey));
     }
-    // Set before the call, because the call may notice that the link is lost, which resets both.
+    noteTrackUpload();
+    callDBusMethod(loadTrackMethod, argument.toString());
+}
+
+void GPSEmulationManager::uploadTrack(const TrackModel *track)
+{
+    noteTrackUpload();
+    sendRequest(track->track().uploadRequest);
+}
+
+// Comes before the call, because the call may notice that the link is lost, which resets both.
+void GPSEmulationManager::noteTrackUpload()
+{
     m_currentPositionIndex = 0;
     m_trackLoaded = true;
-    callDBusMethod(u"loadTrack"_s, points.toString());
 }
 
 void GPSEmulationManager::startTrack()

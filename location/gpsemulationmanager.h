@@ -1,6 +1,8 @@
 #pragma once
 
 #include "positionmodel.h"
+#include "trackmodel.h"
+#include "trackreader.h"
 
 #include <link/emulationmanager.h>
 
@@ -33,6 +35,7 @@ class GPSEmulationManager : public EmulationManager
     Q_PROPERTY(int currentPositionIndex READ currentPositionIndex WRITE setCurrentPositionIndex
                    NOTIFY currentPositionIndexChanged)
     Q_PROPERTY(bool trackLoaded READ trackLoaded)
+    Q_PROPERTY(EmulationManagement::Internal::TrackReader *trackReader READ trackReader CONSTANT)
 
 public:
     explicit GPSEmulationManager(QObject *parent = nullptr);
@@ -54,6 +57,8 @@ public:
     Q_INVOKABLE void setCurrentPositionIndex(int index);
     /// True from the upload of a track until the next set-up.
     [[nodiscard]] bool trackLoaded() const;
+    /// Reads the tracks that uploadTrack() sends.
+    [[nodiscard]] TrackReader *trackReader();
 
     /*!
      * Stops the track and sends the playback options and the saved position.
@@ -74,6 +79,8 @@ public:
      * locale. A missing value, or one that is not a number, is sent as 0.
      */
     Q_INVOKABLE void loadTrack(const QVariantList &trackPoints);
+    /// Does what loadTrack() does, with the request that has been made in another thread.
+    Q_INVOKABLE void uploadTrack(const EmulationManagement::Internal::TrackModel *track);
     Q_INVOKABLE void startTrack();
     Q_INVOKABLE void pauseTrack();
     Q_INVOKABLE void stopTrack();
@@ -96,7 +103,10 @@ Q_SIGNALS:
     void currentPositionIndexChanged();
 
 private:
+    void noteTrackUpload();
+
     PositionModel *m_currentPosition;
+    TrackReader m_trackReader;
     SettingsManager m_settings;
     bool m_trackLooped = false;
     bool m_useDefaultInterval = false;

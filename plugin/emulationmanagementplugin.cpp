@@ -10,10 +10,15 @@
 #include <coreplugin/actionmanager/command.h>
 #include <coreplugin/coreconstants.h>
 #include <coreplugin/icore.h>
+#include <coreplugin/progressmanager/progressmanager.h>
 
 #include <devicemodel/devicemodelfiles.h>
 
 #include <extensionsystem/pluginmanager.h>
+
+#include <location/trackmodel.h>
+#include <location/trackreader.h>
+#include <location/trackreading.h>
 
 #include <ravik/sdk.h>
 
@@ -49,6 +54,7 @@ bool EmulationManagementPlugin::initialize(const QStringList &arguments, QString
     // The GPS manager is connected to the invoker a second time: on each connection it sends its
     // state twice, and it handles every reply twice.
     m_gpsEmulationManager.setRdbusinvoker(&m_remoteDBusInvokerService);
+    setupTrackReader();
     setupView();
     setupMenu();
     connect(&m_openingProgress, &OpeningProgress::canceled, this,
@@ -86,6 +92,7 @@ void EmulationManagementPlugin::prepareShutdown()
     // The emulator may stop together with the IDE: do not report the lost connection then.
     disconnect(&m_remoteDBusInvokerService, nullptr, this, nullptr);
     m_messageBoxes.clear();
+    m_gpsEmulationManager.trackReader()->cancel();
     m_emulationManagementView.close();
 }
 
@@ -112,8 +119,8 @@ void EmulationManagementPlugin::registerQmlTypes()
     // The classes' headers name them (QML_ELEMENT) and say which of them QML cannot create.
     qmlRegisterTypesAndRevisions<WarningDialog, SettingsManager, TextFieldDoubleValidator,
                                  SensorsEmulationManager, GPSEmulationManager,
-                                 CameraEmulationManager, AlsModel, TapModel>(qmlModule,
-                                                                             qmlMajorVersion);
+                                 CameraEmulationManager, AlsModel, TapModel, TrackModel,
+                                 TrackReading, TrackReader>(qmlModule, qmlMajorVersion);
     qRegisterMetaType<AlsModel::LightLevel>("AlsModel::LightLevel");
     qRegisterMetaType<TapModel::TapDirection>("TapModel::TapDirection");
 }
@@ -138,6 +145,25 @@ void EmulationManagementPlugin::setupContextProperties()
     setProperty("themeHighlightColor", theme->color(Utils::Theme::PaletteHighlight));
     setProperty("themeSeparatorColor", theme->color(Utils::Theme::FancyToolBarSeparatorColor));
     setProperty("darkUserInterface", theme->flag(Utils::Theme::DarkUserInterface));
+}
+
+void EmulationManagementPlugin::setupTrackReader()
+{
+    static constexpr char taskType[] = "EmulationManagement.ReadingTrack";
+    TrackReader *reader = m_gpsEmulationManager.trackReader();
+    connect(reader, &TrackReader::takingLongChanged, this, [reader] {
+        if (reader->isTakingLong())
+            Core::ProgressManager::addTask(reader->future(), tr("Reading Track File"), taskType);
+    });
+    connect(&m_remoteDBusInvokerService, &RemoteDBusInvokerService::connectionLost, this,
+            [this, reader] {
+                if (!reader->isReading())
+                    return;
+                reader->cancel();
+                // A loaded track gets the same message from handleConnectionLost().
+                if (!m_gpsEmulationManager.trackLoaded())
+                    showConnectionLost();
+            });
 }
 
 void EmulationManagementPlugin::setupView()

@@ -64,6 +64,7 @@ private:
     void setupTranslations();
     void registerQmlTypes();
     void setupContextProperties();
+    void setupTrackReader();
     void setupView();
     void setupMenu();
     void initEmulatorModesSensorsConfigurations();
@@ -87,6 +88,7 @@ private:
     void openView();
     void handleViewHidden();
     void handleConnectionLost();
+    void showConnectionLost();
     /// Ends everything that would keep the IDE from quitting or appear while it quits.
     void prepareShutdown();
     void updateSensorsConfiguration(const QString &deviceModelName);

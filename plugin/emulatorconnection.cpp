@@ -222,6 +222,11 @@ void EmulationManagementPlugin::handleConnectionLost()
     // This forgets the track, so that failed attempts to reconnect show no further message.
     m_gpsEmulationManager.setupGPSData();
     Q_EMIT m_gpsEmulationManager.replyFromEmulatorReceived({});
+    showConnectionLost();
+}
+
+void EmulationManagementPlugin::showConnectionLost()
+{
     const QString name = m_currentEmulator ? m_currentEmulator->name() : QString();
     showMessageBox(tr("Emulator connection is lost. Please, run %1 if it is needed and load the "
                       "GPS-track again.")

@@ -203,6 +203,10 @@
         <source>Checking the packages of %1</source>
         <translation>Die Pakete von %1 werden geprüft</translation>
     </message>
+    <message>
+        <source>Reading Track File</source>
+        <translation>Trackdatei lesen</translation>
+    </message>
 </context>
 <context>
     <name>EmulationManagement::Internal::OpeningProgress</name>
@@ -298,10 +302,6 @@
     <message>
         <source>Track</source>
         <translation>Track</translation>
-    </message>
-    <message>
-        <source>Track file</source>
-        <translation>Trackdatei</translation>
     </message>
     <message>
         <source>NMEA file is larger than %1 MB</source>
@@ -629,6 +629,25 @@
     <message>
         <source>Loop track</source>
         <translation>Track wiederholen</translation>
+    </message>
+</context>
+<context>
+    <name>TrackFileRow</name>
+    <message>
+        <source>Track file</source>
+        <translation>Trackdatei</translation>
+    </message>
+    <message>
+        <source>Reading the track file</source>
+        <translation>Lesen der Trackdatei</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Open NMEA File</source>
+        <translation>NMEA-Datei öffnen</translation>
     </message>
 </context>
 <context>

@@ -203,6 +203,10 @@
         <source>Checking the packages of %1</source>
         <translation>Проверка пакетов %1</translation>
     </message>
+    <message>
+        <source>Reading Track File</source>
+        <translation>Чтение файла трека</translation>
+    </message>
 </context>
 <context>
     <name>EmulationManagement::Internal::OpeningProgress</name>
@@ -298,10 +302,6 @@
     <message>
         <source>Track</source>
         <translation>Трек</translation>
-    </message>
-    <message>
-        <source>Track file</source>
-        <translation>Файл трека</translation>
     </message>
     <message>
         <source>NMEA file is larger than %1 MB</source>
@@ -629,6 +629,25 @@
     <message>
         <source>Loop track</source>
         <translation>Зациклить трек</translation>
+    </message>
+</context>
+<context>
+    <name>TrackFileRow</name>
+    <message>
+        <source>Track file</source>
+        <translation>Файл трека</translation>
+    </message>
+    <message>
+        <source>Reading the track file</source>
+        <translation>Чтение файла трека</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Open NMEA File</source>
+        <translation>Открыть файл NMEA</translation>
     </message>
 </context>
 <context>

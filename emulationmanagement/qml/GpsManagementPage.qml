@@ -9,11 +9,8 @@ import org.plova 1.0
 
 import "location"
 import "shared"
-import "../js/location/nmea-parsing.js" as Nmea
 import "../js/location/number-texts.js" as NumberTexts
-import "../js/location/text-file.js" as TextFile
 import "../js/location/track-points.js" as TrackPoints
-import "../js/location/track-rows.js" as TrackRows
 
 // Sets a position, or loads a track and plays it.
 EmulationPage {
@@ -23,6 +20,7 @@ EmulationPage {
     required property MessageDialog messageDialog
 
     readonly property GPSEmulationManager gpsManager: gpsEmulationManager // qmllint disable unqualified
+    readonly property TrackReader trackReader: gpsManager.trackReader
     readonly property var locale: NumberTexts.locale // QML has no type for locales
     readonly property double latitudeMinValue: -90
     readonly property double latitudeMaxValue: 90
@@ -34,13 +32,15 @@ EmulationPage {
     readonly property int altRoundingSize: TrackPoints.altRoundingSize
     readonly property alias defaultInterval: player.defaultInterval
     readonly property alias lastRow: player.lastRow
-    property alias actualTrackPoints: player.actualTrackPoints
+    readonly property alias actualTrackPoints: player.actualTrackPoints
     // Whether the track has no times to play it by.
     property bool onlyDefaultInterval: false
     readonly property alias trackStopped: player.stopped
     property string nmeaFileUrl: ""
-    // Bytes. Points take about forty times as much memory as in their file.
-    readonly property int maximumFileSize: 100e6
+    // The file of the track that is shown, while another one is being read.
+    property string previousFileUrl: ""
+    // Bytes. A file takes about twice as much memory while it is being read.
+    readonly property int maximumFileSize: 300e6
     // A track must fit into one upload. The text has at most 46 characters for each point and must
     // fit into maxRequestBytes of emulator/relay.cpp. A reply repeats the text, so it must also fit
     // into maxReplySize of link/remotedbusinvokerservice.h. A point has 40 bytes in a D-Bus array,
@@ -49,46 +49,27 @@ EmulationPage {
     // Whether playback was stopped because of an error, and no "OK" has come since. The emulator
     // may refuse the stop, too, which must not cause another stop.
     property bool stoppedAfterError: false
-    // The number of files that the user has opened.
-    property int fileRequests: 0
 
     function openFile(url: url) {
-        const request = ++fileRequests;
+        trackReader.cancel();
+        previousFileUrl = nmeaFileUrl;
         nmeaFileUrl = url;
         const size = gpsManager.fileSize(url);
-        if (size < 0) {
+        if (size < 0)
             refuseUnreadableFile();
-        } else if (size > maximumFileSize) {
+        else if (size > maximumFileSize)
             refuseTrack(qsTr("NMEA file is larger than %1 MB").arg(maximumFileSize / 1e6));
-        } else {
-            TextFile.read(url, text => {
-                // The user may have opened another file in the meantime.
-                if (request !== fileRequests)
-                    return;
-                if (text === null)
-                    refuseUnreadableFile();
-                else
-                    showTrack(text);
-            });
-        }
+        else
+            trackReader.read(url, maximumPoints);
     }
 
-    function showTrack(text: string) {
-        let points;
-        try {
-            points = Nmea.loadNmeaLog(text, maximumPoints);
-        } catch (error) {
-            refuseTrack(error.incorrectLine > 0
-                ? error.message + qsTr(", line: %1").arg(error.incorrectLine) : error.message);
-            return;
-        }
-        const rows = TrackRows.tableRows(points);
-        // It is required that the rows are checked, not the points. A row's time has another name,
+    function showTrack() {
+        player.takeTrack();
+        // It is required that the table is checked, not the points. It has no times by this name,
         // so the answer is always false and any track can be played at its own speed.
-        onlyDefaultInterval = Nmea.trackHasPointsWithoutDateTime(rows);
+        onlyDefaultInterval = TrackPoints.trackHasPointsWithoutDateTime(trackModel);
         if (onlyDefaultInterval)
             gpsManager.setTrackIntervalMode(true);
-        player.setTrack(rows, TrackRows.trackRecord(rows, points));
     }
 
     function refuseUnreadableFile() {
@@ -99,8 +80,13 @@ EmulationPage {
     function refuseTrack(message: string) {
         if (!player.stopped)
             player.stop();
-        player.clear();
+        clearTrack();
         errorDialog.show(message);
+    }
+
+    function clearTrack() {
+        trackReader.cancel();
+        player.clear();
     }
 
     content: PageScrollView {
@@ -144,28 +130,12 @@ EmulationPage {
                     anchors.fill: parent
                     spacing: 6
 
-                    RowLayout {
-                        spacing: 6
+                    TrackFileRow {
+                        Layout.fillWidth: true
+                        fileUrl: root.nmeaFileUrl
+                        reader: root.trackReader
 
-                        Label {
-                            text: qsTr("Track file")
-                        }
-
-                        TextField {
-                            Accessible.name: qsTr("Track file")
-                            Layout.fillWidth: true
-                            readOnly: true
-                            selectByMouse: true
-                            text: root.nmeaFileUrl
-                        }
-
-                        Button {
-                            Accessible.name: qsTr("Open NMEA File")
-                            implicitWidth: 40
-                            text: "…"
-
-                            onClicked: fileDialog.open()
-                        }
+                        onOpenClicked: fileDialog.open()
                     }
 
                     TrackProgress {
@@ -173,8 +143,8 @@ EmulationPage {
 
                         Layout.fillWidth: true
                         currentIndex: root.gpsManager.currentPositionIndex
-                        enabled: track.rowCount > 0
-                        rowCount: track.rowCount
+                        enabled: trackModel.rowCount > 0
+                        rowCount: trackModel.rowCount
 
                         onMoved: index => {
                             player.currentRow = index;
@@ -190,7 +160,7 @@ EmulationPage {
 
                     TrackControls {
                         Layout.fillWidth: true
-                        enabled: track.rowCount > 0
+                        enabled: trackModel.rowCount > 0
                         gpsManager: root.gpsManager
                         onlyDefaultInterval: root.onlyDefaultInterval
                         playing: player.playing
@@ -208,7 +178,7 @@ EmulationPage {
 
                         centred: player.playing || progress.pressed
                         currentRow: player.currentRow
-                        track: track
+                        trackModel: trackModel
 
                         onRowChosen: row => player.chooseRow(row)
                     }
@@ -230,14 +200,14 @@ EmulationPage {
     }
 
     TrackModel {
-        id: track
+        id: trackModel
     }
 
     TrackPlayer {
         id: player
 
         gpsManager: root.gpsManager
-        track: track
+        trackModel: trackModel
     }
 
     Connections {
@@ -252,8 +222,27 @@ EmulationPage {
                 root.stoppedAfterError = true;
                 player.stop();
             }
+            root.clearTrack();
             root.nmeaFileUrl = "";
-            player.clear();
+        }
+    }
+
+    Connections {
+        target: root.trackReader
+
+        function onLoaded() {
+            root.showTrack();
+        }
+
+        function onFailed(message: string, line: int) {
+            if (message === "")
+                root.refuseUnreadableFile();
+            else
+                root.refuseTrack(line > 0 ? message + qsTr(", line: %1").arg(line) : message);
+        }
+
+        function onCanceled() {
+            root.nmeaFileUrl = root.previousFileUrl;
         }
     }
 

@@ -1,5 +1,7 @@
 #include "locationtest.h"
 
+#include <coreplugin/progressmanager/progressmanager.h>
+
 #include <messageboxanswers.h>
 #include <plugindriver.h>
 #include <waiting.h>
@@ -322,6 +324,60 @@ void LocationTest::testLinkLost()
     QCOMPARE(answers.boxes().size(), 1);
 }
 
+void LocationTest::testCancelledReading_data()
+{
+    QTest::addColumn<QString>("end");
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<QString>("file");
+    QTest::newRow("button without effect") << "Cancel" << 5 << "gga.nmea";
+    QTest::newRow("late track replaces another one") << "another file" << 5 << "gpsbabel.nmea";
+    QTest::newRow("late track fills a cleared table") << "error" << 0 << "";
+    QTest::newRow("link lost without a word") << "link lost" << 5 << "gga.nmea";
+}
+
+void LocationTest::testCancelledReading()
+{
+    QFETCH(QString, end);
+    QFETCH(int, rows);
+    QFETCH(QString, file);
+    open("gga.nmea");
+    QMetaObject::invokeMethod(invoker(), "webSocketConnected"); // forgets the upload
+    takeCalls();
+    const QTemporaryDir folder;
+    QFile log(folder.filePath("long.nmea"));
+    QVERIFY(log.open(QIODevice::WriteOnly));
+    log.write(QByteArray("$GPWPL,6000.00,N,03000.00,E,W*5C\n").repeated(500'000));
+    log.close();
+    const QSignalSpy tasks(Core::ProgressManager::instance(), &Core::ProgressManager::taskStarted);
+    m_page->chooseTrack(log.fileName());
+    const auto bars = [] { return window().items("QQuickProgressBar"); };
+    waitFor("the bar", [&] {
+        return !bars().isEmpty() && bars().constFirst()->property("value").toDouble() > 0;
+    });
+    QCOMPARE(tasks.size(), 1);
+
+    const MessageBoxAnswers answers(QMessageBox::Ok);
+    if (end == "Cancel") {
+        window().clickButton("Cancel");
+    } else if (end == "another file") {
+        m_page->openTrack(TEST_DATA "/" + file);
+    } else if (end == "error") {
+        QMetaObject::invokeMethod(gpsManager(), "replyFromEmulatorReceived",
+                                  Q_ARG(QString, "refused"));
+    } else {
+        control("relay close");
+        QVERIFY(answers.waitForBox().text.startsWith("Emulator connection is lost."));
+        m_position = m_journal->position();
+        control("relay open");
+        waitForCall("setTapSensorValue int32:-1");
+    }
+    waitFor("the bar to vanish", [&] { return bars().isEmpty(); });
+    QCOMPARE(rowCount(), rows);
+    QCOMPARE(QUrl(m_page->shownFile()).fileName(), file);
+    QVERIFY(takeCalls().filter("60.0000000,30.0000000,0.00,0;60.0").isEmpty());
+    QCOMPARE(answers.boxes().size(), end == "link lost" ? 1 : 0);
+}
+
 void LocationTest::testBadFile_data()
 {
     QTest::addColumn<QString>("name");
@@ -334,7 +390,7 @@ void LocationTest::testBadFile_data()
                                          << "Incorrect NMEA file, line: 2";
     QTest::newRow("binary data end the reading")
         << "binary" << QByteArray("\0\xff\xfe\n\x80$GP\0", 9) << unknown + ", line: 2";
-    QTest::newRow("the memory fills") << "large" << point << "NMEA file is larger than 100 MB";
+    QTest::newRow("the memory fills") << "large" << point << "NMEA file is larger than 300 MB";
     QTest::newRow("blocked by a pipe") << "pipe" << QByteArray() << "NMEA file cannot be read";
     QTest::newRow("a vanished file ignored")
         << "vanished" << QByteArray() << "NMEA file cannot be read";
@@ -355,7 +411,7 @@ void LocationTest::testBadFile()
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(content);
         if (name == "large")
-            QVERIFY(file.resize(100'000'001));
+            QVERIFY(file.resize(300'000'001));
     }
     open("gga.nmea");
     m_page->clickTrackButton("Play");

@@ -26,6 +26,8 @@ private Q_SLOTS:
     void testReconnection();
     void testErrorReply();
     void testLinkLost();
+    void testCancelledReading_data();
+    void testCancelledReading();
     void testBadFile_data();
     void testBadFile();
     void cleanupTestCase();

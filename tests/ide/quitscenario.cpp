@@ -10,9 +10,11 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QFile>
 #include <QHash>
 #include <QQuickItem>
 #include <QQuickView>
+#include <QTemporaryDir>
 #include <QUrl>
 #include <QWidget>
 
@@ -50,6 +52,19 @@ static void playVideo()
                               u"" MEDIA_FOLDER "/vp8.webm"_s);
 }
 
+static void readTrack()
+{
+    openTool();
+    static const QTemporaryDir folder;
+    QFile log(folder.filePath("long.nmea"));
+    if (log.open(QIODevice::WriteOnly))
+        log.write(QByteArray("$GPWPL,6000.00,N,03000.00,E,W*5C\n").repeated(1'000'000));
+    log.close();
+    QMetaObject::invokeMethod(gpsPage(), "openFile", QUrl::fromLocalFile(log.fileName()));
+    const auto *reader = gpsPage()->property("trackReader").value<QObject *>();
+    waitFor("the progress bar", [&] { return reader->property("takingLong").toBool(); });
+}
+
 static void checkPackages()
 {
     startMachine();
@@ -76,7 +91,7 @@ void playQuitScenario(const QByteArray &name, const QByteArray &manner)
     static const QHash<QByteArray, std::function<void()>> preparations = {
         {"values", openTool},     {"track", playTrack},       {"video", playVideo},
         {"check", checkPackages}, {"starting", chooseAction}, {"error", showError},
-        {"message", loseLink},
+        {"message", loseLink},    {"reading", readTrack},
     };
     try {
         emulator(); // waits, because the SDK lists it shortly after the IDE has opened

@@ -62,6 +62,11 @@ void Host::setSensorAvailable(const QString &name, bool available)
     m_sensorsEmulationManager.setSensorAvailable(name, available);
 }
 
+void Host::fillTrack(TrackModel *track, int points, double interval)
+{
+    track->setTrack({QList<TrackPoint>(points, {.interval = interval}), {}});
+}
+
 void Host::setCameras(const QStringList &cameras)
 {
     m_cameras.set({cameras.join(u'\n').toUtf8()});

@@ -49,6 +49,9 @@ public:
     /// Handles a line of the relay.
     Q_INVOKABLE void receive(const QString &reply);
     Q_INVOKABLE void setSensorAvailable(const QString &name, bool available);
+    /// Shows a track whose points have this interval, in milliseconds.
+    Q_INVOKABLE void fillTrack(EmulationManagement::Internal::TrackModel *track, int points,
+                               double interval);
     /// Plugs cameras in and out, see VirtualCameras.
     Q_INVOKABLE void setCameras(const QStringList &cameras);
 

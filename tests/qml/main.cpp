@@ -1,6 +1,10 @@
 #include "host.h"
 #include "warningdialogdouble.h"
 
+#include <location/trackmodel.h>
+#include <location/trackreader.h>
+#include <location/trackreading.h>
+
 #include <plugin/textfielddoublevalidator.h>
 
 #include <support/idesettings.h>
@@ -28,7 +32,8 @@ public Q_SLOTS:
 
         qmlRegisterTypesAndRevisions<WarningDialogDouble, SettingsManager, TextFieldDoubleValidator,
                                      SensorsEmulationManager, GPSEmulationManager,
-                                     CameraEmulationManager, AlsModel, TapModel>("org.plova", 1);
+                                     CameraEmulationManager, AlsModel, TapModel, TrackModel,
+                                     TrackReading, TrackReader>("org.plova", 1);
     }
 
     void qmlEngineAvailable(QQmlEngine *engine)

@@ -1,6 +1,8 @@
 import QtQuick
 import QtTest
 
+import org.plova 1.0
+
 import "qrc:/emulationmanagement/qml/location"
 
 import "find.js" as Find
@@ -8,8 +10,6 @@ import "find.js" as Find
 TestCase {
     id: test
 
-    readonly property var point: ({"No.": 0, "Time": "", "Latitude": "", "Longitude": "",
-                                   "Altitude": ""})
     property double clock: 0
     property int stepTime: 0
 
@@ -25,7 +25,7 @@ TestCase {
             function monotonicTime(): double { return test.clock; }
 
             gpsManager: gpsEmulationManager
-            track: TrackModel {}
+            trackModel: TrackModel {}
 
             onCurrentRowChanged: test.clock += test.stepTime
         }
@@ -35,7 +35,7 @@ TestCase {
         id: table
 
         height: 100
-        track: TrackModel {}
+        trackModel: TrackModel {}
     }
 
     // The timer fires so many milliseconds after the last time. Then the track is at this point and
@@ -56,7 +56,8 @@ TestCase {
         const player = createTemporaryObject(component, test);
         gpsEmulationManager.setTrackSpeed(row.speed ?? 1);
         stepTime = row.stepTime ?? 0;
-        player.setTrack(Array(9).fill(point), Array(9).fill({interval: row.interval}));
+        host.fillTrack(player.trackModel, 9, row.interval);
+        gpsEmulationManager.currentPositionIndex = 0;
         player.start();
         const timer = player.data[0];
         for (const [after, index, wait] of row.steps) {
@@ -70,7 +71,7 @@ TestCase {
     // The headings are above their columns, also after the table gets another width.
     function test_headings() {
         const view = Find.find(table, item => item instanceof TableView);
-        table.track.setRows([point]);
+        host.fillTrack(table.trackModel, 1, 0);
         for (const width of [400, 800]) {
             table.width = width;
             waitForRendering(table);

@@ -16,7 +16,7 @@ GpsPageDriver::GpsPageDriver(const WindowDriver &driver)
     m_driver.clickButton(u"GPS Management"_s);
 }
 
-void GpsPageDriver::openTrack(const QString &path, bool vanishing) const
+void GpsPageDriver::chooseTrack(const QString &path, bool vanishing) const
 {
     auto *page = m_driver.item(u"GpsManagementPage"_s, "visible", u"true"_s);
     QObject *dialog = nullptr;
@@ -35,7 +35,19 @@ void GpsPageDriver::openTrack(const QString &path, bool vanishing) const
     if (vanishing)
         QFile::remove(path);
     dialogDriver.click(button);
-    waitFor(u"the file dialog to close"_s, [&] { return !dialog->property("visible").toBool(); });
+    waitFor(u"the choice of the file"_s, [&] {
+        return !dialog->property("visible").toBool()
+               && QUrl(shownFile()) == QUrl::fromLocalFile(path);
+    });
+}
+
+void GpsPageDriver::openTrack(const QString &path, bool vanishing) const
+{
+    chooseTrack(path, vanishing);
+    const QObject *reader = m_driver.item(u"GpsManagementPage"_s, "visible", u"true"_s)
+                                ->property("trackReader")
+                                .value<QObject *>();
+    waitFor(u"the file to be read"_s, [&] { return !reader->property("reading").toBool(); });
 }
 
 void GpsPageDriver::type(const QString &label, const QString &text) const

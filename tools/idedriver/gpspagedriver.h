@@ -10,6 +10,8 @@ public:
     explicit GpsPageDriver(const WindowDriver &driver);
 
     /// Chooses a file in the page's dialog. \a vanishing deletes it before the page reads it.
+    void chooseTrack(const QString &path, bool vanishing = false) const;
+    /// Chooses a file and waits until the page has read it.
     void openTrack(const QString &path, bool vanishing = false) const;
     /// Types into the field with this label and presses Enter.
     void type(const QString &label, const QString &text) const;

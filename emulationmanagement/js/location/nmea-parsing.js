@@ -10,7 +10,7 @@
 
 // The functions among these can also be called as functions of this script.
 const {
-    altRoundingSize, latLongRoundingSize, millisBetween, millisToPointTime, pointAt, roundValue,
+    TrackPoint, altRoundingSize, latLongRoundingSize, millisBetween, millisToPointTime, roundValue,
     setUpTrackPointTimeAndInterval, trackHasPointsWithoutDateTime,
 } = TrackPoints;
 
@@ -26,27 +26,28 @@ const anything = "[^,\\r\\n]*";
 const decimal = "\\d+\\.\\d+";
 const timeOfDay = "\\d{6}(?:\\.\\d{2,3})?";
 const sixDigits = "\\d{6}";
-const coordinates = [decimal, "[NS]", decimal, "[EW]"].join(","); // four fields
+const coordinates = [decimal, "[NS]", decimal, "[EW]"]; // four fields
 const isDecimal = fieldTest(decimal, 1);
 const isTimeOfDay = fieldTest(timeOfDay, 1);
 const isSixDigits = fieldTest(sixDigits, 1);
-const areCoordinates = fieldTest(coordinates, 4);
+const areCoordinates = fieldTest(coordinates.join(","), 4);
 
 // The known sentences by their tags:
-//  - position, altitude, time, date: the numbers of these fields, which count from the tag, number
-//    0; null where the sentence has no such field. The position is the first of its four fields.
-//  - unusual: matches where no usual line of this sentence begins. A usual line has all fields in
-//    their places. This is the negation of a pattern because most lines are usual, and because the
-//    engine creates an object for each match.
+//  - usual: matches at a place of a text where a usual line of this sentence begins. A usual line
+//    has all fields in their places. The groups of the match are the values.
+//  - position, altitude, time, date: the numbers of these groups, or null where the sentence has no
+//    such value. The position is the first of its four groups.
+//  - fields: the numbers of the fields of these groups, which count from the tag, number 0.
 //  - acceptsShifted: whether the fields of an unusual line are those of a well-formed line. Free
 //    text may contain commas, which shift all later fields to the right. Looking for the leftmost
 //    place of each field takes a time that is proportional to the length of the line. One pattern
 //    with a wildcard for each text would try all combinations of commas.
 const sentences = {
     $GPRMC: {
-        position: 3, altitude: null, time: 1, date: 9,
-        unusual: notAt("\\$GPRMC", timeOfDay, anything, coordinates, anything, anything, sixDigits,
-                       anything, ""),
+        usual: lineOf("\\$GPRMC", value(timeOfDay), anything, ...coordinates.map(value), anything,
+                      anything, value(sixDigits), anything, ""),
+        time: 1, position: 2, date: 6, altitude: null,
+        fields: [1, 3, 4, 5, 6, 9],
         acceptsShifted: fields => {
             const position = findField(fields, areCoordinates, 3, fields.length);
             return isTimeOfDay(fields, 1) && position >= 0
@@ -54,41 +55,43 @@ const sentences = {
         },
     },
     $GPGGA: {
-        position: 2, altitude: 9, time: 1, date: null,
-        unusual: notAt("\\$GPGGA", timeOfDay, coordinates, anything, anything, anything, decimal,
-                       anything, anything, anything, anything, ""),
+        usual: lineOf("\\$GPGGA", value(timeOfDay), ...coordinates.map(value), anything, anything,
+                      anything, value(decimal), anything, anything, anything, anything, ""),
+        time: 1, position: 2, altitude: 6, date: null,
+        fields: [1, 2, 3, 4, 5, 9],
         acceptsShifted: fields => isTimeOfDay(fields, 1) && areCoordinates(fields, 2)
             && findField(fields, isDecimal, 9, fields.length - 5) >= 0,
     },
     $GPGLL: {
-        position: 1, altitude: null, time: 5, date: null,
-        unusual: notAt("\\$GPGLL", coordinates, ""),
+        usual: lineOf("\\$GPGLL", ...coordinates.map(value), value(anything)),
+        position: 1, time: 5, altitude: null, date: null,
+        fields: [1, 2, 3, 4, 5],
         acceptsShifted: () => false,
     },
     $GPWPL: {
+        usual: lineOf("\\$GPWPL", ...coordinates.map(value), ""),
         position: 1, altitude: null, time: null, date: null,
-        unusual: notAt("\\$GPWPL", coordinates, ""),
+        fields: [1, 2, 3, 4],
         acceptsShifted: () => false,
     },
 };
 const talker = "$GP";
 const tags = Object.keys(sentences);
 
-// Matches a line, or its first ten fields. Group n is field n, or undefined if the line has fewer
-// fields. This is quicker than to split the line.
-const firstFields = new RegExp(anything + `(?:,(${anything}))?`.repeat(9), "y");
 const nonEmptyLine = /[^\r\n]+/g;
 const restOfLine = /[^\r\n]*/y;
 
-// The place in the text where garbage is first collected. Each later place is a multiple of the
-// previous one, so that all collections together take a time that is proportional to the length of
-// the log.
-const firstCollection = 500000;
-const collectionGrowth = 1.5;
+// The number of points that are handed over at once, see loadNmeaLog().
+const batchSize = 500;
 
-// Returns a pattern that matches at each place of a text where no line begins with these fields.
-function notAt(...fields) {
-    return new RegExp("(?!" + fields.join(",") + ")", "y");
+// Returns a pattern that matches where a line begins with these fields.
+function lineOf(...fields) {
+    return new RegExp(fields.join(","), "y");
+}
+
+// Returns a pattern of a field that becomes a group of its match.
+function value(pattern) {
+    return `(${pattern})`;
 }
 
 // Returns a function that tells whether the fields at an index match a pattern of this many fields.
@@ -122,37 +125,37 @@ function tagAt(text, start) {
     return null;
 }
 
-function isWellFormed(sentence, text, start) {
-    sentence.unusual.lastIndex = start;
-    if (!sentence.unusual.test(text))
-        return true;
+// Returns the values of the line that begins at a place of the text, by the numbers of the groups
+// of its sentence, or null if the line is not well-formed.
+function valuesAt(text, start, sentence) {
+    sentence.usual.lastIndex = start;
+    const match = sentence.usual.exec(text);
+    if (match)
+        return match;
     restOfLine.lastIndex = start;
-    return sentence.acceptsShifted(restOfLine.exec(text)[0].split(","));
+    const fields = restOfLine.exec(text)[0].split(",");
+    return sentence.acceptsShifted(fields) ? [null, ...sentence.fields.map(index => fields[index])]
+                                           : null;
 }
 
-function fieldsAt(text, start) {
-    firstFields.lastIndex = start;
-    return firstFields.exec(text);
-}
-
-function pointOf(tag, fields) {
-    const {position, altitude} = sentences[tag];
-    const metres = altitude === null ? 0 : roundValue(Number(fields[altitude]), altRoundingSize);
-    return createTrackPoint(tag, fields[position], fields[position + 1], fields[position + 2],
-                            fields[position + 3], metres);
+function pointOf(tag, sentence, values) {
+    const {position, altitude} = sentence;
+    const metres = altitude === null ? 0 : roundValue(Number(values[altitude]), altRoundingSize);
+    return createTrackPoint(tag, values[position], values[position + 1], values[position + 2],
+                            values[position + 3], metres);
 }
 
 // Returns the time stamp of a line, or null if its sentence has no time.
-function timeStampOf(sentence, fields, prevDate) {
+function timeStampOf(sentence, values, prevDate) {
     if (sentence.time === null)
         return null;
-    const text = fields[sentence.time];
+    const text = values[sentence.time];
     // A $GPGLL line is well-formed without its time, but is of no use for a track.
     if (sentence === sentences.$GPGLL && !/^\d{6}/.test(text)) {
         const message = qsTr('NMEA file has a position at "%1", which is not a time');
         throw new TypeError(message.replace("%1", () => text));
     }
-    return parseDateFromNmea(sentence.date === null ? "" : fields[sentence.date], text, prevDate);
+    return parseDateFromNmea(sentence.date === null ? "" : values[sentence.date], text, prevDate);
 }
 
 // Returns an error with the number of a line: empty lines do not count, the first line is number 1,
@@ -172,13 +175,6 @@ function nothingKnownError(text) {
         return new TypeError(qsTr("NMEA file has only empty lines"));
     return syntaxError(qsTr("NMEA file has incorrect points format.\n"
                             + "Supported formats: GPRMC, GPGGA, GPGLL, GPWPL."), lines);
-}
-
-// The QML engine collects no garbage while a function runs. The garbage of a long log would take
-// forty times as much memory as the log.
-function collectGarbage() {
-    if (typeof gc === "function")
-        gc();
 }
 
 function countLines(text) {
@@ -234,38 +230,39 @@ function parseDateFromNmea(dateString, timeString, prevDate) {
 
 // The altitude is metres.
 function createTrackPoint(pointFormat, latString, latHemisphere, lonString, lonHemisphere, alt) {
-    return pointAt(pointFormat, parseLatitudeFromNmea(latString, latHemisphere),
-                   parseLongitudeFromNmea(lonString, lonHemisphere), alt ?? 0);
+    return new TrackPoint(pointFormat, parseLatitudeFromNmea(latString, latHemisphere),
+                          parseLongitudeFromNmea(lonString, lonHemisphere), alt ?? 0);
 }
 
 // Returns the points of a log. The type of the first known sentence decides which sentences become
 // points. Throws an error for the user if the log is invalid, has no points or has more than
 // maximumPoints. A SyntaxError has the number incorrectLine, see syntaxError().
-function loadNmeaLog(text, maximumPoints = Infinity) {
+//
+// If takeBatch is a function, it gets the points while the log is being read, so that they need not
+// all be kept: takeBatch(points, begin, end) gets those from index begin on, and the place in the
+// text that has been reached. The returned array then has only the last point of each batch; the
+// others are null.
+function loadNmeaLog(text, maximumPoints = Infinity, takeBatch = null) {
     if (text === "")
         throw syntaxError(qsTr("NMEA file is empty"), 0);
     const points = [];
+    let begin = 0; // of the batch
     let format = null;
     let startTime = null;
     let previousTime = null;
-    let nextCollection = firstCollection;
     // Searching for the talker is quicker than splitting the text into lines.
     for (let start = text.indexOf(talker); start >= 0; start = text.indexOf(talker, start + 1)) {
         const tag = tagAt(text, start);
         if (tag === null)
             continue;
         const sentence = sentences[tag];
-        if (!isWellFormed(sentence, text, start))
+        const values = valuesAt(text, start, sentence);
+        if (!values)
             throw incorrectLineError(text, start);
         if (format !== null && tag !== format)
             continue;
-        if (start >= nextCollection) {
-            collectGarbage();
-            nextCollection = collectionGrowth * start;
-        }
-        const fields = fieldsAt(text, start);
-        const point = pointOf(tag, fields);
-        const time = timeStampOf(sentence, fields, previousTime);
+        const point = pointOf(tag, sentence, values);
+        const time = timeStampOf(sentence, values, previousTime);
         // In a line with shifted fields, the fields of the values may contain anything.
         if (!isFinite(point.latitude + point.longitude + point.altitude)
                 || (time && isNaN(time.getTime())))
@@ -279,8 +276,14 @@ function loadNmeaLog(text, maximumPoints = Infinity) {
         startTime = startTime ?? time;
         setUpTrackPointTimeAndInterval(points, point, startTime, time);
         points.push(point);
+        if (takeBatch && points.length - begin === batchSize) {
+            takeBatch(points, begin, start);
+            points.fill(null, begin, points.length - 1);
+            begin = points.length;
+        }
     }
     if (points.length === 0)
         throw nothingKnownError(text);
+    takeBatch?.(points, begin, text.length);
     return points;
 }

@@ -6,16 +6,29 @@
 const latLongRoundingSize = 7;
 const altRoundingSize = 2;
 
-// Rounds halves upwards.
-function roundValue(value, precision) {
-    const factor = Math.pow(10, precision);
-    return Math.round(value * factor) / factor;
+// Latitude and longitude are degrees, north and east positive; the altitude is metres.
+// setUpTrackPointTimeAndInterval() sets the place in the track; its times are milliseconds.
+class TrackPoint {
+    constructor(format, latitude, longitude, altitude) {
+        this.format = format;
+        this.latitude = latitude;
+        this.longitude = longitude;
+        this.altitude = altitude;
+        this.index = 0;
+        this.time = 0;
+        this.interval = 0;
+    }
+
+    // Made when it is read, because only few points of a long track are shown.
+    get timeString() {
+        return millisToPointTime(this.time);
+    }
 }
 
-// Returns a point without its place in a track, which setUpTrackPointTimeAndInterval() sets.
-// Latitude and longitude are degrees, north and east positive; the altitude is metres.
-function pointAt(format, latitude, longitude, altitude) {
-    return {format, latitude, longitude, altitude, index: 0, time: 0, interval: 0, timeString: ""};
+// Rounds halves upwards.
+function roundValue(value, precision) {
+    const factor = 10 ** precision;
+    return Math.round(value * factor) / factor;
 }
 
 function millisBetween(firstDate, secondDate) {
@@ -35,7 +48,6 @@ function setUpTrackPointTimeAndInterval(points, trackPoint, startTime, trackPoin
     trackPoint.index = points.length;
     trackPoint.time = previous && trackPointTime ? millisBetween(startTime, trackPointTime) : 0;
     trackPoint.interval = previous ? trackPoint.time - previous.time : 0;
-    trackPoint.timeString = millisToPointTime(trackPoint.time);
 }
 
 // Whether a point other than the first, whose time is always 0, has the time 0.
@@ -45,4 +57,20 @@ function trackHasPointsWithoutDateTime(points) {
             return true;
     }
     return false;
+}
+
+// Returns an ArrayBuffer with the points from an index on, as TrackReading::append() takes them:
+// the numbers latitude, longitude, altitude, time and interval of each point.
+function packedPoints(points, begin) {
+    const numbers = new Float64Array(5 * (points.length - begin));
+    let next = 0;
+    for (let i = begin; i < points.length; ++i) {
+        const point = points[i];
+        numbers[next++] = point.latitude;
+        numbers[next++] = point.longitude;
+        numbers[next++] = point.altitude;
+        numbers[next++] = point.time;
+        numbers[next++] = point.interval;
+    }
+    return numbers.buffer;
 }

@@ -13,10 +13,10 @@ Item {
     enum Playback { Stopped, Playing, Paused }
 
     required property GPSEmulationManager gpsManager
-    required property TrackModel track
-    // The track as it was uploaded: a JavaScript array of objects, for which QML has no type.
-    property var actualTrackPoints: []
-    readonly property int lastRow: track.rowCount - 1
+    required property TrackModel trackModel
+    // The track that was uploaded last, also after the table was cleared.
+    readonly property TrackModel actualTrackPoints: trackModel
+    readonly property int lastRow: trackModel.rowCount - 1
     property int currentRow: -1 // -1 means that no row is current
     property int playback: TrackPlayer.Stopped
     readonly property bool playing: playback === TrackPlayer.Playing
@@ -40,23 +40,19 @@ Item {
         return gpsManager.monotonicTime();
     }
 
-    // Replaces the track and uploads the new one.
-    function setTrack(rows: var, trackPoints: var) {
-        setRows(rows);
-        actualTrackPoints = trackPoints;
+    // Replaces the track by the one that was read, and uploads it.
+    function takeTrack() {
+        clear();
+        trackModel.takeTrack(gpsManager.trackReader);
         gpsManager.currentPositionIndex = 0;
         gpsManager.stopTrack();
-        gpsManager.loadTrack(actualTrackPoints);
+        gpsManager.uploadTrack(actualTrackPoints);
     }
 
     function clear() {
-        setRows([]);
-    }
-
-    function setRows(rows: var) {
         rest();
         currentRow = -1;
-        track.setRows(rows);
+        trackModel.clear();
     }
 
     function start() {
@@ -118,7 +114,7 @@ Item {
     function goToCurrentRow() {
         // The emulator loses its track when the connection is lost.
         if (!gpsManager.trackLoaded)
-            gpsManager.loadTrack(actualTrackPoints);
+            gpsManager.uploadTrack(actualTrackPoints);
         gpsManager.goToPositionOnTrack(currentRow);
         // The timer does not run during a step, which starts it again itself.
         if (trackTimer.running)
@@ -130,10 +126,10 @@ Item {
         // The table is cleared if the connection is lost while the row is sent.
         if (currentRow < 0)
             return;
-        const row = track.getRow(currentRow);
+        const point = actualTrackPoints.at(currentRow);
         // Texts with group separators give NaN.
-        gpsManager.setLocalPosition(Number(row["Latitude"]), Number(row["Longitude"]),
-                                    Number(row["Altitude"]));
+        gpsManager.setLocalPosition(Number(point.latitude), Number(point.longitude),
+                                    Number(point.altitude));
     }
 
     // Sets the time of the next step. Returns false at the end of the track. The interval counts
@@ -143,7 +139,7 @@ Item {
         let interval = defaultInterval;
         if (index < lastRow) {
             if (!gpsManager.useDefaultInterval)
-                interval = actualTrackPoints[index + 1].interval;
+                interval = actualTrackPoints.at(index + 1).interval;
             interval /= gpsManager.trackSpeed;
         } else if (!gpsManager.trackLooped || lastRow < 0) {
             return false;

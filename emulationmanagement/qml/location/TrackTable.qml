@@ -4,12 +4,16 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 
+import org.plova 1.0
+
+import "../../js/location/track-points.js" as TrackPoints
+
 // The points of a track, one a row; the current row is marked.
 ColumnLayout {
     id: root
 
-    required property TrackModel track
-    readonly property int rowCount: track.rowCount
+    required property TrackModel trackModel
+    readonly property int rowCount: trackModel.rowCount
     property int currentRow: -1
     // Whether the current row is scrolled to the middle. Otherwise it is only scrolled into view.
     property bool centred: false
@@ -43,7 +47,7 @@ ColumnLayout {
                                       centred ? TableView.AlignVCenter : TableView.Contain)
 
     Connections {
-        target: root.track
+        target: root.trackModel
 
         function onRowsChanged() {
             tableView.positionViewAtRow(0, TableView.AlignTop);
@@ -80,12 +84,13 @@ ColumnLayout {
         boundsBehavior: Flickable.StopAtBounds
         clip: true
         columnWidthProvider: column => root.columnWidth(column)
-        model: root.track
+        model: root.trackModel
 
         delegate: Rectangle {
             id: cell
 
             required property string display
+            required property int column
             required property int row
 
             readonly property bool highlighted: row === root.currentRow
@@ -100,7 +105,8 @@ ColumnLayout {
                 color: cell.highlighted ? root.highlightedTextColor : palette.windowText
                 elide: Text.ElideRight
                 padding: 4
-                text: cell.display
+                text: cell.column === TrackModel.Time
+                    ? TrackPoints.millisToPointTime(Number(cell.display)) : cell.display
             }
         }
 

@@ -1,0 +1,25 @@
+import QtQml
+
+import org.plova 1.0
+
+import "../../js/location/nmea-parsing.js" as Nmea
+import "../../js/location/track-points.js" as TrackPoints
+
+// Reads a log by the script, as soon as it is created. TrackReader creates it in an engine and a
+// thread of its own.
+QtObject {
+    required property TrackReading reading
+
+    Component.onCompleted: {
+        try {
+            Nmea.loadNmeaLog(reading.text, reading.maximumPoints, (points, begin, end) => {
+                reading.append(TrackPoints.packedPoints(points, begin), end);
+                // The engine collects no garbage while a function runs. The garbage of a long log
+                // would take forty times as much memory as the log.
+                gc();
+            });
+        } catch (error) {
+            reading.fail(error.message, error.incorrectLine ?? 0);
+        }
+    }
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "track.h"
+
+#include <QByteArray>
+#include <QObject>
+#include <QString>
+#include <QtQmlIntegration>
+
+#include <functional>
+
+namespace EmulationManagement::Internal {
+
+/*!
+ * What the script works on that reads the points of a track from a text (NmeaLogReader.qml): gives
+ * it the text, and takes the points or the error. It belongs to the thread that runs the script.
+ */
+class TrackReading : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("TrackReader creates one for each file")
+    Q_PROPERTY(QString text READ text CONSTANT)
+    Q_PROPERTY(int maximumPoints READ maximumPoints CONSTANT)
+
+public:
+    /// \a setProgress gets the part of the text that has been read, from 0 to 1.
+    TrackReading(QString text, int maximumPoints, std::function<void(double)> setProgress);
+
+    [[nodiscard]] const QString &text() const { return m_text; }
+    [[nodiscard]] int maximumPoints() const { return m_maximumPoints; }
+
+    /// Takes points as packedPoints() of track-points.js packs them. The script has read the text
+    /// up to the place \a end.
+    Q_INVOKABLE void append(const QByteArray &packedPoints, double end);
+    /// Notes the error that ends the reading. \a line counts from 1; 0 means no line.
+    Q_INVOKABLE void fail(const QString &message, int line);
+
+    [[nodiscard]] bool hasFailed() const { return m_failed; }
+    [[nodiscard]] const QString &errorMessage() const { return m_errorMessage; }
+    [[nodiscard]] int errorLine() const { return m_errorLine; }
+    [[nodiscard]] QList<TrackPoint> takePoints();
+
+private:
+    QString m_text;
+    int m_maximumPoints;
+    std::function<void(double)> m_setProgress;
+    QList<TrackPoint> m_points;
+    QString m_errorMessage;
+    int m_errorLine = 0;
+    bool m_failed = false;
+};
+
+} // namespace EmulationManagement::Internal
