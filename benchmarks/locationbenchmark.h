@@ -15,6 +15,8 @@ class LocationBenchmark : public QObject
 
 private Q_SLOTS:
     void initTestCase();
+    void cleanupTestCase();
+    void testLongTracks();
     void testTable();
     void testParsing();
     void testUpload();
@@ -24,9 +26,14 @@ private:
     [[nodiscard]] QString writeLog(const QString &name, int sentences, bool pointsOnly);
     /// Returns the milliseconds that the plugin's script needs to parse the log.
     [[nodiscard]] double parse(const QString &log);
+    /// Measures a log of points only in the connected window. Returns the milliseconds from the
+    /// choice of the file to the last byte of the upload.
+    [[nodiscard]] double openLongTrack(const QString &log, int points);
 
     QTemporaryDir m_folder;
     QString m_receiversLog;
     QString m_longLog;
     QString m_pointsLog;
+    QString m_longPointsLog;
+    QString m_smallLog;
 };

@@ -12,7 +12,7 @@ function load(file) {
     const source = fs.readFileSync(file, "utf8")
         .replace(".pragma library", "")
         .replace(/^\.import "(.*)" as (.*)$/gm, "const $2 = load('$1');");
-    const names = [...source.matchAll(/^(?:function|const) (\w+)/gm)].map(match => match[1]);
+    const names = [...source.matchAll(/^(?:function|const|class) (\w+)/gm)].map(match => match[1]);
     const run = new Function("load", "qsTr", `${source}\nreturn {${names}};`);
     return run(name => load(path.join(path.dirname(file), name)), text => text);
 }
