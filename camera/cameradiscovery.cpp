@@ -4,10 +4,7 @@
 
 CameraDiscovery::CameraDiscovery(QObject *parent)
     : QObject(parent)
-{
-    gst_init(nullptr, nullptr);
-    startMonitor();
-}
+{}
 
 CameraDiscovery::~CameraDiscovery()
 {
@@ -16,6 +13,8 @@ CameraDiscovery::~CameraDiscovery()
 
 void CameraDiscovery::readCameras()
 {
+    if (!m_monitor)
+        startMonitor();
     GList *devices = gst_device_monitor_get_devices(m_monitor.get());
     for (const GList *entry = devices; entry; entry = entry->next)
         readCamera(static_cast<GstDevice *>(entry->data));
@@ -26,12 +25,12 @@ void CameraDiscovery::restart()
 {
     stopMonitor();
     m_cameras.clear();
-    startMonitor();
     readCameras();
 }
 
 void CameraDiscovery::startMonitor()
 {
+    gst_init(nullptr, nullptr);
     m_monitor.reset(gst_device_monitor_new());
     const ObjectReference<GstBus> bus(gst_device_monitor_get_bus(m_monitor.get()));
     gst_bus_add_watch(bus.get(), &CameraDiscovery::onDeviceListChanged, this);
@@ -42,6 +41,8 @@ void CameraDiscovery::startMonitor()
 
 void CameraDiscovery::stopMonitor()
 {
+    if (!m_monitor)
+        return;
     const ObjectReference<GstBus> bus(gst_device_monitor_get_bus(m_monitor.get()));
     gst_bus_remove_watch(bus.get());
     gst_device_monitor_stop(m_monitor.get());

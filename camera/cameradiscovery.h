@@ -11,8 +11,8 @@
 /*!
  * Finds the host's cameras and notices when a camera is plugged in or out.
  *
- * It notices changes only while the main loop dispatches GLib's default context, as Qt's event loop
- * does on Linux.
+ * It notices changes after the first readCameras(), and only while the main loop dispatches GLib's
+ * default context, as Qt's event loop does on Linux.
  */
 class CameraDiscovery : public QObject
 {
@@ -25,7 +25,6 @@ public:
         CameraSource source;
     };
 
-    /// Starts to watch. cameras() holds only those plugged in later, until readCameras() is called.
     explicit CameraDiscovery(QObject *parent = nullptr);
     ~CameraDiscovery() override;
 
@@ -33,6 +32,7 @@ public:
     [[nodiscard]] const QMap<QString, Camera> &cameras() const { return m_cameras; }
 
     /// Adds each camera of the host to cameras(), or replaces its entry, and emits cameraRead().
+    /// The first call starts to watch.
     void readCameras();
     /// Forgets all cameras, starts a new GStreamer monitor and reads the cameras.
     void restart();
@@ -52,6 +52,8 @@ private:
     void readCamera(GstDevice *device);
     static int onDeviceListChanged(GstBus *bus, GstMessage *message, void *discovery);
 
+    // Null before readCameras(): GStreamer and its monitor take a tenth of the plugin's start, and
+    // nobody sees the cameras before the window is opened.
     ObjectReference<GstDeviceMonitor> m_monitor;
     QMap<QString, Camera> m_cameras;
 };

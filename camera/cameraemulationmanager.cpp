@@ -22,9 +22,6 @@ CameraEmulationManager::CameraEmulationManager(QObject *parent)
             &CameraEmulationManager::handleUnplugged);
     connect(&m_discovery, &CameraDiscovery::cameraRemoved, this,
             &CameraEmulationManager::handleRemoved);
-    // Direct, because videoStreamStopped() itself queues the restart to this thread.
-    connect(&m_videoPipeline, &VideoFilePipeline::ended, this,
-            &CameraEmulationManager::videoStreamStopped, Qt::DirectConnection);
     connect(this, &CameraEmulationManager::videoStreamStopped, this,
             &CameraEmulationManager::restartVideoStream);
     connect(&m_meter, &StreamMeter::measured, this, &CameraEmulationManager::streamMeasured);
@@ -121,7 +118,7 @@ void CameraEmulationManager::startCameraStream()
     }
     const bool isAccepted = StreamPipeline::isStreamable(m_appliedSize);
     if (isAccepted)
-        play(&m_cameraPipeline);
+        play(cameraPipeline());
     Q_EMIT streamRunningChanged();
     if (!isAccepted)
         Q_EMIT streamSizeRefused(m_appliedSize);
@@ -138,8 +135,8 @@ void CameraEmulationManager::startVideoStream(const QString &filePath)
 {
     stopPlaying();
     if (!filePath.isEmpty() && checkVideoFile(filePath)) {
-        m_videoPipeline.setFile(filePath);
-        play(&m_videoPipeline);
+        videoPipeline()->setFile(filePath);
+        play(videoPipeline());
     }
     // Emitted even if the file is refused, because an earlier stream has ended.
     Q_EMIT streamRunningChanged();
@@ -170,7 +167,7 @@ void CameraEmulationManager::restartVideoStream()
 {
     // The user may have stopped it after videoStreamStopped() was queued.
     if (videoStreamRunning())
-        m_videoPipeline.restart();
+        m_videoPipeline->restart();
 }
 
 void CameraEmulationManager::handlePlugged()
@@ -207,11 +204,29 @@ void CameraEmulationManager::applySelection(bool restart)
         stopStreams();
     m_appliedCameraName = m_cameraName;
     m_appliedSize = {m_width, m_height};
-    m_cameraPipeline.setCamera(m_discovery.cameras().value(m_cameraName).source, m_appliedSize,
-                               m_framerate);
+    cameraPipeline()->setCamera(m_discovery.cameras().value(m_cameraName).source, m_appliedSize,
+                                m_framerate);
     if (restart)
         startCameraStream();
     Q_EMIT cameraStreamSettingsApplied();
+}
+
+CameraPipeline *CameraEmulationManager::cameraPipeline()
+{
+    if (!m_cameraPipeline)
+        m_cameraPipeline = std::make_unique<CameraPipeline>();
+    return m_cameraPipeline.get();
+}
+
+VideoFilePipeline *CameraEmulationManager::videoPipeline()
+{
+    if (!m_videoPipeline) {
+        m_videoPipeline = std::make_unique<VideoFilePipeline>();
+        // Direct, because videoStreamStopped() itself queues the restart to this thread.
+        connect(m_videoPipeline.get(), &VideoFilePipeline::ended, this,
+                &CameraEmulationManager::videoStreamStopped, Qt::DirectConnection);
+    }
+    return m_videoPipeline.get();
 }
 
 bool CameraEmulationManager::checkVideoFile(const QString &path)

@@ -12,6 +12,8 @@
 #include <QVariantList>
 #include <QtQmlIntegration>
 
+#include <memory>
+
 class QUrl;
 
 /*!
@@ -60,7 +62,7 @@ public:
     /// True from the start of a stream until it is stopped, whether or not GStreamer can play it.
     [[nodiscard]] bool streamRunning() const { return m_playing; }
     /// True while a video file is streamed.
-    [[nodiscard]] bool videoStreamRunning() const { return m_playing == &m_videoPipeline; }
+    [[nodiscard]] bool videoStreamRunning() const { return isPlaying(m_videoPipeline.get()); }
 
     /// See StreamMeter::framesPerSecond().
     [[nodiscard]] int streamFramesPerSecond() const { return m_meter.framesPerSecond(); }
@@ -162,12 +164,18 @@ Q_SIGNALS:
     void streamSizeRefused(QSize size);
 
 private:
-    [[nodiscard]] bool cameraStreamRunning() const { return m_playing == &m_cameraPipeline; }
+    [[nodiscard]] bool cameraStreamRunning() const { return isPlaying(m_cameraPipeline.get()); }
+    [[nodiscard]] bool isPlaying(const StreamPipeline *pipeline) const
+    {
+        return m_playing && m_playing == pipeline;
+    }
     void handlePlugged();
     void handleUnplugged(const QString &name);
     void handleRemoved(const QString &name);
     void selectFirstCamera();
     void applySelection(bool restart);
+    CameraPipeline *cameraPipeline();
+    VideoFilePipeline *videoPipeline();
     void play(StreamPipeline *pipeline);
     void stopPlaying();
     bool checkVideoFile(const QString &path);
@@ -178,8 +186,10 @@ private:
     int m_height = -1;
     int m_resolutionIndex = 0;
     QString m_cameraName;
-    VideoFilePipeline m_videoPipeline;
-    CameraPipeline m_cameraPipeline;
+    // Made by the first use: their elements load five libraries, which an IDE whose user opens no
+    // window does not need.
+    std::unique_ptr<VideoFilePipeline> m_videoPipeline;
+    std::unique_ptr<CameraPipeline> m_cameraPipeline;
     QString m_appliedCameraName; // the camera and size that m_cameraPipeline uses
     QSize m_appliedSize;
     StreamPipeline *m_playing = nullptr; // streamRunning() and videoStreamRunning() derive from it
