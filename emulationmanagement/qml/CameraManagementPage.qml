@@ -1,13 +1,10 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Dialogs
-import QtQuick.Layouts
 
 import org.plova 1.0
 
-import "camera"
 import "shared"
 
 // What the emulator's camera sees: a camera of the host or a video file.
@@ -27,6 +24,7 @@ EmulationPage {
     property string currentResolution: ""
     property string currentFramerate: ""
 
+    readonly property alias fileDialog: fileDialog
     readonly property int spacing: 15
     readonly property int minimumContentWidth: 620 - 2 * spacing
 
@@ -121,94 +119,7 @@ EmulationPage {
         }
     }
 
-    content: PageScrollView {
-        id: scrollView
-
-        ColumnLayout {
-            width: Math.max(root.minimumContentWidth, scrollView.availableWidth)
-            spacing: root.spacing
-
-            GroupBox {
-                Layout.fillWidth: true
-                title: qsTr("Source")
-
-                Row {
-                    spacing: root.spacing
-
-                    RadioButton {
-                        checked: !root.videoFileChosen
-                        enabled: root.hasCamera
-                        text: qsTr("Host camera")
-
-                        onToggled: root.chooseSource(false)
-                    }
-
-                    RadioButton {
-                        checked: root.videoFileChosen
-                        text: qsTr("Video file")
-
-                        onToggled: root.chooseSource(true)
-                    }
-                }
-            }
-
-            HostCameraControls {
-                Layout.fillWidth: true
-                cameraManager: root.cameraManager
-                currentCameraName: root.currentCameraName
-                currentFramerate: root.currentFramerate
-                currentResolution: root.currentResolution
-                spacing: root.spacing
-                visible: !root.videoFileChosen
-            }
-
-            RowLayout {
-                visible: root.videoFileChosen
-
-                Label {
-                    text: qsTr("Video file")
-                }
-
-                TextField {
-                    Accessible.name: qsTr("Video file")
-                    Layout.fillWidth: true
-                    readOnly: true
-                    text: root.videoFileUrl
-                }
-
-                Button {
-                    text: qsTr("…")
-                    onClicked: fileDialog.open()
-                }
-            }
-
-            RowLayout {
-                Button {
-                    enabled: !root.cameraManager.streamRunning
-                             && (!root.videoFileChosen || root.videoFilePath !== "")
-                    text: qsTr("Start stream")
-                    onClicked: root.startStream()
-                }
-
-                Button {
-                    enabled: root.cameraManager.streamRunning
-                    text: qsTr("Stop")
-                    onClicked: root.stopStream()
-                }
-
-                Label {
-                    Layout.fillWidth: true
-                    text: root.streamStatus(root.cameraManager.streamFramesPerSecond,
-                                            root.cameraManager.streamSize)
-                }
-
-                Button {
-                    text: qsTr("Update cameras list")
-                    onClicked: root.cameraManager.updateCamerasList()
-                }
-            }
-        }
-    }
+    contentFile: Qt.resolvedUrl("camera/CameraManagementContent.qml")
 
     FileDialog {
         id: fileDialog

@@ -1,14 +1,11 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Dialogs
-import QtQuick.Layouts
 
 import org.plova 1.0
 
 import "shared"
-import "../js/sensors/sensor-dependencies.js" as Dependencies
 import "../js/sensors/sensor-states.js" as States
 
 EmulationPage {
@@ -72,53 +69,7 @@ EmulationPage {
         warningDialog.show();
     }
 
-    content: ColumnLayout {
-        spacing: 12
-
-        PageScrollView {
-            Layout.fillWidth: true
-            Layout.fillHeight: true
-
-            Column {
-                spacing: 4
-
-                Repeater {
-                    model: root.sensors
-
-                    delegate: CheckBox {
-                        required property var modelData // an entry of sensors
-
-                        checked: root.checkedStates[modelData.name] ?? false
-                        text: modelData.title
-                        visible: States.isAvailable(root.sensorsManager, modelData.name)
-
-                        onToggled: root.pendingStates = Dependencies.statesAfterSwitch(
-                            root.pendingStates, modelData.name, checked)
-                    }
-                }
-            }
-        }
-
-        Label {
-            Layout.fillWidth: true
-            text: qsTr("After applying changes, all applications retrieving data from sensors must be restarted.")
-            wrapMode: Text.Wrap
-        }
-
-        RowLayout {
-            spacing: 6
-
-            Button {
-                text: qsTr("Apply")
-                onClicked: root.apply(root.checkedStates)
-            }
-
-            Button {
-                text: qsTr("Reset")
-                onClicked: root.reset()
-            }
-        }
-    }
+    contentFile: Qt.resolvedUrl("sensors/SensorsManagementContent.qml")
 
     WarningDialog {
         id: warningDialog

@@ -1,12 +1,9 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Controls
-import QtQuick.Layouts
 
 import org.plova 1.0
 
-import "sensors"
 import "shared"
 
 EmulationPage {
@@ -17,47 +14,7 @@ EmulationPage {
     // shown.
     property bool modelSensorChanged: false
 
-    content: ColumnLayout {
-        spacing: 12
-
-        PageScrollView {
-            id: scrollView
-
-            Layout.fillWidth: true
-            Layout.fillHeight: true
-
-            GridLayout {
-                id: sensorsGrid
-
-                width: Math.max(scrollView.availableWidth, implicitWidth)
-                columns: 2
-                columnSpacing: 12
-                rowSpacing: 8
-                uniformCellWidths: true
-
-                AccelerometerControls {}
-                MagnetometerControls {}
-                CompassControls {}
-                MagneticFieldControls {}
-                OrientationControls {}
-                GyroscopeControls {}
-                LightControls {}
-                ProximityControls {}
-                Item {} // an empty cell
-                TapControls {}
-            }
-        }
-
-        Button {
-            text: qsTr("Reset values")
-
-            onClicked: {
-                for (const control of sensorsGrid.children)
-                    control.clearFocus?.();
-                root.sensorsManager.setDefaultValues();
-            }
-        }
-    }
+    contentFile: Qt.resolvedUrl("sensors/SensorsValuesContent.qml")
 
     onActiveChanged: {
         if (active)

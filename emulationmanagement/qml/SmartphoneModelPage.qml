@@ -1,8 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Controls
-import QtQuick.Layouts
 
 import org.plova 1.0
 
@@ -25,6 +23,7 @@ EmulationPage {
     readonly property SensorsEmulationManager sensorsManager: sensorsEmulationManager // qmllint disable unqualified
     property bool rotationMode: true
     property bool controlModifierPressed: false
+    readonly property alias motion: motion
 
     function rotate(rotation: list<real>) {
         motion.rotation = rotation;
@@ -54,98 +53,7 @@ EmulationPage {
     }
 
     activeFocusOnTab: true
-    content: RowLayout {
-        spacing: 12
-
-        SmartphoneModelArea {
-            Layout.fillHeight: true
-            Layout.fillWidth: true
-            Layout.minimumWidth: 160
-            Layout.preferredWidth: Layout.minimumWidth
-            displacement: motion.displacement
-            keyboardFocus: root.activeFocus
-            moveMaxValue: root.moveMaxValue
-            moveMinValue: root.moveMinValue
-            rotationMode: root.rotationMode
-
-            onMoved: displacement => motion.displacement = displacement
-            onPressed: root.forceActiveFocus()
-            onTurned: rotation => {
-                root.resetSlidersValue();
-                root.rotate(rotation);
-            }
-        }
-
-        PageScrollView {
-            id: controls
-
-            Layout.fillHeight: true
-            Layout.fillWidth: true
-            Layout.maximumWidth: Layout.preferredWidth
-            Layout.preferredWidth: 400
-
-            ColumnLayout {
-                spacing: 12
-                width: Math.max(controls.availableWidth, implicitWidth)
-
-                Row {
-                    spacing: 12
-
-                    RadioButton {
-                        checked: root.rotationMode
-                        focusPolicy: Qt.TabFocus // after a click, keys still move the device
-                        text: qsTr("Rotation")
-
-                        onToggled: root.rotationMode = checked
-                    }
-
-                    RadioButton {
-                        checked: !root.rotationMode
-                        focusPolicy: Qt.TabFocus
-                        text: qsTr("Move")
-
-                        onToggled: root.rotationMode = !checked
-                    }
-                }
-
-                StackLayout {
-                    Layout.fillHeight: false
-                    currentIndex: root.rotationMode ? 0 : 1
-
-                    Sliders {
-                        labels: [qsTr("X-Rot"), qsTr("Y-Rot"), qsTr("Z-Rot")]
-                        maxValue: root.rotMaxValue
-                        minValue: root.rotMinValue
-                        values: motion.rotation
-
-                        onSubmitted: rotation => root.rotate(rotation)
-                    }
-
-                    Sliders {
-                        labels: [qsTr("X"), qsTr("Y"), qsTr("Z")]
-                        maxValue: root.moveMaxValue
-                        minValue: root.moveMinValue
-                        values: motion.displacement
-
-                        onSubmitted: displacement => motion.displacement = displacement
-                    }
-                }
-
-                DeviceRotationButtons {
-                    Layout.fillWidth: true
-
-                    onChosen: rotation => root.rotate(rotation)
-                }
-
-                ResultingValues {
-                    Layout.fillWidth: true
-                    decimals: root.numberRoundingSize
-                    motion: motion
-                    numberLocale: root.locale
-                }
-            }
-        }
-    }
+    contentFile: Qt.resolvedUrl("devicemodel/SmartphoneModelContent.qml")
 
     Component.onCompleted: motion.updateAttitudeValues()
     Keys.onPressed: event => {
@@ -185,19 +93,6 @@ EmulationPage {
     Window.onActiveChanged: {
         if (!Window.active)
             controlModifierPressed = false;
-    }
-
-    component Sliders: AxesSliders {
-        // The user chose other values, of which one is new.
-        signal submitted(values: list<real>)
-
-        integer: root.integer
-        numberRoundingSize: root.numberRoundingSize
-        stepSize: root.stepSize
-
-        onXSubmitted: x => submitted([x, values[1], values[2]])
-        onYSubmitted: y => submitted([values[0], y, values[2]])
-        onZSubmitted: z => submitted([values[0], values[1], z])
     }
 
     DeviceMotion {

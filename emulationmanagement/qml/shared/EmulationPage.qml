@@ -5,9 +5,11 @@ Item {
     id: root
 
     property bool active: false
-    // Fills the page. It is created when the page is first shown, because the IDE loads all pages
-    // when it starts, in a window that may never be opened.
+    // What fills the page: a component, or a file whose root item has a required property "page".
+    // It is created when the page is first shown, because the IDE loads all pages when it starts,
+    // in a window that may never be opened. A file is not even read before.
     property Component content: null
+    property url contentFile
     property int margin: 12
     readonly property bool shown: visible && Window.visibility !== Window.Hidden
 
@@ -20,8 +22,11 @@ Item {
     visible: active
 
     onShownChanged: {
-        if (shown)
-            loader.active = true;
+        if (!shown || loader.active)
+            return;
+        loader.active = true;
+        if (!content)
+            loader.setSource(contentFile, {page: root});
     }
 
     Loader {
