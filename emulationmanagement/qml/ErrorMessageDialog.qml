@@ -45,19 +45,9 @@ Dialog {
     title: qsTr("Error")
     width: Math.min(480, (parent?.width ?? 0) - 20)
 
-    contentItem: ScrollView {
-        contentWidth: availableWidth
-        implicitHeight: label.implicitHeight
-
-        Label {
-            id: label
-
-            Accessible.role: Accessible.AlertMessage
-            text: root.text
-            textFormat: Text.PlainText
-            width: parent.width
-            wrapMode: Text.Wrap
-        }
+    // Made when it is first shown, because the IDE makes the dialog when it starts.
+    contentItem: Loader {
+        id: loader
     }
     footer: Item {
         implicitHeight: okButton.implicitHeight + 2 * root.padding
@@ -73,5 +63,10 @@ Dialog {
             Keys.onReturnPressed: clicked()
             onClicked: root.accept()
         }
+    }
+
+    onAboutToShow: {
+        if (loader.status === Loader.Null)
+            loader.setSource(Qt.resolvedUrl("shared/ErrorMessageText.qml"), {dialog: root});
     }
 }
