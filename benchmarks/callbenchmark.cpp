@@ -95,12 +95,12 @@ void CallBenchmark::testRoundTrip()
             .measured = quantile(calls, 0.5),
             .baseline = quantile(bare, 0.5),
             .unit = "ms",
-            .limit = 1.3});
+            .limit = 1.15});
     report({.what = "call round trip, 99th percentile",
             .measured = quantile(calls, 0.99),
             .baseline = quantile(bare, 0.99),
             .unit = "ms",
-            .limit = 1.3});
+            .limit = 1.15});
 }
 
 void CallBenchmark::testThroughput()
