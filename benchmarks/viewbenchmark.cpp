@@ -18,7 +18,7 @@ public:
     QUrl intercept(const QUrl &url, DataType type) override
     {
         if (type == QmlFile && url.fileName() == "SmartphoneModelPage.qml")
-            return url.resolved(QUrl("EmulationPage.qml"));
+            return url.resolved(QUrl("shared/EmulationPage.qml"));
         return url;
     }
 };
