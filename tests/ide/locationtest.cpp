@@ -244,6 +244,9 @@ void LocationTest::testTable()
         const double rowHeight = table->property("contentHeight").toDouble() / 90;
         return int(middle / rowHeight) == gpsManager()->property("currentPositionIndex").toInt();
     };
+    // The table cannot go to a row before it is laid out.
+    waitFor("all rows",
+            [table] { return table->property("contentHeight").toDouble() > table->height(); });
     window().drag(m_page->progress(), 0.5);
     waitFor("the row that was sought", isCurrentRowInTheMiddle);
     m_page->clickRow(43);

@@ -5,10 +5,9 @@ Item {
     id: root
 
     property bool active: false
-    // What fills the page: a component, or a file whose root item has a required property "page".
-    // It is created when the page is first shown, because the IDE loads all pages when it starts,
-    // in a window that may never be opened. A file is not even read before.
-    property Component content: null
+    // What fills the page: a file whose root item has a required property "page". It is read when
+    // the page is first shown, because the IDE loads all pages when it starts, in a window that may
+    // never be opened.
     property url contentFile
     property int margin: 12
     readonly property bool shown: visible && Window.visibility !== Window.Hidden
@@ -22,19 +21,14 @@ Item {
     visible: active
 
     onShownChanged: {
-        if (!shown || loader.active)
-            return;
-        loader.active = true;
-        if (!content)
+        if (shown && loader.status === Loader.Null)
             loader.setSource(contentFile, {page: root});
     }
 
     Loader {
         id: loader
 
-        active: false
         anchors.fill: parent
         anchors.margins: root.margin
-        sourceComponent: root.content
     }
 }
