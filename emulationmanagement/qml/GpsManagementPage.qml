@@ -1,9 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Dialogs
-import QtQuick.Layouts
 
 import org.plova 1.0
 
@@ -33,6 +31,9 @@ EmulationPage {
     readonly property alias defaultInterval: player.defaultInterval
     readonly property alias lastRow: player.lastRow
     readonly property alias actualTrackPoints: player.actualTrackPoints
+    readonly property alias player: player
+    readonly property alias trackModel: trackModel
+    readonly property alias fileDialog: fileDialog
     // Whether the track has no times to play it by.
     property bool onlyDefaultInterval: false
     readonly property alias trackStopped: player.stopped
@@ -89,103 +90,7 @@ EmulationPage {
         player.clear();
     }
 
-    content: PageScrollView {
-        id: scrollView
-
-        ColumnLayout {
-            width: Math.max(scrollView.availableWidth, implicitWidth)
-            height: Math.max(scrollView.availableHeight, implicitHeight)
-            spacing: 8
-
-            CurrentPosition {
-                Layout.fillWidth: true
-                gpsManager: root.gpsManager
-            }
-
-            CoordinateControls {
-                Layout.fillWidth: true
-                altitudeDecimals: root.altRoundingSize
-                altitudeMaxValue: root.altitudeMaxValue
-                altitudeMinValue: root.altitudeMinValue
-                coordinateDecimals: root.latLongRoundingSize
-                gpsManager: root.gpsManager
-                latitudeMaxValue: root.latitudeMaxValue
-                latitudeMinValue: root.latitudeMinValue
-                longitudeMaxValue: root.longitudeMaxValue
-                longitudeMinValue: root.longitudeMinValue
-
-                onPositionSubmitted: (latitude, longitude, altitude) => {
-                    if (player.playing)
-                        player.pause();
-                    root.gpsManager.setPosition(latitude, longitude, altitude);
-                }
-            }
-
-            GroupBox {
-                Layout.fillHeight: true
-                Layout.fillWidth: true
-                title: qsTr("Track")
-
-                ColumnLayout {
-                    anchors.fill: parent
-                    spacing: 6
-
-                    TrackFileRow {
-                        Layout.fillWidth: true
-                        fileUrl: root.nmeaFileUrl
-                        reader: root.trackReader
-
-                        onOpenClicked: fileDialog.open()
-                    }
-
-                    TrackProgress {
-                        id: progress
-
-                        Layout.fillWidth: true
-                        currentIndex: root.gpsManager.currentPositionIndex
-                        enabled: trackModel.rowCount > 0
-                        rowCount: trackModel.rowCount
-
-                        onMoved: index => {
-                            player.currentRow = index;
-                            root.gpsManager.goToPositionOnTrack(index);
-                        }
-                        onPressedChanged: {
-                            if (pressed)
-                                player.hold();
-                            else
-                                player.release();
-                        }
-                    }
-
-                    TrackControls {
-                        Layout.fillWidth: true
-                        enabled: trackModel.rowCount > 0
-                        gpsManager: root.gpsManager
-                        onlyDefaultInterval: root.onlyDefaultInterval
-                        playing: player.playing
-                        stopped: player.stopped
-
-                        onPauseClicked: player.pause()
-                        onPlayClicked: player.start()
-                        onStopClicked: player.stop()
-                    }
-
-                    TrackTable {
-                        Layout.fillHeight: true
-                        Layout.fillWidth: true
-                        Layout.minimumHeight: 60
-
-                        centred: player.playing || progress.pressed
-                        currentRow: player.currentRow
-                        trackModel: trackModel
-
-                        onRowChosen: row => player.chooseRow(row)
-                    }
-                }
-            }
-        }
-    }
+    contentFile: Qt.resolvedUrl("location/GpsManagementContent.qml")
 
     onShownChanged: {
         if (!shown)
