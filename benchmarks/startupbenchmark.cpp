@@ -44,7 +44,7 @@ static Start start(const QString &settings, const QStringList &arguments)
 void StartUpBenchmark::testStart()
 {
     static constexpr int rounds = 20;
-    static constexpr double allowance = 60; // ms
+    static constexpr double allowance = 50; // ms
     const QStringList without{"-noload", "emulationmanagement"};
     const QTemporaryDir settings;
     // the first start writes settings and caches
@@ -62,7 +62,7 @@ void StartUpBenchmark::testStart()
             .measured = quantile(whole, 0.5),
             .baseline = quantile(bare, 0.5),
             .unit = "ms",
-            .limit = 1.12});
+            .limit = 1.08});
     report({.what = "the plugin's initialization against what it may take",
             .measured = quantile(initialize, 0.5),
             .baseline = allowance,
