@@ -33,14 +33,17 @@ void EmulationManager::setRdbusinvoker(RemoteDBusInvokerService *invoker)
 
 void EmulationManager::processReplyFromEmulator(const QString &reply)
 {
-    // Count before splitting: millions of fields would take many times the memory of the line.
-    if (reply.count(u':') != replyFieldCount - 1) {
+    QStringList fields;
+    for (const QStringView field : QStringTokenizer(reply, u':')) {
+        fields.append(QString::fromRawData(field.data(), field.size()));
+        // Millions of fields would take many times the memory of the line.
+        if (fields.size() > replyFieldCount)
+            break;
+    }
+    if (fields.size() != replyFieldCount) {
         Q_EMIT replyFromEmulatorReceived(reply);
         return;
     }
-    QStringList fields;
-    for (const QStringView field : QStringTokenizer(reply, u':'))
-        fields.append(QString::fromRawData(field.data(), field.size()));
     if (!fields.at(errorNameField).isEmpty()) {
         Q_EMIT replyFromEmulatorReceived(
             u"%1 %2"_s.arg(fields.at(errorNameField), fields.at(errorTextField)));

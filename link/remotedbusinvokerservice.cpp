@@ -15,8 +15,8 @@ RemoteDBusInvokerService::RemoteDBusInvokerService(QObject *parent)
 {
     m_retryTimer.setSingleShot(true);
     connect(&m_retryTimer, &QTimer::timeout, this, &RemoteDBusInvokerService::connectToEmulator);
-    m_pause.setSingleShot(true);
-    connect(&m_pause, &QTimer::timeout, this, &RemoteDBusInvokerService::sendWaitingRequests);
+    m_nextTurn.setSingleShot(true);
+    connect(&m_nextTurn, &QTimer::timeout, this, &RemoteDBusInvokerService::sendWaitingRequests);
 }
 
 RemoteDBusInvokerService::~RemoteDBusInvokerService()
@@ -38,6 +38,8 @@ void RemoteDBusInvokerService::createWebSocket()
     });
     connect(webSocket, &QWebSocket::disconnected, this,
             &RemoteDBusInvokerService::handleDisconnected);
+    connect(webSocket, &QWebSocket::bytesWritten, this,
+            &RemoteDBusInvokerService::scheduleWaitingRequests);
     connect(webSocket, &QWebSocket::textMessageReceived, this,
             &RemoteDBusInvokerService::replyReceived);
 }
@@ -86,21 +88,36 @@ void RemoteDBusInvokerService::sendRequest(const QString &request)
 {
     if (!m_webSocket)
         return;
-    if (m_pause.isActive()) {
-        m_waitingRequests.enqueue(request);
+    if (m_waitingRequests.isEmpty() && request.size() < longRequest) {
+        send(request);
         return;
     }
+    m_waitingRequests.enqueue(request);
+    scheduleWaitingRequests();
+}
+
+void RemoteDBusInvokerService::send(const QString &request)
+{
     m_webSocket->sendTextMessage(request);
     // Send now: the pages update before the event loop would flush the socket.
     m_webSocket->flush();
-    if (request.size() >= longRequest)
-        m_pause.start();
 }
 
 void RemoteDBusInvokerService::sendWaitingRequests()
 {
-    while (!m_waitingRequests.isEmpty() && !m_pause.isActive())
-        sendRequest(m_waitingRequests.dequeue());
+    bool isLong = false;
+    while (!m_waitingRequests.isEmpty() && !isLong) {
+        const QString request = m_waitingRequests.dequeue();
+        isLong = request.size() >= longRequest;
+        send(request);
+    }
+    scheduleWaitingRequests();
+}
+
+void RemoteDBusInvokerService::scheduleWaitingRequests()
+{
+    if (!m_waitingRequests.isEmpty() && m_webSocket->bytesToWrite() == 0)
+        m_nextTurn.start();
 }
 
 } // namespace EmulationManagement::Internal

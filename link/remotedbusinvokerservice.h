@@ -62,8 +62,8 @@ public:
     /*!
      * Sends one text frame. While the link is down, the request is dropped without a reply.
      *
-     * Sending a long request, such as a track, takes tens of milliseconds. The requests after it
-     * are sent, in order, when the event loop has handled other events.
+     * A long request, such as a track, takes tens of milliseconds, so it gets a turn of the event
+     * loop of its own. The requests after it wait until its last byte was written.
      */
     void sendRequest(const QString &request);
 
@@ -79,15 +79,17 @@ Q_SIGNALS:
 private:
     void createWebSocket();
     void handleDisconnected();
+    void send(const QString &request);
     void sendWaitingRequests();
+    void scheduleWaitingRequests();
 
     // Created by the first connectToEmulator(): the first socket of a process loads the TLS
     // library, which would be the largest part of the plugin's C++ start-up time.
     std::optional<QWebSocket> m_webSocket;
     QElapsedTimer m_sinceConnected; // invalid while there is no connection
     QTimer m_retryTimer;
-    QTimer m_pause; // active from a long request until the next ones may be sent
     QQueue<QString> m_waitingRequests;
+    QTimer m_nextTurn; // sends them
 };
 
 } // namespace EmulationManagement::Internal
