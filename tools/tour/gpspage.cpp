@@ -4,7 +4,9 @@
 #include "tourguide.h"
 #include "waiting.h"
 
+#include <QFile>
 #include <QQuickItem>
+#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -50,9 +52,31 @@ static void playTrack(TourGuide &guide, const GpsPageDriver &page)
     guide.waitForCall(u"setTrackLooped boolean:0"_s);
 }
 
+static void readLongTrack(TourGuide &guide, const GpsPageDriver &page)
+{
+    guide.begin(u"GPS Management: reading a track of a million points, and cancelling it"_s);
+    const QTemporaryDir folder;
+    QFile log(folder.filePath(u"million.nmea"_s));
+    if (!log.open(QIODevice::WriteOnly)
+        || log.write(QByteArray("$GPWPL,6000.00,N,03000.00,E,W*5C\n").repeated(1'000'000)) < 0) {
+        throw WaitingFailed("the log cannot be written");
+    }
+    log.close();
+    page.chooseTrack(log.fileName());
+    waitFor(u"the progress bar"_s, [&] {
+        const QList<QQuickItem *> bars = guide.window().items(u"QQuickProgressBar"_s);
+        return !bars.isEmpty() && bars.constFirst()->property("value").toDouble() > 0.1;
+    });
+    guide.takePicture(u"gps-reading"_s);
+    guide.window().clickButton(u"Cancel"_s);
+    waitFor(u"the end of the reading"_s,
+            [&] { return guide.window().items(u"QQuickProgressBar"_s).isEmpty(); });
+}
+
 void visitGpsPage(TourGuide &guide)
 {
     const GpsPageDriver page(guide.window());
     setPosition(guide, page);
     playTrack(guide, page);
+    readLongTrack(guide, page);
 }
