@@ -5,7 +5,6 @@
 #include <QByteArray>
 #include <QObject>
 #include <QString>
-#include <QtQmlIntegration>
 
 #include <functional>
 
@@ -18,8 +17,6 @@ namespace EmulationManagement::Internal {
 class TrackReading : public QObject
 {
     Q_OBJECT
-    QML_ELEMENT
-    QML_UNCREATABLE("TrackReader creates one for each file")
     Q_PROPERTY(QString text READ text CONSTANT)
     Q_PROPERTY(int maximumPoints READ maximumPoints CONSTANT)
 

@@ -3,7 +3,6 @@
 
 #include <location/trackmodel.h>
 #include <location/trackreader.h>
-#include <location/trackreading.h>
 
 #include <plugin/textfielddoublevalidator.h>
 
@@ -33,7 +32,7 @@ public Q_SLOTS:
         qmlRegisterTypesAndRevisions<WarningDialogDouble, SettingsManager, TextFieldDoubleValidator,
                                      SensorsEmulationManager, GPSEmulationManager,
                                      CameraEmulationManager, AlsModel, TapModel, TrackModel,
-                                     TrackReading, TrackReader>("org.plova", 1);
+                                     TrackReader>("org.plova", 1);
     }
 
     void qmlEngineAvailable(QQmlEngine *engine)

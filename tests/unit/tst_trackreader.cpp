@@ -1,9 +1,7 @@
 #include <location/trackmodel.h>
 #include <location/trackreader.h>
-#include <location/trackreading.h>
 
 #include <QFile>
-#include <QQmlEngine>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -30,8 +28,6 @@ class TrackReaderTest : public QObject
     }
 
 private Q_SLOTS:
-    void initTestCase() { qmlRegisterTypesAndRevisions<TrackReading>("org.plova", 1); }
-
     // The texts that the emulator gets are those of the table, read as numbers.
     void texts_data()
     {

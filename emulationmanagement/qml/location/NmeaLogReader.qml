@@ -1,14 +1,14 @@
 import QtQml
 
-import org.plova 1.0
-
 import "../../js/location/nmea-parsing.js" as Nmea
 import "../../js/location/track-points.js" as TrackPoints
 
 // Reads a log by the script, as soon as it is created. TrackReader creates it in an engine and a
 // thread of its own.
 QtObject {
-    required property TrackReading reading
+    // A TrackReading. Collecting garbage takes milliseconds in an engine that has imported the
+    // module of its type, so this file does without the type.
+    required property var reading
 
     Component.onCompleted: {
         try {
