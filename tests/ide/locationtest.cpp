@@ -102,10 +102,8 @@ void LocationTest::testCoordinates_data()
     QTest::addColumn<QString>("label");
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("call");
-    QTest::newRow("limit refused") << "Latitude" << "-90" << "setLatitude double:-90.0000000";
     QTest::newRow("letters sent") << "Latitude" << "x1e5y" << "setLatitude double:15.0000000";
     QTest::newRow("a sign sent as 0") << "Latitude" << "-" << "";
-    QTest::newRow("limit exceeded") << "Longitude" << "180.1" << "setLongitude double:180.0000000";
     QTest::newRow("more decimals sent than the emulator takes")
         << "Longitude" << "0.123456789" << "setLongitude double:0.1234567";
     QTest::newRow("cut at the group separator")
