@@ -16,11 +16,11 @@ class LocationBenchmark : public QObject
 private Q_SLOTS:
     void initTestCase();
     void cleanupTestCase();
-    void testLongTracks();
     void testTable();
     void testParsing();
     void testUpload();
     void testPlayback();
+    void testLongTracks();
 
 private:
     [[nodiscard]] QString writeLog(const QString &name, int sentences, bool pointsOnly);
