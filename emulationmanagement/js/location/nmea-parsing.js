@@ -240,13 +240,13 @@ function createTrackPoint(pointFormat, latString, latHemisphere, lonString, lonH
 //
 // If takeBatch is a function, it gets the points while the log is being read, so that they need not
 // all be kept: takeBatch(points, begin, end) gets those from index begin on, and the place in the
-// text that has been reached. The returned array then has only the last point of each batch; the
-// others are null.
+// text that has been reached. The returned array then has only the last points.
 function loadNmeaLog(text, maximumPoints = Infinity, takeBatch = null) {
     if (text === "")
         throw syntaxError(qsTr("NMEA file is empty"), 0);
-    const points = [];
-    let begin = 0; // of the batch
+    let points = [];
+    let begin = 0; // of the batch in points
+    let dropped = 0; // points that are no longer in points
     let format = null;
     let startTime = null;
     let previousTime = null;
@@ -267,7 +267,7 @@ function loadNmeaLog(text, maximumPoints = Infinity, takeBatch = null) {
         if (!isFinite(point.latitude + point.longitude + point.altitude)
                 || (time && isNaN(time.getTime())))
             throw incorrectLineError(text, start);
-        if (points.length === maximumPoints) {
+        if (dropped + points.length === maximumPoints) {
             const message = qsTr("NMEA file has more than %1 points");
             throw syntaxError(message.replace("%1", maximumPoints), 0);
         }
@@ -275,11 +275,13 @@ function loadNmeaLog(text, maximumPoints = Infinity, takeBatch = null) {
         previousTime = time;
         startTime = startTime ?? time;
         setUpTrackPointTimeAndInterval(points, point, startTime, time);
+        point.index += dropped;
         points.push(point);
         if (takeBatch && points.length - begin === batchSize) {
             takeBatch(points, begin, start);
-            points.fill(null, begin, points.length - 1);
-            begin = points.length;
+            dropped += points.length - 1;
+            points = [point];
+            begin = 1;
         }
     }
     if (points.length === 0)
