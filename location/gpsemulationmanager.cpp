@@ -35,7 +35,9 @@ static double numberOf(const QVariantMap &point, const QString &key)
     const auto value = point.constFind(key);
     if (value == point.cend())
         return 0;
-    return numberOr(value->toDouble(), 0);
+    // Most values are texts, which QVariant::toDouble() converts more slowly.
+    const auto *text = get_if<QString>(&*value);
+    return numberOr(text ? text->toDouble() : value->toDouble(), 0);
 }
 
 GPSEmulationManager::GPSEmulationManager(QObject *parent)
