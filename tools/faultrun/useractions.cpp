@@ -9,7 +9,9 @@
 #include <ravik/virtualmachine.h>
 
 #include <QApplication>
+#include <QFile>
 #include <QQuickItem>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QUrl>
 
@@ -45,15 +47,27 @@ static RandomAction pressSomeKey(QRandomGenerator &random)
     return {u"Press %1"_s.arg(key), [window, key] { QTest::keyClick(window, key); }};
 }
 
+/// A log that takes seconds to read.
+static QString longLog()
+{
+    static const QTemporaryDir folder;
+    QFile log(folder.filePath("long.nmea"));
+    if (!log.exists() && log.open(QIODevice::WriteOnly))
+        log.write(QByteArray("$GPWPL,6000.00,N,03000.00,E,W*5C\n").repeated(500'000));
+    return log.fileName();
+}
+
 static RandomAction useManagers(QRandomGenerator &random, const QString &video)
 {
-    static constexpr const char *logs[] = {SAMPLE_TRACK, MEDIA_FOLDER "/vp8.webm", "/nowhere"};
-    const QUrl log = QUrl::fromLocalFile(QString::fromLatin1(oneOf(logs, random)));
+    const QString logs[] = {SAMPLE_TRACK, MEDIA_FOLDER "/vp8.webm", "/nowhere", longLog()};
+    const QUrl log = QUrl::fromLocalFile(oneOf(logs, random));
     QObject *camera = contextObject("cameraEmulationManager");
     const RandomAction actions[] = {
         {"Light", [] { QMetaObject::invokeMethod(sensorsManager(), "setAlsLuxValue", 7); }},
         {"Position", [] { QMetaObject::invokeMethod(gpsManager(), "setPosition", 1., 2., 3.); }},
         {"Open a track", [log] { QMetaObject::invokeMethod(gpsPage(), "openFile", log); }},
+        {"Cancel the reading",
+         [] { Core::ProgressManager::cancelTasks("EmulationManagement.ReadingTrack"); }},
         {"Play the track", [] { QMetaObject::invokeMethod(trackPlayer(), "start"); }},
         {"Start Video", [=] { QMetaObject::invokeMethod(camera, "startVideoStream", video); }},
         {"Start the camera", [=] { QMetaObject::invokeMethod(camera, "startCameraStream"); }},
