@@ -62,8 +62,9 @@ public:
     /*!
      * Sends one text frame. While the link is down, the request is dropped without a reply.
      *
-     * A long request, such as a track, takes tens of milliseconds, so it gets a turn of the event
-     * loop of its own. The requests after it wait until its last byte was written.
+     * A long request, such as a track, takes tens of milliseconds, so it is sent in a turn of the
+     * event loop of its own. Requests that are made before that turn follow it, in order, once its
+     * last byte was written.
      */
     void sendRequest(const QString &request);
 
