@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <mutex>
 #include <optional>
 #include <utility>
 
@@ -23,32 +22,6 @@ namespace EmulationManagement::Internal {
 static constexpr int wholeProgress = 1000;
 static constexpr int readProgress = 20;    // when the text has been read
 static constexpr int parsedProgress = 950; // when it has been parsed; the upload's text follows
-
-/// Lets one thread interrupt a script that another thread runs.
-class ScriptInterruption
-{
-public:
-    void setEngine(QJSEngine *engine)
-    {
-        const std::scoped_lock lock(m_mutex);
-        m_engine = engine;
-        if (m_engine && m_requested)
-            m_engine->setInterrupted(true);
-    }
-
-    void request()
-    {
-        const std::scoped_lock lock(m_mutex);
-        m_requested = true;
-        if (m_engine)
-            m_engine->setInterrupted(true);
-    }
-
-private:
-    std::mutex m_mutex; // protects all below
-    QJSEngine *m_engine = nullptr;
-    bool m_requested = false;
-};
 
 // Returns nothing if the file cannot be read.
 static std::optional<QString> readText(QPromise<TrackReadingResult> &promise, const QString &path)
@@ -71,24 +44,19 @@ static std::optional<QString> readText(QPromise<TrackReadingResult> &promise, co
     return text;
 }
 
-static void runScript(TrackReading &reading, ScriptInterruption &interruption)
+static void runScript(TrackReading &reading)
 {
     QQmlEngine engine;
-    // The only errors that reach the engine are interruptions.
-    engine.setOutputWarningsToStandardError(false);
-    interruption.setEngine(&engine);
     QQmlComponent script(&engine,
                          QUrl(u"qrc:/emulationmanagement/qml/location/NmeaLogReader.qml"_s));
     const std::unique_ptr<QObject> reader(
         script.createWithInitialProperties({{u"reading"_s, QVariant::fromValue(&reading)}}));
-    interruption.setEngine(nullptr);
-    if (!reader && !engine.isInterrupted())
+    if (!reader)
         qFatal("The script that reads tracks cannot run: %s", qPrintable(script.errorString()));
 }
 
-static void readTrack(QPromise<TrackReadingResult> &promise,
-                      const std::shared_ptr<ScriptInterruption> &interruption, const QString &path,
-                      int maximumPoints, const QString &uploadBegin)
+static void readTrack(QPromise<TrackReadingResult> &promise, const QString &path, int maximumPoints,
+                      const QString &uploadBegin)
 {
     promise.setProgressRange(0, wholeProgress);
     std::optional<QString> text = readText(promise, path);
@@ -101,8 +69,9 @@ static void readTrack(QPromise<TrackReadingResult> &promise,
     auto reading = std::make_unique<TrackReading>(
         std::move(*text), maximumPoints, [&promise](double parsed) {
             promise.setProgressValue(readProgress + int((parsedProgress - readProgress) * parsed));
+            return !promise.isCanceled();
         });
-    runScript(*reading, *interruption);
+    runScript(*reading);
     if (promise.isCanceled())
         return;
     if (reading->hasFailed()) {
@@ -142,9 +111,8 @@ double TrackReader::progress() const
 void TrackReader::read(const QUrl &url, int maximumPoints)
 {
     abandon();
-    m_interruption = std::make_shared<ScriptInterruption>();
-    m_watcher.setFuture(QtConcurrent::run(&m_thread, &readTrack, m_interruption, url.toLocalFile(),
-                                          maximumPoints, m_uploadBegin));
+    m_watcher.setFuture(
+        QtConcurrent::run(&m_thread, &readTrack, url.toLocalFile(), maximumPoints, m_uploadBegin));
     m_usualDurationTimer.start(usualDuration);
     m_reading = true;
     Q_EMIT progressChanged();
@@ -163,7 +131,6 @@ bool TrackReader::abandon()
     if (!m_reading)
         return false;
     m_watcher.future().cancel();
-    m_interruption->request();
     m_watcher.setFuture({}); // takes no more events of the old one
     m_usualDurationTimer.stop();
     m_reading = false;

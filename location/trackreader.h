@@ -10,11 +10,8 @@
 #include <QtQmlIntegration>
 
 #include <chrono>
-#include <memory>
 
 namespace EmulationManagement::Internal {
-
-class ScriptInterruption;
 
 /// What reading a file gave: a track, or an error for the user.
 struct TrackReadingResult
@@ -85,7 +82,6 @@ private:
     bool m_takingLong = false;
     Track m_track;
     QTimer m_usualDurationTimer;
-    std::shared_ptr<ScriptInterruption> m_interruption;
     QFutureWatcher<TrackReadingResult> m_watcher;
     QThreadPool m_thread;
 };

@@ -1,19 +1,18 @@
 #include "trackreading.h"
 
-#include <cstddef>
-#include <cstring>
+#include <algorithm>
 #include <type_traits>
 #include <utility>
 
 namespace EmulationManagement::Internal {
 
-TrackReading::TrackReading(QString text, int maximumPoints, std::function<void(double)> setProgress)
+TrackReading::TrackReading(QString text, int maximumPoints, std::function<bool(double)> setProgress)
     : m_text(std::move(text))
     , m_maximumPoints(maximumPoints)
     , m_setProgress(std::move(setProgress))
 {}
 
-void TrackReading::append(const QByteArray &packedPoints, double end)
+bool TrackReading::append(const QByteArray &packedPoints, double end)
 {
     // Each point is packed as its members, in their order.
     static_assert(std::is_trivially_copyable_v<TrackPoint>
@@ -21,9 +20,9 @@ void TrackReading::append(const QByteArray &packedPoints, double end)
     const qsizetype count = packedPoints.size() / qsizetype(sizeof(TrackPoint));
     const qsizetype before = m_points.size();
     m_points.resize(before + count);
-    std::memcpy(m_points.data() + before, packedPoints.data(),
-                std::size_t(count) * sizeof(TrackPoint));
-    m_setProgress(end / double(m_text.size()));
+    std::copy_n(packedPoints.constData(), packedPoints.size(),
+                reinterpret_cast<char *>(m_points.data() + before));
+    return m_setProgress(end / double(m_text.size()));
 }
 
 void TrackReading::fail(const QString &message, int line)

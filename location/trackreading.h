@@ -21,15 +21,17 @@ class TrackReading : public QObject
     Q_PROPERTY(int maximumPoints READ maximumPoints CONSTANT)
 
 public:
-    /// \a setProgress gets the part of the text that has been read, from 0 to 1.
-    TrackReading(QString text, int maximumPoints, std::function<void(double)> setProgress);
+    /// \a setProgress gets the part of the text that has been read, from 0 to 1, and returns
+    /// whether the reading goes on.
+    TrackReading(QString text, int maximumPoints, std::function<bool(double)> setProgress);
 
     [[nodiscard]] const QString &text() const { return m_text; }
     [[nodiscard]] int maximumPoints() const { return m_maximumPoints; }
 
     /// Takes points as packedPoints() of track-points.js packs them. The script has read the text
-    /// up to the place \a end.
-    Q_INVOKABLE void append(const QByteArray &packedPoints, double end);
+    /// up to the place \a end. Returns whether the script shall go on; otherwise the reading was
+    /// cancelled.
+    Q_INVOKABLE bool append(const QByteArray &packedPoints, double end);
     /// Notes the error that ends the reading. \a line counts from 1; 0 means no line.
     Q_INVOKABLE void fail(const QString &message, int line);
 
@@ -41,7 +43,7 @@ public:
 private:
     QString m_text;
     int m_maximumPoints;
-    std::function<void(double)> m_setProgress;
+    std::function<bool(double)> m_setProgress;
     QList<TrackPoint> m_points;
     QString m_errorMessage;
     int m_errorLine = 0;

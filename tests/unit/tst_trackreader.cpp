@@ -18,12 +18,13 @@ class TrackReaderTest : public QObject
 
     QTemporaryDir m_folder;
 
-    QUrl log(const QString &name, int points) const
+    QUrl log(const QString &name, int lines,
+             const QByteArray &line = "$GPWPL,6000.00,N,03000.00,E,W*5C\n") const
     {
         QFile file(m_folder.filePath(name));
         if (!file.open(QIODevice::WriteOnly))
             qFatal("The log cannot be written");
-        file.write(QByteArray("$GPWPL,6000.00,N,03000.00,E,W*5C\n").repeated(points));
+        file.write(line.repeated(lines));
         return QUrl::fromLocalFile(file.fileName());
     }
 
@@ -111,6 +112,17 @@ private Q_SLOTS:
         QCOMPARE(canceled.size(), another ? 0 : 1);
         QVERIFY(failed.isEmpty());
         QVERIFY(!reader.isReading());
+    }
+
+    // Lines are counted for the error's number.
+    void countingLinesCanBeCancelled()
+    {
+        TrackReader reader({});
+        reader.read(log(u"lines.txt"_s, 20'000'000, "a\n"), maximumPoints);
+        QTRY_VERIFY(reader.progress() > 0.5);
+        const QFuture<void> future = reader.future();
+        reader.cancel();
+        QTRY_VERIFY(future.isFinished());
     }
 
     void indicatorCancels()

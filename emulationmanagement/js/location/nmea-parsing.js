@@ -81,8 +81,11 @@ const tags = Object.keys(sentences);
 const nonEmptyLine = /[^\r\n]+/g;
 const restOfLine = /[^\r\n]*/y;
 
-// The number of points that are handed over at once, see loadNmeaLog().
-const batchSize = 500;
+// The length of the text whose points are handed over at once, see loadNmeaLog().
+const batchLength = 32 * 1024;
+// The number of lines that are counted before an empty batch, which frees memory and may end the
+// reading.
+const linesCountedAtOnce = 10000;
 
 // Returns a pattern that matches where a line begins with these fields.
 function lineOf(...fields) {
@@ -164,24 +167,27 @@ function syntaxError(message, incorrectLine) {
     return Object.assign(new SyntaxError(message), {incorrectLine});
 }
 
-function incorrectLineError(text, start) {
-    return syntaxError(qsTr("Incorrect NMEA file"), countLines(text.substring(0, start + 1)));
+function incorrectLineError(text, start, takeBatch) {
+    return syntaxError(qsTr("Incorrect NMEA file"),
+                       countLines(text.substring(0, start + 1), takeBatch));
 }
 
 // Returns the error for a text without a known sentence.
-function nothingKnownError(text) {
-    const lines = countLines(text);
+function nothingKnownError(text, takeBatch) {
+    const lines = countLines(text, takeBatch);
     if (lines === 0)
         return new TypeError(qsTr("NMEA file has only empty lines"));
     return syntaxError(qsTr("NMEA file has incorrect points format.\n"
                             + "Supported formats: GPRMC, GPGGA, GPGLL, GPWPL."), lines);
 }
 
-function countLines(text) {
+function countLines(text, takeBatch) {
     let count = 0;
     nonEmptyLine.lastIndex = 0;
-    while (nonEmptyLine.test(text))
-        ++count;
+    while (nonEmptyLine.test(text)) {
+        if (++count % linesCountedAtOnce === 0)
+            takeBatch?.([], 0, text.length);
+    }
     return count;
 }
 
@@ -240,25 +246,35 @@ function createTrackPoint(pointFormat, latString, latHemisphere, lonString, lonH
 //
 // If takeBatch is a function, it gets the points while the log is being read, so that they need not
 // all be kept: takeBatch(points, begin, end) gets those from index begin on, and the place in the
-// text that has been reached. The returned array then has only the last points.
+// text that has been reached. It may get no points, and may throw an error to end the reading. The
+// returned array then has only the last points.
 function loadNmeaLog(text, maximumPoints = Infinity, takeBatch = null) {
     if (text === "")
         throw syntaxError(qsTr("NMEA file is empty"), 0);
     let points = [];
     let begin = 0; // of the batch in points
+    let batchEnd = batchLength; // in the text
     let dropped = 0; // points that are no longer in points
     let format = null;
     let startTime = null;
     let previousTime = null;
     // Searching for the talker is quicker than splitting the text into lines.
     for (let start = text.indexOf(talker); start >= 0; start = text.indexOf(talker, start + 1)) {
+        if (takeBatch && start >= batchEnd) {
+            takeBatch(points, begin, start);
+            batchEnd = start + batchLength;
+            const last = points.slice(-1); // the next point continues from it
+            dropped += points.length - last.length;
+            points = last;
+            begin = last.length;
+        }
         const tag = tagAt(text, start);
         if (tag === null)
             continue;
         const sentence = sentences[tag];
         const values = valuesAt(text, start, sentence);
         if (!values)
-            throw incorrectLineError(text, start);
+            throw incorrectLineError(text, start, takeBatch);
         if (format !== null && tag !== format)
             continue;
         const point = pointOf(tag, sentence, values);
@@ -266,7 +282,7 @@ function loadNmeaLog(text, maximumPoints = Infinity, takeBatch = null) {
         // In a line with shifted fields, the fields of the values may contain anything.
         if (!isFinite(point.latitude + point.longitude + point.altitude)
                 || (time && isNaN(time.getTime())))
-            throw incorrectLineError(text, start);
+            throw incorrectLineError(text, start, takeBatch);
         if (dropped + points.length === maximumPoints) {
             const message = qsTr("NMEA file has more than %1 points");
             throw syntaxError(message.replace("%1", maximumPoints), 0);
@@ -277,15 +293,9 @@ function loadNmeaLog(text, maximumPoints = Infinity, takeBatch = null) {
         setUpTrackPointTimeAndInterval(points, point, startTime, time);
         point.index += dropped;
         points.push(point);
-        if (takeBatch && points.length - begin === batchSize) {
-            takeBatch(points, begin, start);
-            dropped += points.length - 1;
-            points = [point];
-            begin = 1;
-        }
     }
     if (points.length === 0)
-        throw nothingKnownError(text);
+        throw nothingKnownError(text, takeBatch);
     takeBatch?.(points, begin, text.length);
     return points;
 }

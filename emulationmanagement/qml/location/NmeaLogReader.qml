@@ -13,7 +13,8 @@ QtObject {
     Component.onCompleted: {
         try {
             Nmea.loadNmeaLog(reading.text, reading.maximumPoints, (points, begin, end) => {
-                reading.append(TrackPoints.packedPoints(points, begin), end);
+                if (!reading.append(TrackPoints.packedPoints(points, begin), end))
+                    throw new Error("The reading was cancelled");
                 // The engine collects no garbage while a function runs. The garbage of a long log
                 // would take forty times as much memory as the log.
                 gc();
