@@ -1,5 +1,6 @@
 #include "remotedbusinvokerservice.h"
 
+#include <QAbstractSocket>
 #include <QUrl>
 
 using namespace Qt::StringLiterals;
@@ -16,7 +17,7 @@ RemoteDBusInvokerService::RemoteDBusInvokerService(QObject *parent)
     m_retryTimer.setSingleShot(true);
     connect(&m_retryTimer, &QTimer::timeout, this, &RemoteDBusInvokerService::connectToEmulator);
     m_nextTurn.setSingleShot(true);
-    connect(&m_nextTurn, &QTimer::timeout, this, &RemoteDBusInvokerService::sendWaitingRequests);
+    connect(&m_nextTurn, &QTimer::timeout, this, &RemoteDBusInvokerService::sendFrame);
 }
 
 RemoteDBusInvokerService::~RemoteDBusInvokerService()
@@ -38,8 +39,7 @@ void RemoteDBusInvokerService::createWebSocket()
     });
     connect(webSocket, &QWebSocket::disconnected, this,
             &RemoteDBusInvokerService::handleDisconnected);
-    connect(webSocket, &QWebSocket::bytesWritten, this,
-            &RemoteDBusInvokerService::scheduleWaitingRequests);
+    connect(webSocket, &QWebSocket::bytesWritten, this, &RemoteDBusInvokerService::scheduleFrame);
     connect(webSocket, &QWebSocket::textMessageReceived, this,
             &RemoteDBusInvokerService::replyReceived);
 }
@@ -60,6 +60,7 @@ void RemoteDBusInvokerService::handleDisconnected()
     const bool wasConnected = m_sinceConnected.isValid();
     m_sinceConnected.invalidate();
     m_waitingRequests.clear();
+    m_nextTurn.stop();
     if (wasConnected)
         Q_EMIT connectionLost();
     Q_EMIT webSocketDisconnected();
@@ -86,37 +87,32 @@ QString RemoteDBusInvokerService::request(const QString &bus, const QString &ser
 
 void RemoteDBusInvokerService::sendRequest(const QString &request)
 {
-    if (!m_webSocket)
+    if (!m_sinceConnected.isValid())
         return;
-    if (m_waitingRequests.isEmpty() && request.size() < longRequest) {
-        send(request);
+    if (m_waitingRequests.empty() && request.size() < longRequest) {
+        m_webSocket->sendTextMessage(request);
+        // Send now: the pages update before the event loop would flush the socket.
+        m_webSocket->flush();
         return;
     }
-    m_waitingRequests.enqueue(request);
-    scheduleWaitingRequests();
+    m_waitingRequests.emplace_back(request);
+    scheduleFrame();
 }
 
-void RemoteDBusInvokerService::send(const QString &request)
+void RemoteDBusInvokerService::sendFrame()
 {
-    m_webSocket->sendTextMessage(request);
-    // Send now: the pages update before the event loop would flush the socket.
-    m_webSocket->flush();
+    // The newest, because the socket of the last connection may not have been deleted yet.
+    QAbstractSocket *socket = m_webSocket->findChildren<QAbstractSocket *>().constLast();
+    m_waitingRequests.front().writeFrame(*socket);
+    if (m_waitingRequests.front().isWritten())
+        m_waitingRequests.pop_front();
+    socket->flush(); // may lose the connection
+    scheduleFrame();
 }
 
-void RemoteDBusInvokerService::sendWaitingRequests()
+void RemoteDBusInvokerService::scheduleFrame()
 {
-    bool isLong = false;
-    while (!m_waitingRequests.isEmpty() && !isLong) {
-        const QString request = m_waitingRequests.dequeue();
-        isLong = request.size() >= longRequest;
-        send(request);
-    }
-    scheduleWaitingRequests();
-}
-
-void RemoteDBusInvokerService::scheduleWaitingRequests()
-{
-    if (!m_waitingRequests.isEmpty() && m_webSocket->bytesToWrite() == 0)
+    if (!m_waitingRequests.empty() && m_webSocket->bytesToWrite() == 0)
         m_nextTurn.start();
 }
 

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "textmessage.h"
+
 #include <QElapsedTimer>
-#include <QQueue>
 #include <QString>
 #include <QTimer>
 #include <QWebSocket>
 
 #include <chrono>
+#include <deque>
 #include <optional>
 
 namespace EmulationManagement::Internal {
@@ -62,9 +64,8 @@ public:
     /*!
      * Sends one text frame. While the link is down, the request is dropped without a reply.
      *
-     * A long request, such as a track, takes tens of milliseconds, so it is sent in a turn of the
-     * event loop of its own. Requests that are made before that turn follow it, in order, once its
-     * last byte was written.
+     * A long request, such as a track, is sent frame by frame, each in a turn of the event loop.
+     * Requests that are made meanwhile follow it, in order.
      */
     void sendRequest(const QString &request);
 
@@ -80,17 +81,16 @@ Q_SIGNALS:
 private:
     void createWebSocket();
     void handleDisconnected();
-    void send(const QString &request);
-    void sendWaitingRequests();
-    void scheduleWaitingRequests();
+    void sendFrame();
+    void scheduleFrame();
 
     // Created by the first connectToEmulator(): the first socket of a process loads the TLS
     // library, which would be the largest part of the plugin's C++ start-up time.
     std::optional<QWebSocket> m_webSocket;
     QElapsedTimer m_sinceConnected; // invalid while there is no connection
     QTimer m_retryTimer;
-    QQueue<QString> m_waitingRequests;
-    QTimer m_nextTurn; // sends them
+    std::deque<TextMessage> m_waitingRequests;
+    QTimer m_nextTurn; // sends a frame of them
 };
 
 } // namespace EmulationManagement::Internal

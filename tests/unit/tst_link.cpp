@@ -61,8 +61,9 @@ private Q_SLOTS:
         TestSupport::RecordingRelay relay;
         Link link;
         QVERIFY(relay.connectLink(link));
-        const QString track(2'000'000, u'7');
-        const QStringList requests{track, u"a"_s, track, u"b"_s, u"c"_s};
+        // Frames begin within a character of four bytes.
+        const QString track = u'7' + u"\U0001F30D"_s.repeated(1'000'000);
+        const QStringList requests{track, u"a"_s, track, QString(300, u'b'), u"c"_s};
         for (const QString &request : requests)
             link.sendRequest(request);
         QCOMPARE(relay.takeRequests(link), requests);
