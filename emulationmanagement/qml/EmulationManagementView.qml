@@ -6,6 +6,7 @@ import QtQuick.Dialogs
 import org.plova 1.0
 
 import "shared"
+import "../js/colors.js" as Colors
 import "../js/sensor-controls-view-logic.js" as Logic
 
 Rectangle {
@@ -25,6 +26,10 @@ Rectangle {
     // Reading the window's palette creates it. It follows the IDE's theme, and controls and dialogs
     // that are made later inherit it; otherwise they would have the palette of the style.
     readonly property Palette windowPalette: Window.window?.palette ?? null
+    // The style marks the focus, and the filled part of a slider, with the palette's highlight. That
+    // of some themes has nearly the colour of the background.
+    readonly property color accentColor: Colors.withContrast(windowPalette?.accent ?? color, color,
+                                                             3.5)
 
     property alias errorDialog: errorDialog
     property alias messageDialog: messageDialog
@@ -55,6 +60,8 @@ Rectangle {
     width: 1100
     height: 600
     color: themeBackgroundColorNormal // qmllint disable unqualified
+    palette.highlight: accentColor
+    palette.highlightedText: Colors.readableOn(accentColor, [Qt.color("white"), Qt.color("black")])
 
     Window.onVisibilityChanged: {
         if (Window.visibility !== Window.Hidden)
@@ -105,12 +112,20 @@ Rectangle {
         required property EmulationPage page
 
         active: page.visible
+        textScale: buttonsColumn.textScale
 
         onClicked: root.switchVisiblePage(page)
     }
 
     Column {
         id: buttonsColumn
+
+        // All texts have one size. A text that does not fit even when it is small is elided.
+        readonly property real textScale: {
+            const buttons = Array.from(children).filter(child => child instanceof PageButton);
+            const room = buttons.map(button => button.availableWidth / button.textWidth);
+            return Math.max(0.8, Math.min(1, ...room));
+        }
 
         anchors.top: parent.top
         anchors.bottom: parent.bottom
@@ -160,6 +175,8 @@ Rectangle {
         anchors.bottom: parent.bottom
         anchors.left: buttonsColumnSeparator.right
         anchors.right: parent.right
+        // The Fusion style draws edges in the colour of the window, made darker by this factor.
+        palette.window: Qt.lighter(Colors.withContrast(root.color, root.color, 3.5), 1.4)
 
         SensorsManagementPage {
             id: sensorsManagementPage

@@ -1,33 +1,39 @@
 import QtQuick
 import QtQuick.Controls
 
+import "../js/colors.js" as Colors
+
 Button {
     id: root
 
     property bool active: false
-    readonly property color highlightColor: themeHighlightColor // qmllint disable unqualified
+    // The text is made smaller by this factor, so that it fits.
+    property real textScale: 1
+    readonly property real textWidth: unscaled.implicitWidth
+    property color highlightColor: themeHighlightColor // qmllint disable unqualified
     readonly property color backgroundColor: themeBackgroundColorNormal // qmllint disable unqualified
-
-    // White text alone is unreadable on the pale highlight of a light theme.
-    readonly property bool emphasized: active && highlightColor.hslLightness > 0.6
 
     anchors.left: parent?.left
     anchors.right: parent?.right
-    font.bold: emphasized
+    bottomPadding: 6
     leftPadding: 15
     rightPadding: 15
+    topPadding: 6
 
     contentItem: Text {
-        color: root.active ? "white" : root.palette.windowText
+        // White is unreadable on the pale highlight of a light theme.
+        color: root.active ? Colors.readableOn(root.highlightColor, [
+                                 "white", root.palette.highlightedText, root.palette.windowText,
+                             ].map(color => Qt.color(color)))
+                           : root.palette.windowText
         elide: Text.ElideRight
-        font: root.font
-        fontSizeMode: Text.HorizontalFit
+        font {
+            family: root.font.family
+            pixelSize: Math.floor(unscaled.fontInfo.pixelSize * root.textScale)
+            weight: root.font.weight
+        }
         horizontalAlignment: Text.AlignLeft
-        minimumPixelSize: Math.ceil(0.8 * root.font.pixelSize)
-        minimumPointSize: Math.max(1, Math.floor(0.8 * root.font.pointSize))
         opacity: root.enabled ? 1.0 : 0.3
-        style: root.emphasized ? Text.Outline : Text.Normal
-        styleColor: Qt.darker(root.highlightColor, 3)
         text: root.text
         verticalAlignment: Text.AlignVCenter
     }
@@ -36,5 +42,13 @@ Button {
         border.color: root.active ? root.palette.windowText : root.highlightColor
         border.width: root.visualFocus ? 1 : 0
         color: root.active ? root.highlightColor : root.backgroundColor
+    }
+
+    Text {
+        id: unscaled
+
+        font: root.font
+        text: root.text
+        visible: false
     }
 }

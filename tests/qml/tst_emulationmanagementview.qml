@@ -4,6 +4,8 @@ import QtTest
 
 import "qrc:/emulationmanagement/qml"
 
+import "qrc:/emulationmanagement/js/colors.js" as Colors
+
 import "find.js" as Find
 
 Item {
@@ -102,6 +104,37 @@ Item {
             compare(shownPage(), row.left ? row.target : "Sensors Values");
             compare(host.questions, row.asked ? [warning] : []);
             compare(settings.readDoNotShowAgainResetSensorsDialog(), row.saved ?? false);
+        }
+
+        function test_edgesAreVisible_data(): var {
+            return [
+                {tag: "light-2024", background: "#fcfcfc", highlight: "#cdcdcd"},
+                {tag: "dark-2024", background: "#1f1f1f", highlight: "#3f3f3f"},
+                {tag: "flat-light", background: "#ffffff", highlight: "#a5cdff"},
+                {tag: "flat-dark", background: "#2e2f30", highlight: "#1d545c"},
+            ];
+        }
+
+        function test_edgesAreVisible(row: var) {
+            view.color = row.background;
+            waitForRendering(view);
+            verify(Colors.contrast(view.palette.highlight, view.color) >= 3);
+            const image = grabImage(view);
+            const sample = {GroupBox: item => item instanceof GroupBox ? item.background : null,
+                            TextField: item => item instanceof TextField ? item : null,
+                            ComboBox: item => item instanceof ComboBox ? item : null,
+                            Button: item => item.text === "Reset values" ? item : null};
+            for (const [name, itemOf] of Object.entries(sample)) {
+                const item = itemOf(Find.find(view, item => item.visible && itemOf(item)));
+                const place = item.mapToItem(view, 0, item.height / 2);
+                // an item may begin between two pixels
+                const edge = [-1, 0, 1].map(x => image.pixel(Math.floor(place.x) + x,
+                                                             Math.floor(place.y)));
+                verify(edge.some(color => Colors.contrast(color, view.color) >= 3), name + edge);
+            }
+            const active = button("Sensors Values");
+            active.highlightColor = row.highlight;
+            verify(Colors.contrast(active.contentItem.color, active.highlightColor) >= 4.5);
         }
 
         // Each field refuses the key that would take its number out of the range.

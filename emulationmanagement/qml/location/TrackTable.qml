@@ -6,6 +6,7 @@ import QtQuick.Layouts
 
 import org.plova 1.0
 
+import "../../js/colors.js" as Colors
 import "../../js/location/track-points.js" as TrackPoints
 
 // The points of a track, one a row; the current row is marked.
@@ -19,8 +20,9 @@ ColumnLayout {
     property bool centred: false
 
     readonly property color highlightColor: themeHighlightColor // qmllint disable unqualified
-    readonly property color highlightedTextColor: highlightColor.hslLightness > 0.6 ? "black"
-                                                                                    : "white"
+    readonly property color highlightedTextColor: Colors.readableOn(highlightColor, [
+        palette.windowText, Qt.color("white"), Qt.color("black"),
+    ])
 
     signal rowChosen(row: int)
 
@@ -35,8 +37,13 @@ ColumnLayout {
             rowChosen(row);
     }
 
+    // The last column takes the rest of the width.
     function columnWidth(column: int): real {
-        return column === 0 ? 70 : tableView.width / 6;
+        const sixth = tableView.width / 6;
+        if (column === 0)
+            return 70;
+        return column === TrackModel.Altitude ? Math.max(sixth, tableView.width - 70 - 3 * sixth)
+                                              : sixth;
     }
 
     spacing: 0

@@ -25,6 +25,8 @@ ComboBox {
     // The user chose an entry.
     signal chosen(index: int)
 
+    // The palette of the pages has another colour for the edges of controls.
+    popup.palette.window: themeBackgroundColorNormal // qmllint disable unqualified
     popup.height: fitsOverBox ? listHeight : Math.min(listHeight, Math.max(roomAbove, roomBelow))
     popup.y: {
         if (fitsOverBox)
