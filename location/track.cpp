@@ -16,6 +16,7 @@ static double readAsNumber(double value)
 
 Track::Track(QList<TrackPoint> trackPoints, const QString &uploadBegin)
     : points(std::move(trackPoints))
+    , outline(points)
 {
     TrackArgument argument(uploadBegin, points.size());
     for (const TrackPoint &point : std::as_const(points)) {

@@ -1,21 +1,14 @@
 #pragma once
 
+#include "trackoutline.h"
+#include "trackpoint.h"
+
 #include <QList>
 #include <QString>
 
 namespace EmulationManagement::Internal {
 
-/// A point of a track, as the script reads it from a file.
-struct TrackPoint
-{
-    double latitude = 0;  ///< degrees, north positive, rounded to 7 decimals
-    double longitude = 0; ///< degrees, east positive, rounded to 7 decimals
-    double altitude = 0;  ///< metres, rounded to 2 decimals
-    double time = 0;      ///< milliseconds since the first point, 0 without time stamps
-    double interval = 0;  ///< milliseconds since the previous point
-};
-
-/// The points of a track, and the request that uploads them. Copies share both.
+/// The points of a track, the request that uploads them, and their drawing. Copies share all.
 struct Track
 {
     Track() = default;
@@ -24,6 +17,7 @@ struct Track
 
     QList<TrackPoint> points;
     QString uploadRequest; ///< as the link sends it
+    TrackOutline outline;
 };
 
 } // namespace EmulationManagement::Internal

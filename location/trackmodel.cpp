@@ -68,6 +68,11 @@ QVariantMap TrackModel::at(int index) const
             {u"interval"_s, point.interval}};
 }
 
+QPointF TrackModel::placeOf(int index) const
+{
+    return m_track.outline.place(m_track.points.value(index));
+}
+
 void TrackModel::setTrack(const Track &track)
 {
     beginResetModel();

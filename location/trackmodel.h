@@ -3,6 +3,8 @@
 #include "track.h"
 
 #include <QAbstractTableModel>
+#include <QPointF>
+#include <QSizeF>
 #include <QVariantMap>
 #include <QtQmlIntegration>
 
@@ -21,6 +23,9 @@ class TrackModel : public QAbstractTableModel
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(int rowCount READ rowCount NOTIFY rowsChanged)
+    /// See TrackOutline.
+    Q_PROPERTY(QList<QPointF> outline READ outline NOTIFY rowsChanged)
+    Q_PROPERTY(QSizeF outlineSize READ outlineSize NOTIFY rowsChanged)
 
 public:
     /// Latitude, longitude and altitude are texts, see at().
@@ -49,6 +54,10 @@ public:
      */
     [[nodiscard]] Q_INVOKABLE QVariantMap at(int index) const;
     [[nodiscard]] const Track &track() const { return m_track; }
+    [[nodiscard]] QList<QPointF> outline() const { return m_track.outline.line(); }
+    [[nodiscard]] QSizeF outlineSize() const { return m_track.outline.size(); }
+    /// Returns the place of a point on the outline. It is outside if there is no such point.
+    [[nodiscard]] Q_INVOKABLE QPointF placeOf(int index) const;
 
     void setTrack(const Track &track);
     /// Shows the track that the reader has loaded.

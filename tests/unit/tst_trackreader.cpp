@@ -1,10 +1,13 @@
 #include <location/trackmodel.h>
+#include <location/trackoutline.h>
 #include <location/trackreader.h>
 
 #include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <algorithm>
 
 using namespace EmulationManagement::Internal;
 using namespace Qt::StringLiterals;
@@ -77,6 +80,45 @@ private Q_SLOTS:
         model.clear();
         QCOMPARE(model.rowCount(), 0);
         QVERIFY(!model.at(0).isEmpty()); // the record is left as it was
+    }
+
+    void outline_data()
+    {
+        QTest::addColumn<QList<TrackPoint>>("points");
+        QTest::addColumn<QList<QPointF>>("line");
+        QTest::newRow("not true to scale") << QList<TrackPoint>{{.latitude = 59, .longitude = 30},
+                                                                {.latitude = 61, .longitude = 32}}
+                                           << QList<QPointF>{{0, 1}, {0.5, 0}};
+        QTest::newRow("goes around the world at the 180th meridian")
+            << QList<TrackPoint>{{.longitude = 179}, {.longitude = -179}}
+            << QList<QPointF>{{0, 0}, {1, 0}};
+        QTest::newRow("division by zero")
+            << QList<TrackPoint>{{.latitude = 60}, {.latitude = 60}} << QList<QPointF>{{0, 0}};
+        QTest::newRow("empty") << QList<TrackPoint>() << QList<QPointF>();
+    }
+
+    void outline()
+    {
+        QFETCH(const QList<TrackPoint>, points);
+        QFETCH(const QList<QPointF>, line);
+        const TrackOutline outline(points);
+        for (const QPointF &place : line) {
+            const auto isNear = [place](const QPointF &other) {
+                return (other - place).manhattanLength() < 1e-3;
+            };
+            QVERIFY(std::ranges::any_of(outline.line(), isNear));
+        }
+        for (const TrackPoint &point : points)
+            QVERIFY(outline.line().contains(outline.place(point)));
+        QCOMPARE(outline.line().isEmpty(), points.isEmpty());
+    }
+
+    void longOutlineIsDrawnQuickly()
+    {
+        QList<TrackPoint> points(longLog);
+        for (int i = 0; i < longLog; ++i)
+            points[i] = {.latitude = double(i % 7), .longitude = double(i % 11)};
+        QVERIFY(TrackOutline(points).line().size() < 10'000);
     }
 
     void nothingOfACancelledReadingArrives_data()

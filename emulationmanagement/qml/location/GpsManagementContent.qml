@@ -97,16 +97,34 @@ PageScrollView {
                     onStopClicked: root.player.stop()
                 }
 
-                TrackTable {
+                RowLayout {
                     Layout.fillHeight: true
                     Layout.fillWidth: true
                     Layout.minimumHeight: 60
+                    spacing: 12
 
-                    centred: root.player.playing || progress.pressed
-                    currentRow: root.player.currentRow
-                    trackModel: root.trackModel
+                    TrackTable {
+                        Layout.fillHeight: true
+                        Layout.fillWidth: true
+                        Layout.horizontalStretchFactor: 3
+                        Layout.preferredWidth: 1
+                        centred: root.player.playing || progress.pressed
+                        currentRow: root.player.currentRow
+                        trackModel: root.trackModel
 
-                    onRowChosen: row => root.player.chooseRow(row)
+                        onRowChosen: row => root.player.chooseRow(row)
+                    }
+
+                    TrackShape {
+                        Layout.fillHeight: true
+                        Layout.fillWidth: true
+                        Layout.horizontalStretchFactor: 2
+                        Layout.preferredWidth: 1
+                        currentRow: root.player.currentRow
+                        trackModel: root.trackModel
+                        // A narrow window has room for the table only.
+                        visible: parent.width >= 840 && root.trackModel.rowCount > 0
+                    }
                 }
             }
         }

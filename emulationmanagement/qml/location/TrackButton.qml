@@ -8,13 +8,18 @@ Button {
     required property string name
 
     Accessible.name: name
-    ToolTip.delay: 700
-    ToolTip.text: name
-    ToolTip.visible: hovered
     display: AbstractButton.IconOnly
     icon.color: palette.buttonText
     icon.height: 16
     icon.width: 16
     implicitWidth: 40
     opacity: enabled ? 1 : 0.4
+
+    ToolTip {
+        delay: 700
+        text: root.name
+        visible: root.hovered
+        // Above the button, it would cover the track's progress.
+        y: root.height + 3
+    }
 }
