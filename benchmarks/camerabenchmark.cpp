@@ -10,6 +10,9 @@
 #include <QElapsedTimer>
 #include <QNetworkDatagram>
 #include <QProcess>
+#include <QQmlListReference>
+#include <QQuickItem>
+#include <QQuickView>
 #include <QSignalSpy>
 #include <QTest>
 #include <QUdpSocket>
@@ -126,6 +129,30 @@ void CameraBenchmark::testProcessorTime()
             .measured = camera - idle,
             .baseline = processorTimeOfLaunch("virtualcamerasrc device=camera ! "
                                               "video/x-raw,width=640,height=480,framerate=30/1"),
+            .unit = "s",
+            .limit = 1.1});
+}
+
+void CameraBenchmark::testPreview()
+{
+    const VirtualCameras cameras(
+        {"Camera | device=camera | video/x-raw,width=640,height=480,framerate=30/1"});
+    waitFor("the camera", [] { return !manager()->property("cameras").toList().isEmpty(); });
+    call("updateCamerasList");
+    QObject *page = QQmlListReference(view()->rootObject(), "pagesIds").at(4);
+    auto *preview = manager()->property("preview").value<QObject *>();
+    page->setProperty("active", true);
+    call("startCameraStream");
+    waitFor("the preview", [&] { return !preview->property("picture").toString().isEmpty(); });
+    const double shown = processorTimeOfIde();
+    preview->setProperty("shown", false);
+    const double hidden = processorTimeOfIde();
+    call("stopCameraStream");
+    const double idle = processorTimeOfIde();
+    page->setProperty("active", false);
+    report({.what = "processor time of streaming a camera with the preview, against without",
+            .measured = shown - idle,
+            .baseline = hidden - idle,
             .unit = "s",
             .limit = 1.1});
 }

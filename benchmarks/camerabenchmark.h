@@ -15,6 +15,7 @@ class CameraBenchmark : public QObject
 private Q_SLOTS:
     void initTestCase();
     void testProcessorTime();
+    void testPreview();
     void testFramesReceived();
     void testDiscovery();
     void testEndurance();

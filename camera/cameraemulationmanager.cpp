@@ -245,6 +245,7 @@ void CameraEmulationManager::play(StreamPipeline *pipeline)
     pipeline->play();
     m_playing = pipeline;
     m_meter.start(pipeline);
+    m_preview.start(pipeline);
 }
 
 void CameraEmulationManager::stopPlaying()
@@ -253,4 +254,5 @@ void CameraEmulationManager::stopPlaying()
         m_playing->stop();
     m_playing = nullptr;
     m_meter.stop();
+    m_preview.stop();
 }

@@ -3,6 +3,7 @@
 #include "cameradiscovery.h"
 #include "camerapipeline.h"
 #include "streammeter.h"
+#include "streampreview.h"
 #include "videofilepipeline.h"
 
 #include <QObject>
@@ -36,6 +37,7 @@ class CameraEmulationManager : public QObject
     Q_PROPERTY(bool videoStreamRunning READ videoStreamRunning NOTIFY streamRunningChanged)
     Q_PROPERTY(int streamFramesPerSecond READ streamFramesPerSecond NOTIFY streamMeasured)
     Q_PROPERTY(QSize streamSize READ streamSize NOTIFY streamMeasured)
+    Q_PROPERTY(StreamPreview *preview READ preview CONSTANT)
     Q_PROPERTY(int maximumSideLength MEMBER maximumSideLength CONSTANT)
     Q_PROPERTY(QStringList framerates READ framerates NOTIFY frameratesChanged)
     Q_PROPERTY(QVariantList resolutions READ resolutions NOTIFY resolutionsChanged)
@@ -68,6 +70,8 @@ public:
     [[nodiscard]] int streamFramesPerSecond() const { return m_meter.framesPerSecond(); }
     /// See StreamMeter::size().
     [[nodiscard]] QSize streamSize() const { return m_meter.size(); }
+
+    [[nodiscard]] StreamPreview *preview() { return &m_preview; }
 
     /// Names of the host's cameras in ascending order. Cameras with the same name share one entry.
     [[nodiscard]] QStringList cameras() const { return m_discovery.cameras().keys(); }
@@ -194,4 +198,5 @@ private:
     QSize m_appliedSize;
     StreamPipeline *m_playing = nullptr; // streamRunning() and videoStreamRunning() derive from it
     StreamMeter m_meter;
+    StreamPreview m_preview;
 };

@@ -5,6 +5,7 @@
 #include <memory>
 
 // Declared here so that users of this folder's headers need no GStreamer headers.
+using GstBuffer = struct _GstBuffer;
 using GstBus = struct _GstBus;
 using GstCaps = struct _GstCaps;
 using GstDevice = struct _GstDevice;

@@ -23,6 +23,30 @@ static GstPadProbeReturn countFrame(GstPad *pad, GstPadProbeInfo *info, void *fr
     return GST_PAD_PROBE_PASS;
 }
 
+// The elements of the pipeline only read pictures, so one can be kept without a copy.
+void StreamPipeline::keepPicture(GstBuffer *picture)
+{
+    if (!m_pictureWanted.exchange(false))
+        return;
+    const std::scoped_lock lock(m_pictureMutex);
+    m_picture.reset(gst_buffer_ref(picture));
+}
+
+QByteArray StreamPipeline::takePicture()
+{
+    MiniObjectReference<GstBuffer> picture;
+    {
+        const std::scoped_lock lock(m_pictureMutex);
+        picture.swap(m_picture);
+    }
+    m_pictureWanted = true;
+    if (!picture)
+        return {};
+    QByteArray jpeg(qsizetype(gst_buffer_get_size(picture.get())), Qt::Uninitialized);
+    gst_buffer_extract(picture.get(), 0, jpeg.data(), gsize(jpeg.size()));
+    return jpeg;
+}
+
 StreamPipeline::StreamPipeline(const Names &names)
 {
     gst_init(nullptr, nullptr);
@@ -46,6 +70,12 @@ StreamPipeline::StreamPipeline(const Names &names)
     const ObjectReference<GstPad> pad(gst_element_get_static_pad(udpSink.get(), "sink"));
     gst_pad_add_probe(pad.get(), GST_PAD_PROBE_TYPE_BUFFER_LIST, countFrame, &m_frameCount,
                       nullptr);
+    const ObjectReference<GstPad> pictures(gst_element_get_static_pad(jpegEncoder.get(), "src"));
+    const auto keep = [](GstPad *, GstPadProbeInfo *info, void *self) {
+        static_cast<StreamPipeline *>(self)->keepPicture(GST_PAD_PROBE_INFO_BUFFER(info));
+        return GST_PAD_PROBE_OK;
+    };
+    gst_pad_add_probe(pictures.get(), GST_PAD_PROBE_TYPE_BUFFER, keep, this, nullptr);
     m_jpegEncoder = std::move(jpegEncoder);
     m_udpSink = std::move(udpSink);
 }

@@ -2,9 +2,11 @@
 
 #include "gstreferences.h"
 
+#include <QByteArray>
 #include <QSize>
 
 #include <atomic>
+#include <mutex>
 
 /*!
  * Base of the pipelines that send pictures to the emulator's camera, as RTP/JPEG over UDP
@@ -41,6 +43,9 @@ public:
 
     /// The number of frames that were sent since the last call.
     [[nodiscard]] int takeFrameCount() { return m_frameCount.exchange(0); }
+    /// Returns a JPEG picture that is as new as the last call or newer, and asks for the next one.
+    /// Empty if there is none yet.
+    [[nodiscard]] QByteArray takePicture();
     /// Width and height of the frames in pixels. Invalid before the first frame.
     [[nodiscard]] QSize frameSize() const;
 
@@ -56,8 +61,13 @@ protected:
     [[nodiscard]] GstElement *udpSink() const { return m_udpSink.get(); }
 
 private:
+    void keepPicture(GstBuffer *picture);
+
     ObjectReference<GstElement> m_pipeline;
     ObjectReference<GstElement> m_jpegEncoder;
     ObjectReference<GstElement> m_udpSink;
     std::atomic<int> m_frameCount = 0; // written by a thread of the pipeline
+    std::atomic<bool> m_pictureWanted = false;
+    std::mutex m_pictureMutex; // protects m_picture, which a thread of the pipeline sets
+    MiniObjectReference<GstBuffer> m_picture;
 };

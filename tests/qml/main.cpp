@@ -32,7 +32,7 @@ public Q_SLOTS:
         qmlRegisterTypesAndRevisions<WarningDialogDouble, SettingsManager, TextFieldDoubleValidator,
                                      SensorsEmulationManager, GPSEmulationManager,
                                      CameraEmulationManager, AlsModel, TapModel, TrackModel,
-                                     TrackReader>("org.plova", 1);
+                                     TrackReader, StreamPreview>("org.plova", 1);
     }
 
     void qmlEngineAvailable(QQmlEngine *engine)

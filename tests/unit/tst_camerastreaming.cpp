@@ -4,6 +4,7 @@
 #include <virtualcameras.h>
 
 #include <QFile>
+#include <QImage>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -67,6 +68,35 @@ private Q_SLOTS:
         QVERIFY(!manager.streamRunning());
         QCOMPARE(changed.size(), 4);
         QTRY_VERIFY(m_receiver.picture().isNull());
+    }
+
+    void preview()
+    {
+        CameraEmulationManager manager;
+        manager.setupCameraStreamPipeline();
+        StreamPreview *preview = manager.preview();
+        const auto shows = [preview](QSize size) {
+            return QTest::qWaitFor([&] {
+                const QByteArray url = preview->picture().toLatin1();
+                const QByteArray jpeg = QByteArray::fromBase64(url.mid(url.indexOf(',') + 1));
+                return QImage::fromData(jpeg, "JPEG").size() == size;
+            });
+        };
+        manager.startCameraStream();
+        QVERIFY(arrives({160, 120}));
+        QVERIFY(preview->picture().isEmpty()); // which would cost processor time
+        preview->setShown(true);
+        QVERIFY(shows({160, 120}));
+        manager.startVideoStream(media + u"vp8.webm"_s);
+        QVERIFY(shows(videoSize));
+        manager.stopStreams();
+        QVERIFY(preview->picture().isEmpty());
+        manager.startCameraStream();
+        QVERIFY(shows({160, 120}));
+        preview->setShown(false);
+        const QSignalSpy changed(preview, &StreamPreview::pictureChanged);
+        QTest::qWait(3 * StreamPreview::interval);
+        QVERIFY(changed.isEmpty());
     }
 
     // A video file plays on while cameras are plugged in, plugged out or looked for.

@@ -16,6 +16,7 @@ PageScrollView {
 
     ColumnLayout {
         width: Math.max(root.page.minimumContentWidth, root.availableWidth)
+        height: Math.max(implicitHeight, root.availableHeight)
         spacing: root.page.spacing
 
         GroupBox {
@@ -43,6 +44,7 @@ PageScrollView {
         }
 
         HostCameraControls {
+            Layout.fillHeight: false
             Layout.fillWidth: true
             cameraManager: root.page.cameraManager
             currentCameraName: root.page.currentCameraName
@@ -96,6 +98,13 @@ PageScrollView {
                 text: qsTr("Update cameras list")
                 onClicked: root.page.cameraManager.updateCamerasList()
             }
+        }
+
+        StreamPreviewArea {
+            Layout.fillHeight: true
+            Layout.fillWidth: true
+            preview: root.page.cameraManager.preview
+            shown: root.page.shown && Window.visibility !== Window.Minimized
         }
     }
 }

@@ -1,0 +1,60 @@
+#include "streampreview.h"
+
+#include "streampipeline.h"
+
+#include <QByteArray>
+
+using namespace Qt::StringLiterals;
+
+StreamPreview::StreamPreview(QObject *parent)
+    : QObject(parent)
+{
+    m_timer.setInterval(interval);
+    connect(&m_timer, &QTimer::timeout, this, &StreamPreview::takePicture);
+}
+
+void StreamPreview::start(StreamPipeline *pipeline)
+{
+    stop();
+    m_pipeline = pipeline;
+    update();
+}
+
+void StreamPreview::stop()
+{
+    m_pipeline = nullptr;
+    update();
+    setPicture({});
+}
+
+void StreamPreview::setShown(bool shown)
+{
+    m_shown = shown;
+    update();
+    Q_EMIT shownChanged();
+}
+
+void StreamPreview::update()
+{
+    if (m_shown && m_pipeline) {
+        static_cast<void>(m_pipeline->takePicture()); // an old one
+        m_timer.start();
+    } else {
+        m_timer.stop();
+    }
+}
+
+void StreamPreview::takePicture()
+{
+    const QByteArray jpeg = m_pipeline->takePicture();
+    if (!jpeg.isEmpty())
+        setPicture("data:image/jpeg;base64,"_L1 + QLatin1StringView(jpeg.toBase64()));
+}
+
+void StreamPreview::setPicture(const QString &picture)
+{
+    if (picture == m_picture)
+        return;
+    m_picture = picture;
+    Q_EMIT pictureChanged();
+}
