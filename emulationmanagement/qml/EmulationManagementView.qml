@@ -124,7 +124,7 @@ Rectangle {
         readonly property real textScale: {
             const buttons = Array.from(children).filter(child => child instanceof PageButton);
             const room = buttons.map(button => button.availableWidth / button.textWidth);
-            return Math.max(0.8, Math.min(1, ...room));
+            return Math.max(0.65, Math.min(1, ...room));
         }
 
         anchors.top: parent.top

@@ -52,6 +52,9 @@ EmulationPage {
         return true;
     }
 
+    Accessible.description: qsTr("Arrow keys turn it, with Ctrl they move it")
+    Accessible.name: qsTr("Device")
+    Accessible.role: Accessible.Graphic
     activeFocusOnTab: true
     contentFile: Qt.resolvedUrl("devicemodel/SmartphoneModelContent.qml")
 

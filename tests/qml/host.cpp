@@ -4,6 +4,7 @@
 
 #include <utils/qtcsettings.h>
 
+#include <QAccessible>
 #include <QColor>
 #include <QQmlContext>
 
@@ -65,6 +66,14 @@ void Host::setSensorAvailable(const QString &name, bool available)
 void Host::fillTrack(TrackModel *track, int points, double interval)
 {
     track->setTrack({QList<TrackPoint>(points, {.interval = interval}), {}});
+}
+
+QString Host::accessibleName(QObject *item) const
+{
+    const QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(item);
+    const QString name = accessible ? accessible->text(QAccessible::Name) : QString();
+    // The platform of tests has no screen reader, so controls do not set their text as their name.
+    return name.isEmpty() ? item->property("text").toString() : name;
 }
 
 void Host::setCameras(const QStringList &cameras)

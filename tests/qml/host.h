@@ -52,6 +52,8 @@ public:
     /// Shows a track whose points have this interval, in milliseconds.
     Q_INVOKABLE void fillTrack(EmulationManagement::Internal::TrackModel *track, int points,
                                double interval);
+    /// The name that a screen reader speaks.
+    Q_INVOKABLE [[nodiscard]] QString accessibleName(QObject *item) const;
     /// Plugs cameras in and out, see VirtualCameras.
     Q_INVOKABLE void setCameras(const QStringList &cameras);
 

@@ -137,6 +137,35 @@ Item {
             verify(Colors.contrast(active.contentItem.color, active.highlightColor) >= 4.5);
         }
 
+        function focusStops(item: Item): var {
+            if (!item.visible || !item.enabled)
+                return [];
+            const stops = item.activeFocusOnTab ? [item] : [];
+            return stops.concat(...Array.from(item.children).map(child => focusStops(child)));
+        }
+
+        function test_keyboardAndScreenReader_data(): var {
+            return titles.map(title => ({tag: title}));
+        }
+
+        // The Tab key reaches each control of a page, and a screen reader has a name for it.
+        function test_keyboardAndScreenReader(row: var) {
+            const title = row.tag;
+            if (title === "GPS Management")
+                host.fillTrack(view.pagesIds[3].trackModel, 3, 1000);
+            mouseClick(button(title));
+            button(title).forceActiveFocus(Qt.TabFocusReason);
+            const missed = new Set(focusStops(view.pagesIds[titles.indexOf(title)]));
+            verify(missed.size > 1);
+            for (let i = 0; i < 100 && missed.size > 0; ++i) {
+                const focused = view.Window.activeFocusItem;
+                verify(host.accessibleName(focused) !== "", `${focused} after ${i} keys`);
+                missed.delete(focused);
+                keyClick(Qt.Key_Tab);
+            }
+            compare([...missed], []);
+        }
+
         // Each field refuses the key that would take its number out of the range.
         function test_coordinates() {
             mouseClick(button("GPS Management"));

@@ -14,8 +14,10 @@ PageScrollView {
 
     required property CameraManagementPage page
 
+    contentWidth: Math.max(root.page.minimumContentWidth, availableWidth)
+
     ColumnLayout {
-        width: Math.max(root.page.minimumContentWidth, root.availableWidth)
+        width: root.contentWidth
         height: Math.max(implicitHeight, root.availableHeight)
         spacing: root.page.spacing
 

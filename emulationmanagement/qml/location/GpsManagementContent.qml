@@ -104,9 +104,12 @@ PageScrollView {
                     spacing: 12
 
                     TrackTable {
+                        id: table
+
                         Layout.fillHeight: true
                         Layout.fillWidth: true
                         Layout.horizontalStretchFactor: 3
+                        Layout.minimumWidth: shape.visible ? comfortableWidth : 0
                         Layout.preferredWidth: 1
                         centred: root.player.playing || progress.pressed
                         currentRow: root.player.currentRow
@@ -116,6 +119,8 @@ PageScrollView {
                     }
 
                     TrackShape {
+                        id: shape
+
                         Layout.fillHeight: true
                         Layout.fillWidth: true
                         Layout.horizontalStretchFactor: 2
@@ -123,7 +128,8 @@ PageScrollView {
                         currentRow: root.player.currentRow
                         trackModel: root.trackModel
                         // A narrow window has room for the table only.
-                        visible: parent.width >= 840 && root.trackModel.rowCount > 0
+                        visible: parent.width >= table.comfortableWidth + 180
+                                 && root.trackModel.rowCount > 0
                     }
                 }
             }

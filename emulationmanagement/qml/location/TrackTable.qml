@@ -24,6 +24,10 @@ ColumnLayout {
         palette.windowText, Qt.color("white"), Qt.color("black"),
     ])
 
+    // Narrower columns would elide numbers.
+    readonly property real comfortableWidth: 6 * (metrics.advanceWidth("-180.0000000") + 2 * padding)
+    readonly property int padding: 4
+
     signal rowChosen(row: int)
 
     function showRow(row: int, alignment: int) {
@@ -53,6 +57,10 @@ ColumnLayout {
     onCurrentRowChanged: Qt.callLater(showRow, currentRow,
                                       centred ? TableView.AlignVCenter : TableView.Contain)
 
+    FontMetrics {
+        id: metrics
+    }
+
     Connections {
         target: root.trackModel
 
@@ -74,7 +82,7 @@ ColumnLayout {
 
                 elide: Text.ElideRight
                 font.bold: true
-                padding: 4
+                padding: root.padding
                 text: modelData
                 width: root.columnWidth(index)
             }
@@ -111,7 +119,7 @@ ColumnLayout {
                 anchors.fill: parent
                 color: cell.highlighted ? root.highlightedTextColor : palette.windowText
                 elide: Text.ElideRight
-                padding: 4
+                padding: root.padding
                 text: cell.column === TrackModel.Time
                     ? TrackPoints.millisToPointTime(Number(cell.display)) : cell.display
             }
