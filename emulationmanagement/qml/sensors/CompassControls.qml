@@ -18,7 +18,7 @@ SensorControls {
                 calibrationLevel.textFieldFocus = false;
             }
 
-            spacing: 0
+            spacing: 2
 
             SliderWithTextField {
                 id: azimuth

@@ -29,7 +29,7 @@ SensorControls {
                 lux.textFieldFocus = false;
             }
 
-            spacing: 0
+            spacing: 2
 
             SliderWithTextField {
                 id: lux

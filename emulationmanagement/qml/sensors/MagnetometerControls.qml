@@ -16,7 +16,7 @@ SensorControls {
                 calibrationLevel.textFieldFocus = false;
             }
 
-            spacing: 0
+            spacing: 2
 
             AxesControls {
                 id: axes

@@ -27,7 +27,7 @@ SensorControls {
                     axis.textFieldFocus = false;
             }
 
-            spacing: 0
+            spacing: 2
 
             Axis {
                 id: xAxis

@@ -14,7 +14,7 @@ ColumnLayout {
 
     required property SensorsValuesPage page
 
-    spacing: 12
+    spacing: 10
 
     PageScrollView {
         id: scrollView
@@ -28,7 +28,7 @@ ColumnLayout {
             width: Math.max(scrollView.availableWidth, implicitWidth)
             columns: 2
             columnSpacing: 12
-            rowSpacing: 8
+            rowSpacing: 5
             uniformCellWidths: true
 
             AccelerometerControls {}

@@ -52,7 +52,7 @@ ColumnLayout {
         valueUnits: root.valueUnits
     }
 
-    spacing: 0
+    spacing: 2
 
     FontMetrics {
         id: metrics
