@@ -13,6 +13,8 @@
 #include <coreplugin/progressmanager/progressmanager.h>
 
 #include <devicemodel/devicemodelfiles.h>
+#include <devicemodel/devicemodelreader.h>
+#include <devicemodel/imageitem.h>
 
 #include <extensionsystem/pluginmanager.h>
 
@@ -119,7 +121,8 @@ void EmulationManagementPlugin::registerQmlTypes()
     qmlRegisterTypesAndRevisions<WarningDialog, SettingsManager, TextFieldDoubleValidator,
                                  SensorsEmulationManager, GPSEmulationManager,
                                  CameraEmulationManager, AlsModel, TapModel, TrackModel,
-                                 TrackReader, StreamPreview>(qmlModule, qmlMajorVersion);
+                                 TrackReader, StreamPreview, DeviceMesh, DeviceModelReader,
+                                 ImageItem>(qmlModule, qmlMajorVersion);
     qRegisterMetaType<AlsModel::LightLevel>("AlsModel::LightLevel");
     qRegisterMetaType<TapModel::TapDirection>("TapModel::TapDirection");
 }

@@ -1,6 +1,9 @@
 #include "host.h"
 #include "warningdialogdouble.h"
 
+#include <devicemodel/devicemodelreader.h>
+#include <devicemodel/imageitem.h>
+
 #include <location/trackmodel.h>
 #include <location/trackreader.h>
 
@@ -32,7 +35,8 @@ public Q_SLOTS:
         qmlRegisterTypesAndRevisions<WarningDialogDouble, SettingsManager, TextFieldDoubleValidator,
                                      SensorsEmulationManager, GPSEmulationManager,
                                      CameraEmulationManager, AlsModel, TapModel, TrackModel,
-                                     TrackReader, StreamPreview>("org.plova", 1);
+                                     TrackReader, StreamPreview, DeviceMesh, DeviceModelReader,
+                                     ImageItem>("org.plova", 1);
     }
 
     void qmlEngineAvailable(QQmlEngine *engine)
