@@ -21,6 +21,7 @@ EmulationPage {
     readonly property double moveMaxValue: 2
 
     readonly property SensorsEmulationManager sensorsManager: sensorsEmulationManager // qmllint disable unqualified
+    readonly property var modelConfig: smartphone3DModelConfig // qmllint disable unqualified
     property bool rotationMode: true
     property bool controlModifierPressed: false
     readonly property alias motion: motion

@@ -5,6 +5,7 @@ import QtTest
 import "qrc:/emulationmanagement/qml"
 
 import "find.js" as Find
+import "quaternions.js" as Quaternions
 
 Item {
     id: root
@@ -183,9 +184,7 @@ Item {
             compare(sent(row.tag), before);
         }
 
-        function test_mouse() {
-            mouseDrag(area, 100, 100, 50, 50); // turns nothing, because no device is drawn
-            compare([motion.rotation, motion.displacement], [[0, 0, 0], [0, 0, 0]]);
+        function test_mouseMoves() {
             startMoving(0);
             mousePress(area, 100, 100);
             mouseMove(area, 100 + area.width / 6, 100 + area.height / 8);
@@ -198,17 +197,55 @@ Item {
                 mouseWheel(area, 10, 10, 0, angle);
                 fuzzyCompare(motion.displacement[2], z, 1e-9);
             }
+            compare(motion.rotation, [0, 0, 0]);
         }
 
-        function test_mouseTurnsDrawnModel() {
-            area.model.cameraAngle = 10;
-            area.model.rotationState = [0, 0, 10];
-            mousePress(area, 300, 100);
-            mouseMove(area, 300, 140);
-            mouseMove(area, 300, 160);
-            mouseRelease(area, 300, 160);
-            [30, 0, 0].forEach((value, i) => fuzzyCompare(motion.rotation[i], value, 5.5));
-            verify(sent("accelerometer")[2] < -400);
+        // The turn of a drag by the rule: half the way about the axes across it. A drag that passes the
+        // origin's vertical line also turns about z, by half the angle that it spans at the origin.
+        function expectedTurn(origin: var, from: var, to: var): var {
+            const [fromX, fromY, toX, toY] = [from[0] - origin[0], from[1] - origin[1],
+                                              to[0] - origin[0], to[1] - origin[1]];
+            const passes = (fromX >= 0) !== (toX >= 0);
+            const angle = Math.abs(Math.atan2(fromX * toY - fromY * toX,
+                                              fromX * toX + fromY * toY)) * 180 / Math.PI;
+            const damping = Math.abs(toY) > 30 ? 1 : Math.sin(Math.abs(toY) * Math.PI / 180);
+            const sign = Math.sign(toY - fromY) * (fromX >= 0 ? 1 : -1);
+            return [(toY - fromY) / 2, (toX - fromX) / 2, passes ? sign * damping * angle / 2 : 0];
+        }
+
+        function test_mouseTurns_data(): var {
+            return [
+                {tag: "near side does not follow", path: [[20, -90], [20, -50], [20, -30]]},
+                {tag: "turned about the device's axes", path: [[20, 0], [120, 0], [120, 70], [90, 70]]},
+                {tag: "z turned elsewhere", path: [[60, -80], [-60, -90], [-60, 70], [50, 120]]},
+                {tag: "not damped near the origin", path: [[60, -10], [-70, -15]]},
+                {tag: "closed path", path: [[80, -80], [-80, -90], [-80, 80], [80, 90], [80, -80]]},
+                {tag: "origin does not follow", position: [1.5, -1, 0.2],
+                 path: [[60, -80], [-60, -90], [-60, 70], [50, 120]]},
+            ];
+        }
+
+        // The path is relative to the origin.
+        function test_mouseTurns(row: var) {
+            const [x, y, z] = row.position ?? [0, 0, 0];
+            motion.displacement = [x, y, z];
+            const origin = [area.width / 2 + x * area.width / (8 + 8 * z),
+                            area.height / 2 - y * area.height / (4 + 4 * z)].map(Math.round);
+            let expected = Quaternions.attitude([0, 0, 0]);
+            const path = row.path.map(point => point.map((part, i) => origin[i] + part));
+            mousePress(area, ...path[0]);
+            path.slice(1).forEach((to, i) => {
+                mouseMove(area, ...to);
+                expected = Quaternions.turned(expected, expectedTurn(origin, path[i], to));
+            });
+            mouseRelease(area, ...path[path.length - 1]);
+            // the rule rounds the cosine of the angle at the origin
+            const tolerance = 1.5;
+            verify(Quaternions.difference(Quaternions.attitude(motion.rotation), expected)
+                   < tolerance);
+            verify(motion.rotation.some(angle => Math.abs(angle) > 5));
+            mouseDoubleClickSequence(area, 20, 20);
+            compare([motion.rotation, sent("accelerometer")], [[0, 0, 0], [0, 1000, 0]]);
         }
     }
 }

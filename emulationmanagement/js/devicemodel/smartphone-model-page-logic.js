@@ -10,6 +10,8 @@
 // The rotations of the buttons under "Device rotation", in their order.
 const presets = [[0, 0, 0], [0, 0, -90], [0, 0, 180], [0, 0, 90], [-90, 0, 0], [90, 0, 0]];
 
+const gravityDirection = [0, -1, 0];
+
 const halfTurn = 180;
 const wholeTurn = 360;
 
@@ -42,6 +44,18 @@ function worldAxes(rotation) {
         y: [cosX * sinZ + sinX * sinY * cosZ, cosX * cosZ - sinX * sinY * sinZ, -sinX * cosY],
         z: [sinX * sinZ - cosX * sinY * cosZ, sinX * cosZ + cosX * sinY * sinZ, cosX * cosY],
     };
+}
+
+// The turned device's axes in the world.
+function deviceAxes(rotation) {
+    const {x, y, z} = worldAxes(rotation);
+    return [0, 1, 2].map(i => [x[i], y[i], z[i]]);
+}
+
+// A vector scaled to the length 1. A vector of length 0 stays as it is.
+function direction(vector) {
+    const length = Math.hypot(...vector);
+    return length > 0 ? vector.map(part => part / length) : vector;
 }
 
 // The constant acceleration that leads from one position to the next within a period, starting at

@@ -8,11 +8,13 @@ Rectangle {
     id: root
 
     required property bool rotationMode
+    required property list<real> rotationState // Euler angles in degrees
+    required property var modelConfig
+    required property var magneticField // in the world's axes
     required property list<real> displacement // x, y and z in units of the move sliders
     required property double moveMinValue
     required property double moveMaxValue
     required property bool keyboardFocus // arrow keys turn or move the device
-    property alias model: model
 
     readonly property double dragLimit: 2.1 // a drag may go a little beyond the sliders' range
     readonly property double wheelStep: 0.2
@@ -22,17 +24,21 @@ Rectangle {
     readonly property point originPoint: Logic.originPoint(mouseArea.width, mouseArea.height,
                                                            displacement)
 
+    // What the hint explains is known once the user has done it.
+    property bool hasTurned: false
+    property bool hasMoved: false
+
     signal pressed
-    // The user turned the drawn device to Euler angles in degrees.
+    // The user turned the device to Euler angles in degrees.
     signal turned(rotation: list<real>)
     // The user moved the device.
     signal moved(displacement: list<real>)
 
     function dragTo(pointer: point) {
-        if (!rotationMode)
-            dragPosition(pointer);
-        else if (model.rotationState.length > 0)
+        if (rotationMode)
             dragRotation(pointer);
+        else
+            dragPosition(pointer);
     }
 
     function dragPosition(pointer: point) {
@@ -46,20 +52,48 @@ Rectangle {
     }
 
     function dragRotation(pointer: point) {
-        model.rotationState = Logic.turnedAboutWorldAxes(
-            model.rotationState, Logic.dragTurn(originPoint, basePoint, pointer));
+        const [x, y, z] = rotationState;
+        const turned = Logic.turnedAboutWorldAxes([x, y, z + model.cameraAngle],
+                                                  Logic.dragTurn(originPoint, basePoint, pointer));
         basePoint = pointer;
-        const [x, y, z] = model.rotationState;
-        turned([x, y, z - model.cameraAngle]);
+        root.turned([turned[0], turned[1], turned[2] - model.cameraAngle]);
     }
 
     border.color: keyboardFocus ? palette.windowText : palette.mid
     color: "transparent"
 
+    onDisplacementChanged: hasMoved = hasMoved || displacement.some(value => value !== 0)
+    onRotationStateChanged: hasTurned = hasTurned || rotationState.some(angle => angle !== 0)
+
     SmartphoneModel {
         id: model
 
         anchors.fill: parent
+        anchors.margins: root.border.width
+        displacement: root.displacement
+        modelConfig: root.modelConfig
+        rotationState: root.rotationState
+    }
+
+    Rectangle { // keeps the diagrams readable in front of the device
+        anchors.fill: sensorAxes
+        anchors.margins: -6
+        color: root.palette.window
+        opacity: 0.6
+        radius: 6
+        visible: sensorAxes.visible
+    }
+
+    SensorAxes {
+        id: sensorAxes
+
+        anchors.left: parent.left
+        anchors.margins: 10
+        anchors.top: parent.top
+        columns: root.width < 0.75 * root.height ? 2 : 1 // where the device leaves room
+        magneticField: root.magneticField
+        rotationState: root.rotationState
+        visible: model.drawn
     }
 
     MouseArea {
@@ -69,6 +103,10 @@ Rectangle {
 
         anchors.fill: model
 
+        onDoubleClicked: {
+            if (root.rotationMode)
+                root.turned([0, 0, 0]);
+        }
         onPositionChanged: mouse => root.dragTo(Qt.point(mouse.x, mouse.y))
         onPressed: mouse => {
             root.basePoint = Qt.point(mouse.x, mouse.y);
@@ -84,16 +122,37 @@ Rectangle {
         }
     }
 
-    Label {
+    Column {
         anchors.bottom: parent.bottom
         anchors.left: parent.left
         anchors.margins: 12
         anchors.right: parent.right
-        horizontalAlignment: Text.AlignHCenter
-        opacity: 0.7
-        text: root.rotationMode
-              ? qsTr("Arrow keys turn about X and Z, with Shift about Y. Hold Ctrl to move.")
-              : qsTr("Drag or press arrow keys to move along X and Y, roll the wheel for Z.")
-        wrapMode: Text.Wrap
+        spacing: 6
+
+        Label {
+            text: model.problem
+            textFormat: Text.PlainText
+            visible: text !== ""
+            width: parent.width
+            wrapMode: Text.Wrap
+        }
+
+        Label {
+            readonly property bool isKnown: root.rotationMode ? root.hasTurned : root.hasMoved
+
+            horizontalAlignment: Text.AlignHCenter
+            opacity: model.drawn && isKnown ? 0 : 0.7
+            text: root.rotationMode
+                  ? qsTr("Drag to turn, double-click to set upright. Arrow keys turn about X and Z, with Shift about Y. Hold Ctrl to move.")
+                  : qsTr("Drag or press arrow keys to move along X and Y, roll the wheel for Z.")
+            width: parent.width
+            wrapMode: Text.Wrap
+
+            Behavior on opacity {
+                NumberAnimation {
+                    duration: 400
+                }
+            }
+        }
     }
 }

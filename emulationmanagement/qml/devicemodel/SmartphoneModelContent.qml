@@ -37,9 +37,12 @@ RowLayout {
         Layout.preferredWidth: Layout.minimumWidth
         displacement: root.motion.displacement
         keyboardFocus: root.page.activeFocus
+        magneticField: root.motion.sensorsManager.magneticField
+        modelConfig: root.page.modelConfig
         moveMaxValue: root.page.moveMaxValue
         moveMinValue: root.page.moveMinValue
         rotationMode: root.page.rotationMode
+        rotationState: root.motion.rotation
 
         onMoved: displacement => root.motion.displacement = displacement
         onPressed: root.page.forceActiveFocus()
