@@ -3,6 +3,7 @@
 #include "cameratest.h"
 #include "connectiontest.h"
 #include "dialogstest.h"
+#include "drawingtest.h"
 #include "faultrun.h"
 #include "languagetest.h"
 #include "locationtest.h"
@@ -20,6 +21,7 @@ bool TestPlugin::initialize(const QStringList &arguments, QString *errorString)
     qunsetenv("LD_PRELOAD"); // the programs that the IDE starts must not inherit a sanitizer
     addTest<StartUpTest>();
     addTest<DialogsTest>();
+    addTest<DrawingTest>();
     addTest<CameraTest>();
     addTest<ConnectionTest>();
     addTest<RepliesTest>();
