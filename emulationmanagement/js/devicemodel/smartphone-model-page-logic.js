@@ -190,5 +190,7 @@ function turnedAboutWorldAxes(rotation, turns) {
         matrix.multiplyMatrices(turn, matrix);
     });
     const {x, y, z} = new THREE.Euler().setFromRotationMatrix(matrix, "XYZ");
-    return [x, y, z].map(degrees);
+    // The matrix has single precision. Rounding keeps 60 degrees from giving 59.99999.
+    const precision = 1e4;
+    return [x, y, z].map(angle => Math.round(degrees(angle) * precision) / precision);
 }
