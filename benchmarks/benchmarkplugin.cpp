@@ -2,6 +2,7 @@
 
 #include "callbenchmark.h"
 #include "camerabenchmark.h"
+#include "drawingbenchmark.h"
 #include "locationbenchmark.h"
 #include "restartbenchmark.h"
 #include "sliderbenchmark.h"
@@ -14,6 +15,7 @@ bool BenchmarkPlugin::initialize(const QStringList &arguments, QString *errorStr
     Q_UNUSED(errorString)
     addTest<CallBenchmark>();
     addTest<CameraBenchmark>();
+    addTest<DrawingBenchmark>();
     addTest<LocationBenchmark>();
     addTest<RestartBenchmark>();
     addTest<SliderBenchmark>();
