@@ -1,5 +1,6 @@
 #include "pagepictures.h"
 
+#include "devicepagedriver.h"
 #include "plugindriver.h"
 #include "waiting.h"
 #include "windowdriver.h"
@@ -66,6 +67,7 @@ void takePagePictures(const QString &folder)
     showPage(driver, 1);
     takePicture(folder, u"sensors-values"_s);
     showPage(driver, 2);
+    DevicePageDriver(driver).drag({{0.5, 0.6}, {0.35, 0.6}, {0.35, 0.65}}); // shows a side, too
     takePicture(folder, u"orientation-management"_s);
 
     showPage(driver, 3);
