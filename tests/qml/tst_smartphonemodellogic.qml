@@ -50,6 +50,21 @@ TestCase {
              [5 / 36, 5 / 36, 5 / 36], 1e-12);
     }
 
+    // Wherever a drag turns the device, also where the Euler angles jump.
+    function test_gyroscopeWhileDragged() {
+        forEachAttitude((rotation, [turnX, turnY]) => {
+            const period = 1e-2; // s
+            const turns = [turnX * period, turnY * period, 0];
+            const next = Logic.turnedAboutWorldAxes(rotation, turns);
+            if (Math.abs(next[1]) > 85)
+                return; // the formula is for small steps, and the angles are steep there
+            const frequencies = Logic.rotationFrequencies(
+                next, Logic.nearestAngles(rotation, next), [false, false, false], period);
+            near(Logic.gyroscopeReading(next, frequencies),
+                 Quaternions.seen(next, [turnX, turnY, 0]), 5);
+        });
+    }
+
     function test_turnedAboutWorldAxes() {
         forEachAttitude((rotation, turns) => {
             const expected = Quaternions.turned(Quaternions.attitude(rotation), turns);

@@ -85,6 +85,19 @@ function rotationFrequencies(rotation, previousRotation, wrapped, period) {
     });
 }
 
+// The Euler angles of the same attitude that are nearest to those of another one. The angles that a
+// drag gives jump by up to half a turn where the attitude hardly changes: without this, the
+// gyroscope would show thousands of degrees per second there.
+function nearestAngles(rotation, other) {
+    const [x, y, z] = rotation;
+    const candidates = [[x, y, z], [x + halfTurn, halfTurn - y, z + halfTurn]].map(
+        angles => angles.map((angle, i) => angle - wholeTurn * Math.round((angle - other[i])
+                                                                         / wholeTurn)));
+    const [first, second] = candidates.map(angles => Math.hypot(
+        ...angles.map((angle, i) => angle - other[i])));
+    return candidates[first <= second ? 0 : 1];
+}
+
 // The gyroscope's reading in degrees per second.
 function gyroscopeReading(rotation, frequencies) {
     const [, sinY, sinZ] = rotation.map(angle => Math.sin(radians(angle)));

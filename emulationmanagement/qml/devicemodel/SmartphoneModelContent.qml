@@ -7,6 +7,7 @@ import QtQuick.Layouts
 
 import ".."
 import "../shared"
+import "../../js/devicemodel/smartphone-model-page-logic.js" as Logic
 
 // The drawing of the device, and the controls that turn and move it.
 RowLayout {
@@ -48,6 +49,8 @@ RowLayout {
         onPressed: root.page.forceActiveFocus()
         onTurned: rotation => {
             root.page.resetSlidersValue();
+            root.motion.previousRotation = Logic.nearestAngles(root.motion.previousRotation,
+                                                               rotation);
             root.page.rotate(rotation);
         }
     }
