@@ -35,6 +35,22 @@ static RandomAction clickSomewhere(QRandomGenerator &random)
             [window, position] { QTest::mouseClick(window, Qt::LeftButton, {}, position); }};
 }
 
+static RandomAction dragSomewhere(QRandomGenerator &random)
+{
+    QQuickView *window = view();
+    if (!window->isVisible() || QApplication::activeModalWidget())
+        return {};
+    const auto position = [&] {
+        return QPoint(random.bounded(std::max(1, window->width())),
+                      random.bounded(std::max(1, window->height())));
+    };
+    return {"Drag", [window, from = position(), to = position()] {
+                QTest::mousePress(window, Qt::LeftButton, {}, from);
+                QTest::mouseMove(window, to);
+                QTest::mouseRelease(window, Qt::LeftButton, {}, to);
+            }};
+}
+
 static RandomAction pressSomeKey(QRandomGenerator &random)
 {
     static constexpr Qt::Key keys[]
@@ -57,10 +73,22 @@ static QString longLog()
     return log.fileName();
 }
 
+static void drawDevice(const QString &mesh)
+{
+    QObject *reader = deviceModelReader();
+    if (!reader)
+        return;
+    const QString texture = DEVICE_MODELS "/textures/nimbra-lite.png";
+    QMetaObject::invokeMethod(reader, "read", QUrl::fromLocalFile(mesh).toString(),
+                              QUrl::fromLocalFile(texture).toString());
+}
+
 static RandomAction useManagers(QRandomGenerator &random, const QString &video)
 {
     const QString logs[] = {SAMPLE_TRACK, MEDIA_FOLDER "/vp8.webm", "/nowhere", longLog()};
     const QUrl log = QUrl::fromLocalFile(oneOf(logs, random));
+    const QString meshes[] = {DEVICE_MODELS "/meshes/nimbra-lite.json", SAMPLE_TRACK, "/nowhere"};
+    const QString mesh = oneOf(meshes, random);
     QObject *camera = contextObject("cameraEmulationManager");
     const RandomAction actions[] = {
         {"Light", [] { QMetaObject::invokeMethod(sensorsManager(), "setAlsLuxValue", 7); }},
@@ -69,6 +97,7 @@ static RandomAction useManagers(QRandomGenerator &random, const QString &video)
         {"Cancel the reading",
          [] { Core::ProgressManager::cancelTasks("EmulationManagement.ReadingTrack"); }},
         {"Play the track", [] { QMetaObject::invokeMethod(trackPlayer(), "start"); }},
+        {"Draw another device", [mesh] { drawDevice(mesh); }},
         {"Start Video", [=] { QMetaObject::invokeMethod(camera, "startVideoStream", video); }},
         {"Start the camera", [=] { QMetaObject::invokeMethod(camera, "startCameraStream"); }},
         {"Update the cameras", [=] { QMetaObject::invokeMethod(camera, "updateCamerasList"); }},
@@ -101,7 +130,9 @@ static RandomAction useSdk(QRandomGenerator &random)
 
 RandomAction nextUserAction(QRandomGenerator &random, const QString &video)
 {
-    const int kind = random.bounded(12);
+    const int kind = random.bounded(13);
+    if (kind == 12)
+        return dragSomewhere(random);
     if (kind < 4)
         return clickSomewhere(random);
     if (kind < 8)
