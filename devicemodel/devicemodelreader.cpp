@@ -17,6 +17,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -87,11 +88,11 @@ static QJsonObject readJson(const QString &path)
     return model;
 }
 
-static std::unique_ptr<MeshReading> readMesh(ScriptRun &script, const QString &path)
+static std::unique_ptr<MeshReading> readMesh(const QString &path)
 {
     auto reading = std::make_unique<MeshReading>(readJson(path));
-    script.run(QUrl(u"qrc:/emulationmanagement/qml/devicemodel/DeviceMeshReader.qml"_s),
-               {{u"reading"_s, QVariant::fromValue(reading.get())}});
+    runScript(QUrl(u"qrc:/emulationmanagement/qml/devicemodel/DeviceMeshReader.qml"_s),
+              {{u"reading"_s, QVariant::fromValue(reading.get())}});
     if (reading->textured().positions.isEmpty() && reading->plain().positions.isEmpty())
         throw ReadingFailed{Problem::NoMesh, path};
     return reading;
@@ -168,16 +169,16 @@ static double surface(const DeviceMesh &mesh)
     return sum;
 }
 
-static DeviceModel readModel(ScriptRun &script, const QString &meshPath, const QString &texturePath)
+static DeviceModel readModel(const QString &meshPath, const QString &texturePath)
 {
     DeviceModel model;
     model.texture = readTexture(texturePath);
-    const std::unique_ptr<MeshReading> mesh = readMesh(script, meshPath);
+    const std::unique_ptr<MeshReading> mesh = readMesh(meshPath);
     model.caseMesh = mesh->plain();
     const QFileInfo meshFile(meshPath);
     if (meshFile.fileName().contains("default.json"_L1)) {
         const std::unique_ptr<MeshReading> front
-            = readMesh(script, meshFile.dir().filePath(u"default_front.json"_s));
+            = readMesh(meshFile.dir().filePath(u"default_front.json"_s));
         model.caseMesh.append(mesh->textured());
         model.caseMesh.append(front->plain());
         model.frontMesh = front->textured();
@@ -191,11 +192,10 @@ static DeviceModel readModel(ScriptRun &script, const QString &meshPath, const Q
     return model;
 }
 
-static DeviceModel readDeviceModel(const std::shared_ptr<ScriptRun> &script,
-                                   const QString &meshPath, const QString &texturePath)
+static DeviceModel readDeviceModel(const QString &meshPath, const QString &texturePath)
 {
     try {
-        return readModel(*script, meshPath, texturePath);
+        return readModel(meshPath, texturePath);
     } catch (const ReadingFailed &failed) {
         return {.problem = failed.problem, .problemFile = QFileInfo(failed.path).fileName()};
     }
@@ -208,25 +208,11 @@ DeviceModelReader::DeviceModelReader(QObject *parent)
     connect(&m_watcher, &QFutureWatcherBase::finished, this, &DeviceModelReader::finish);
 }
 
-DeviceModelReader::~DeviceModelReader()
-{
-    abandon();
-}
-
 void DeviceModelReader::read(const QString &meshUri, const QString &textureUri)
 {
-    abandon();
-    m_script = std::make_shared<ScriptRun>();
-    m_watcher.setFuture(QtConcurrent::run(&m_thread, &readDeviceModel, m_script,
-                                          QUrl(meshUri).toLocalFile(),
+    m_watcher.future().cancel(); // does nothing if it has begun
+    m_watcher.setFuture(QtConcurrent::run(&m_thread, &readDeviceModel, QUrl(meshUri).toLocalFile(),
                                           QUrl(textureUri).toLocalFile()));
-}
-
-void DeviceModelReader::abandon()
-{
-    m_watcher.setFuture({}); // takes no more events of the old one
-    if (m_script)
-        m_script->interrupt();
 }
 
 void DeviceModelReader::finish()

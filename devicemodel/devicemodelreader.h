@@ -9,11 +9,9 @@
 #include <QThreadPool>
 #include <QtQmlIntegration>
 
-#include <memory>
 
 namespace EmulationManagement::Internal {
 
-class ScriptRun;
 
 /*!
  * Reads the mesh and the texture of a device model in a thread of its own, so that windows keep
@@ -58,8 +56,8 @@ public:
     static constexpr qint64 maximumPixels = 4096 * 4096;
 
     explicit DeviceModelReader(QObject *parent = nullptr);
-    /// Abandons a reading.
-    ~DeviceModelReader() override;
+    /// Waits until a reading has ended.
+    ~DeviceModelReader() override = default;
 
     [[nodiscard]] DeviceMesh caseMesh() const { return m_model.caseMesh; }
     [[nodiscard]] DeviceMesh frontMesh() const { return m_model.frontMesh; }
@@ -80,11 +78,9 @@ Q_SIGNALS:
     void finished();
 
 private:
-    void abandon();
     void finish();
 
     DeviceModel m_model;
-    std::shared_ptr<ScriptRun> m_script;
     QFutureWatcher<DeviceModel> m_watcher;
     QThreadPool m_thread;
 };

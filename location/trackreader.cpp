@@ -2,10 +2,10 @@
 
 #include "trackreading.h"
 
+#include <script/scriptrun.h>
+
 #include <QFile>
 #include <QPromise>
-#include <QQmlComponent>
-#include <QQmlEngine>
 #include <QStringConverter>
 #include <QtConcurrentRun>
 
@@ -44,17 +44,6 @@ static std::optional<QString> readText(QPromise<TrackReadingResult> &promise, co
     return text;
 }
 
-static void runScript(TrackReading &reading)
-{
-    QQmlEngine engine;
-    QQmlComponent script(&engine,
-                         QUrl(u"qrc:/emulationmanagement/qml/location/NmeaLogReader.qml"_s));
-    const std::unique_ptr<QObject> reader(
-        script.createWithInitialProperties({{u"reading"_s, QVariant::fromValue(&reading)}}));
-    if (!reader)
-        qFatal("The script that reads tracks cannot run: %s", qPrintable(script.errorString()));
-}
-
 static void readTrack(QPromise<TrackReadingResult> &promise, const QString &path, int maximumPoints,
                       const QString &uploadBegin)
 {
@@ -71,7 +60,8 @@ static void readTrack(QPromise<TrackReadingResult> &promise, const QString &path
             promise.setProgressValue(readProgress + int((parsedProgress - readProgress) * parsed));
             return !promise.isCanceled();
         });
-    runScript(*reading);
+    runScript(QUrl(u"qrc:/emulationmanagement/qml/location/NmeaLogReader.qml"_s),
+              {{u"reading"_s, QVariant::fromValue(reading.get())}});
     if (promise.isCanceled())
         return;
     if (reading->hasFailed()) {
