@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QQuickItem>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
@@ -29,11 +30,6 @@ static bool isLoaded(const QByteArray &library)
 {
     QFile maps("/proc/self/maps");
     return maps.open(QIODevice::ReadOnly) && maps.readAll().contains(library);
-}
-
-static QString dataFile(const QString &name)
-{
-    return QCoreApplication::applicationDirPath() + '/' + name;
 }
 
 void DrawingTest::initTestCase()
@@ -58,22 +54,10 @@ void DrawingTest::init()
     m_page->turn(upright);
 }
 
-void DrawingTest::waitForColor(const QString &place, QPointF point, const QColor &color)
+void DrawingTest::waitForColor(QPointF point, const QColor &color)
 {
-    QColor drawn;
-    try {
-        waitFor(
-            place,
-            [&] {
-                drawn = m_page->colorAt(point.x(), point.y());
-                return isSimilar(drawn, color);
-            },
-            std::chrono::seconds(3));
-    } catch (const WaitingFailed &) {
-        const QString message
-            = QString("%1 is %2 instead of %3").arg(place, drawn.name(), color.name());
-        QFAIL(qPrintable(message));
-    }
+    waitFor("the colour " + color.name(),
+            [&] { return isSimilar(m_page->colorAt(point.x(), point.y()), color); });
 }
 
 // Each row has two points of the area where the picture shows the sun or the dock of the screen,
@@ -99,14 +83,10 @@ void DrawingTest::testSides_data()
     add("Nimbra Phone: face down", faceDown, {{.45, .49}, {.5, .6}}, {"#868990", "#424957"});
     add("Nimbra Lite: front", upright, {{.575, .378}, {.392, .667}}, {"#ece2ca", "#d26060"});
     add("Nimbra Lite: back", back, {{.498, .239}, {.5, .6}}, {"#29292a", "#964047"});
-    add("Nimbra Lite: left", left, {{.502, .34}, {.5, .7}}, {"#a44b52", "#964148"});
-    add("Nimbra Lite: top", top, {{.41, .49}, {.5, .585}}, {"#fffae7", "#ba5961"});
     add("Nimbra Lite: face up", faceUp, {{.585, .445}, {.5, .6}}, {"#fffce8", "#964047"});
     add("Nimbra Lite: face down", faceDown, {{.45, .47}, {.5, .6}}, {"#b78b8f", "#bb5a62"});
     add("Nimbra Tablet: front", upright, {{.62, .346}, {.388, .724}}, {"#eacd79", "#4ea96c"});
     add("Nimbra Tablet: back", back, {{.29, .221}, {.5, .6}}, {"#2e2e2f", "#81878f"});
-    add("Nimbra Tablet: left", left, {{.502, .34}, {.5, .7}}, {"#8b9199", "#80868e"});
-    add("Nimbra Tablet: top", top, {{.37, .513}, {.55, .583}}, {"#ffe8aa", "#81878e"});
     add("Nimbra Tablet: face up", faceUp, {{.605, .458}, {.55, .583}}, {"#ffeaae", "#82888f"});
     add("Nimbra Tablet: face down", faceDown, {{.45, .49}, {.5, .58}}, {"#a8acb2", "#9aa0a9"});
 }
@@ -119,49 +99,43 @@ void DrawingTest::testSides()
     sdk()->setDeviceModel(0, QString::fromLatin1(QTest::currentDataTag()).section(':', 0, 0));
     m_page->turn(rotation);
     for (qsizetype i = 0; i < points.size(); ++i)
-        waitForColor(QString("point %1").arg(i), points[i], QColor(colors[i]));
+        waitForColor(points[i], QColor(colors[i]));
 }
 
 void DrawingTest::testBadFiles_data()
 {
-    QTest::addColumn<QByteArray>("mesh");
-    QTest::addColumn<QByteArray>("texture");
+    QTest::addColumn<QString>("mesh");
+    QTest::addColumn<QString>("texture");
     QTest::addColumn<QString>("reason");
-    QTest::newRow("missing mesh") << QByteArray() << QByteArray() << "\"mesh.json\" cannot be read";
-    QTest::newRow("enormous mesh")
-        << QByteArray(50 << 20, ' ') << QByteArray() << "\"mesh.json\" is too large to draw";
-    QTest::newRow("no mesh") << QByteArray("<b>") << QByteArray()
-                             << "\"mesh.json\" contains no mesh";
-    QTest::newRow("no picture") << QByteArray("good") << QByteArray("<b>")
-                                << "\"texture.png\" contains no image";
+    const QString good = "meshes/nimbra-lite.json";
+    const QString picture = "textures/default.png";
+    QTest::newRow("missing") << "meshes/none.json" << picture << "\"none.json\" cannot be read";
+    QTest::newRow("no mesh") << picture << picture << "\"default.png\" contains no mesh";
+    QTest::newRow("enormous") << "" << picture << "\"large.json\" is too large to draw";
+    QTest::newRow("no image") << good << good << "\"nimbra-lite.json\" contains no image";
 }
 
 // A file of no use gives a box and a sentence. The next device model is drawn again.
 void DrawingTest::testBadFiles()
 {
-    QFETCH(const QByteArray, mesh);
-    QFETCH(const QByteArray, texture);
+    QFETCH(const QString, mesh);
+    QFETCH(const QString, texture);
     QFETCH(const QString, reason);
-    const QString meshFile = m_folder.filePath("mesh.json");
-    const QString textureFile = m_folder.filePath("texture.png");
-    QFile::remove(meshFile);
-    for (const auto &[name, content] : {std::pair(meshFile, mesh), {textureFile, texture}}) {
-        QFile file(name);
-        if (!content.isEmpty() && file.open(QIODevice::WriteOnly))
-            file.write(content);
-    }
-    m_page->read(mesh == "good" ? dataFile("meshes/nimbra-lite.json") : meshFile,
-                 texture.isEmpty() ? dataFile("textures/default.png") : textureFile);
+    const QString folder = QCoreApplication::applicationDirPath() + '/';
+    const QTemporaryDir temporary;
+    QFile large(temporary.filePath("large.json"));
+    QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(50 << 20));
+    m_page->read(mesh.isEmpty() ? large.fileName() : folder + mesh, folder + texture);
     const QString sentence = "The device is drawn as a box, because the file " + reason + '.';
     const auto *label = WindowDriver(view()).item("QQuickLabel", "text", sentence);
-    waitForColor("the box", {0.5, 0.5}, QColor("#99a2ac"));
+    waitForColor({0.5, 0.5}, QColor("#99a2ac"));
     sdk()->setDeviceModel(0, "Nimbra Tablet");
     sdk()->setDeviceModel(0, "Nimbra Phone");
     waitFor("the sentence to go", [&] { return !label->isVisible(); });
-    waitForColor("the dock", {0.4, 0.75}, QColor("#4ea96c"));
+    waitForColor({0.4, 0.75}, QColor("#4ea96c"));
 }
 
-// The hint goes when the user has turned the device, and the mouse turns what is drawn.
+// The hint goes when the user has turned the device.
 void DrawingTest::testHint()
 {
     const QList<QQuickItem *> labels = WindowDriver(view()).items("QQuickLabel", m_page->area());
@@ -171,6 +145,4 @@ void DrawingTest::testHint()
     QVERIFY(hint != labels.end());
     m_page->drag({{0.55, 0.6}, {0.75, 0.6}, {0.95, 0.6}});
     waitFor("the hint to fade", [&] { return (*hint)->opacity() == 0; });
-    QTest::mouseDClick(view(), Qt::LeftButton, {}, m_page->at(0.5, 0.5));
-    waitForColor("the dock", {0.4, 0.75}, QColor("#4ea96c"));
 }

@@ -3,7 +3,6 @@
 #include <devicepagedriver.h>
 
 #include <QObject>
-#include <QTemporaryDir>
 
 #include <memory>
 
@@ -23,8 +22,7 @@ private Q_SLOTS:
     void cleanupTestCase();
 
 private:
-    void waitForColor(const QString &place, QPointF point, const QColor &color);
+    void waitForColor(QPointF point, const QColor &color);
 
     std::unique_ptr<DevicePageDriver> m_page;
-    QTemporaryDir m_folder;
 };
