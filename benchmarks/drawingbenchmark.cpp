@@ -81,8 +81,8 @@ void DrawingBenchmark::testFirstShowing()
     m_page = std::make_unique<DevicePageDriver>(WindowDriver(view()));
     const BusyTime busy;
     m_page->show();
-    waitFor("the scene", [&] { return m_page->reader(); });
-    waitForDevice(m_page->reader());
+    waitFor("the scene", [] { return deviceModelReader() != nullptr; });
+    waitForDevice(deviceModelReader());
     report({.what = "busy event loop until the device is drawn, against what it may take",
             .measured = busy.total(),
             .baseline = allowance,
@@ -110,7 +110,7 @@ void DrawingBenchmark::testMemory()
     const auto change = [&](int times) {
         for (int i = 0; i < times; ++i) {
             sdk()->setDeviceModel(0, models[(i + 1) % models.size()]);
-            waitForDevice(m_page->reader());
+            waitForDevice(deviceModelReader());
         }
         return residentMemory();
     };
@@ -164,7 +164,7 @@ void DrawingBenchmark::testLargeMesh()
     sinceLast.start();
     ticks.start(0ms);
     m_page->read(mesh.fileName(), QCoreApplication::applicationDirPath() + "/textures/default.png");
-    waitForDevice(m_page->reader());
+    waitForDevice(deviceModelReader());
     report({.what = "longest block of the event loop by a mesh of the largest size",
             .measured = longest,
             .baseline = allowance,

@@ -39,7 +39,7 @@ void DrawingTest::initTestCase()
     QVERIFY(!isLoaded("Quick3D")); // the start of the IDE must not pay for it
     m_page = std::make_unique<DevicePageDriver>(WindowDriver(view()));
     m_page->show();
-    waitFor("the device to be drawn", [&] { return m_page->reader() != nullptr; });
+    waitFor("the device to be drawn", [] { return deviceModelReader() != nullptr; });
     QVERIFY(isLoaded("Quick3D"));
 }
 

@@ -1,5 +1,7 @@
 #include "devicepagedriver.h"
 
+#include "plugindriver.h"
+
 #include <QImage>
 #include <QQmlListReference>
 #include <QQuickItem>
@@ -54,16 +56,7 @@ void DevicePageDriver::turn(const QList<double> &rotation) const
 
 void DevicePageDriver::read(const QString &mesh, const QString &texture) const
 {
-    QMetaObject::invokeMethod(reader(), "read", QUrl::fromLocalFile(mesh).toString(),
+    QMetaObject::invokeMethod(PluginDriver::deviceModelReader(), "read",
+                              QUrl::fromLocalFile(mesh).toString(),
                               QUrl::fromLocalFile(texture).toString());
-}
-
-QObject *DevicePageDriver::reader() const
-{
-    const QObjectList children = area()->findChildren<QObject *>();
-    for (QObject *child : children) {
-        if (child->inherits("EmulationManagement::Internal::DeviceModelReader"))
-            return child;
-    }
-    return nullptr;
 }

@@ -25,8 +25,6 @@ public:
     void turn(const QList<double> &rotation) const;
     /// Draws other files than those of the emulator's device model.
     void read(const QString &mesh, const QString &texture) const;
-    /// The object that reads the files, or null before the device is drawn.
-    [[nodiscard]] QObject *reader() const;
 
 private:
     WindowDriver m_driver;

@@ -78,6 +78,16 @@ QObject *trackPlayer()
     return *player;
 }
 
+QObject *deviceModelReader()
+{
+    const QObjectList children = view()->rootObject()->findChildren<QObject *>();
+    for (QObject *child : children) {
+        if (child->inherits("EmulationManagement::Internal::DeviceModelReader"))
+            return child;
+    }
+    return nullptr;
+}
+
 std::unique_ptr<QObject> createWarningDialog(const QByteArray &properties)
 {
     QQmlComponent component(view()->engine());

@@ -30,6 +30,9 @@ QObject *errorDialog();
 QObject *gpsPage();
 QObject *trackPlayer();
 
+/// Reads the files of the drawn device; null before the device has been drawn.
+QObject *deviceModelReader();
+
 /// Creates a question as the pages do. \a properties is QML text.
 std::unique_ptr<QObject> createWarningDialog(const QByteArray &properties);
 
