@@ -1,16 +1,11 @@
 #include "emulationmanager.h"
 
 #include "remotedbusinvokerservice.h"
-
-#include <QStringTokenizer>
+#include "reply.h"
 
 using namespace Qt::StringLiterals;
 
 namespace EmulationManagement::Internal {
-
-constexpr qsizetype replyFieldCount = 5;
-constexpr qsizetype errorNameField = 3;
-constexpr qsizetype errorTextField = 4;
 
 EmulationManager::EmulationManager(QObject *parent)
     : QObject(parent)
@@ -33,20 +28,14 @@ void EmulationManager::setRdbusinvoker(RemoteDBusInvokerService *invoker)
 
 void EmulationManager::processReplyFromEmulator(const QString &reply)
 {
-    QStringList fields;
-    for (const QStringView field : QStringTokenizer(reply, u':')) {
-        fields.append(QString::fromRawData(field.data(), field.size()));
-        // Millions of fields would take many times the memory of the line.
-        if (fields.size() > replyFieldCount)
-            break;
-    }
-    if (fields.size() != replyFieldCount) {
+    const QStringList fields = replyFields(reply);
+    if (fields.isEmpty()) {
         Q_EMIT replyFromEmulatorReceived(reply);
         return;
     }
-    if (!fields.at(errorNameField).isEmpty()) {
+    if (!fields.at(ReplyErrorName).isEmpty()) {
         Q_EMIT replyFromEmulatorReceived(
-            u"%1 %2"_s.arg(fields.at(errorNameField), fields.at(errorTextField)));
+            replyError(fields.at(ReplyErrorName), fields.at(ReplyErrorText)));
         return;
     }
     processDBusMethodsReturnValues(fields);

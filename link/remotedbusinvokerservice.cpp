@@ -3,6 +3,8 @@
 #include <QAbstractSocket>
 #include <QUrl>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace EmulationManagement::Internal {
@@ -59,8 +61,12 @@ void RemoteDBusInvokerService::handleDisconnected()
         = m_sinceConnected.isValid() && m_sinceConnected.durationElapsed() >= retryInterval;
     const bool wasConnected = m_sinceConnected.isValid();
     m_sinceConnected.invalidate();
-    m_waitingRequests.clear();
     m_nextTurn.stop();
+    const std::deque<TextMessage> unsent = std::exchange(m_waitingRequests, {});
+    for (const TextMessage &request : unsent) {
+        if (!request.isBegun())
+            Q_EMIT requestDropped(request.text());
+    }
     if (wasConnected)
         Q_EMIT connectionLost();
     Q_EMIT webSocketDisconnected();
@@ -87,9 +93,12 @@ QString RemoteDBusInvokerService::request(const QString &bus, const QString &ser
 
 void RemoteDBusInvokerService::sendRequest(const QString &request)
 {
-    if (!m_sinceConnected.isValid())
+    if (!m_sinceConnected.isValid()) {
+        Q_EMIT requestDropped(request);
         return;
+    }
     if (m_waitingRequests.empty() && request.size() < longRequest) {
+        Q_EMIT requestSent(request); // before a flush that notices that the connection is lost
         m_webSocket->sendTextMessage(request);
         // Send now: the pages update before the event loop would flush the socket.
         m_webSocket->flush();
@@ -101,10 +110,13 @@ void RemoteDBusInvokerService::sendRequest(const QString &request)
 
 void RemoteDBusInvokerService::sendFrame()
 {
+    TextMessage &request = m_waitingRequests.front();
+    if (!request.isBegun())
+        Q_EMIT requestSent(request.text());
     // The newest, because the socket of the last connection may not have been deleted yet.
     QAbstractSocket *socket = m_webSocket->findChildren<QAbstractSocket *>().constLast();
-    m_waitingRequests.front().writeFrame(*socket);
-    if (m_waitingRequests.front().isWritten())
+    request.writeFrame(*socket);
+    if (request.isWritten())
         m_waitingRequests.pop_front();
     socket->flush(); // may lose the connection
     scheduleFrame();

@@ -75,6 +75,10 @@ Q_SIGNALS:
     void connectionLost();
     /// A connection was lost, or an attempt to connect failed.
     void webSocketDisconnected();
+    /// A request is about to be sent. Its reply is the next one that no earlier request awaits.
+    void requestSent(const QString &request);
+    /// A request was not sent, because there is no connection or because it was lost meanwhile.
+    void requestDropped(const QString &request);
     /// A reply line of the relay, unchanged.
     void replyReceived(const QString &reply);
 

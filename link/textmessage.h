@@ -21,6 +21,9 @@ public:
 
     explicit TextMessage(QString text);
 
+    [[nodiscard]] const QString &text() const { return m_text; }
+    /// Whether a frame was written.
+    [[nodiscard]] bool isBegun() const { return m_begun; }
     [[nodiscard]] bool isWritten() const { return m_begun && m_next >= m_text.size(); }
     /// Writes the next frame to the socket of an open WebSocket.
     void writeFrame(QIODevice &socket);
