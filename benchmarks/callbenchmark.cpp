@@ -2,6 +2,9 @@
 
 #include "ratio.h"
 
+#include <link/calllog.h>
+#include <link/remotedbusinvokerservice.h>
+
 #include <plugindriver.h>
 #include <waiting.h>
 
@@ -141,4 +144,44 @@ void CallBenchmark::testThroughput()
             .measured = callRate,
             .baseline = echoRate,
             .unit = "per ms"});
+}
+
+void CallBenchmark::testObserving()
+{
+    using EmulationManagement::Internal::CallLog;
+    using Link = EmulationManagement::Internal::RemoteDBusInvokerService;
+    static constexpr int rounds = 8000;
+    Link observed;
+    Link bare;
+    const CallLog log(&observed);
+    QEventLoop loop;
+    int connections = 0;
+    for (Link *link : {&observed, &bare}) {
+        connect(link, &Link::webSocketConnected, &loop, [&] { ++connections; });
+        connect(link, &Link::replyReceived, &loop, &QEventLoop::quit);
+        link->connectToEmulator();
+    }
+    waitFor("both links", [&] { return connections == 2; });
+    const auto roundTrip = [&](Link &link) {
+        return millisecondsOf([&] {
+            link.sendRequest(frame);
+            loop.exec();
+        });
+    };
+    std::vector<double> observedCalls;
+    std::vector<double> bareCalls;
+    for (int round = 0; round < rounds; ++round) {
+        // each goes first as often as the other
+        if (round % 2 == 0)
+            observedCalls.push_back(roundTrip(observed));
+        bareCalls.push_back(roundTrip(bare));
+        if (round % 2 != 0)
+            observedCalls.push_back(roundTrip(observed));
+    }
+    QCOMPARE(log.totals().calls, rounds);
+    report({.what = "observed call round trip, median",
+            .measured = quantile(observedCalls, 0.5),
+            .baseline = quantile(bareCalls, 0.5),
+            .unit = "ms",
+            .limit = 1.02});
 }
