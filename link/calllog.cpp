@@ -4,36 +4,12 @@
 #include "reply.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 #include <vector>
 
 using namespace Qt::StringLiterals;
 
 namespace EmulationManagement::Internal {
-
-// Finds method and arguments in a request, without a copy.
-static const ServiceMethod *parse(QStringView request, QStringView *arguments)
-{
-    static const std::array addresses = [] {
-        std::array<std::pair<const Service *, QString>, 2> result;
-        std::ranges::transform(
-            std::array{&sensorsService, &locationService}, result.begin(),
-            [](const Service *service) { return std::pair(service, requestAddress(*service)); });
-        return result;
-    }();
-    for (const auto &[service, address] : addresses) {
-        if (!request.startsWith(address))
-            continue;
-        const QStringView call = request.sliced(address.size());
-        const qsizetype nameEnd = call.indexOf(u' ');
-        if (nameEnd < 0)
-            return nullptr;
-        *arguments = call.sliced(nameEnd + 1);
-        return findMethod(*service, call.first(nameEnd));
-    }
-    return nullptr;
-}
 
 // Returns a bounded copy, because a request may share its text with a track.
 static QString shortened(QStringView text, qsizetype *omitted)
@@ -57,7 +33,7 @@ void CallLog::append(const QString &request, Outcome outcome)
 {
     LoggedCall call{.time = LoggedCall::Clock::now()};
     QStringView arguments;
-    call.method = parse(request, &arguments);
+    call.method = findMethod(request, &arguments);
     call.arguments = shortened(call.method ? arguments : request, &call.omitted);
     call.outcome = outcome;
     append(std::move(call));

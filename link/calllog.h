@@ -75,6 +75,9 @@ public:
         return m_calls[std::size_t(serial - m_begin)];
     }
 
+    /// The number of calls that wait for their replies.
+    [[nodiscard]] qsizetype waiting() const { return qsizetype(m_waiting.size()); }
+
     /// Counts all calls since the last clear(), also those that are no longer kept.
     [[nodiscard]] const Totals &totals() const { return m_totals; }
     /// The calls of the last second.

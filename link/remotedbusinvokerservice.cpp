@@ -51,7 +51,7 @@ void RemoteDBusInvokerService::connectToEmulator()
     m_retryTimer.stop();
     if (!m_webSocket)
         createWebSocket();
-    m_webSocket->open(QUrl(u"ws://127.0.0.1:%1"_s.arg(hostTcpPort)));
+    m_webSocket->open(QUrl(u"ws://127.0.0.1:%1"_s.arg(m_port)));
 }
 
 void RemoteDBusInvokerService::handleDisconnected()

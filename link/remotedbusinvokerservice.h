@@ -45,6 +45,9 @@ public:
     explicit RemoteDBusInvokerService(QObject *parent = nullptr);
     ~RemoteDBusInvokerService() override;
 
+    /// Sets the port of this host that leads to the relay, in place of hostTcpPort.
+    void setPort(unsigned short port) { m_port = port; }
+    [[nodiscard]] bool isConnected() const { return m_sinceConnected.isValid(); }
     /// Opens the WebSocket to the host end of the forwarded port.
     void connectToEmulator();
 
@@ -91,6 +94,7 @@ private:
     // Created by the first connectToEmulator(): the first socket of a process loads the TLS
     // library, which would be the largest part of the plugin's C++ start-up time.
     std::optional<QWebSocket> m_webSocket;
+    unsigned short m_port = hostTcpPort;
     QElapsedTimer m_sinceConnected; // invalid while there is no connection
     QTimer m_retryTimer;
     std::deque<TextMessage> m_waitingRequests;

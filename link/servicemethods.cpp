@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -135,6 +136,23 @@ const Service *findService(QStringView name)
 QString requestAddress(const Service &service)
 {
     return u"system %1 %2 %1 "_s.arg(service.dbusName, service.dbusObject);
+}
+
+const ServiceMethod *findMethod(QStringView request, QStringView *arguments)
+{
+    static const std::array addresses{std::pair(&sensorsService, requestAddress(sensorsService)),
+                                      std::pair(&locationService, requestAddress(locationService))};
+    for (const auto &[service, address] : addresses) {
+        if (!request.startsWith(address))
+            continue;
+        const QStringView call = request.sliced(address.size());
+        const qsizetype nameEnd = call.indexOf(u' ');
+        if (nameEnd < 0)
+            return nullptr;
+        *arguments = call.sliced(nameEnd + 1);
+        return findMethod(*service, call.first(nameEnd));
+    }
+    return nullptr;
 }
 
 const ServiceMethod *findMethod(const Service &service, QStringView name)

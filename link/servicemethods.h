@@ -71,6 +71,9 @@ extern const Service cameraService;
 [[nodiscard]] const Service *findService(QStringView name);
 /// Returns the part of each request that precedes the method's name.
 [[nodiscard]] QString requestAddress(const Service &service);
+/// Returns the method that a request calls, and its arguments as a part of \a request. Returns null
+/// for a request that is not described.
+[[nodiscard]] const ServiceMethod *findMethod(QStringView request, QStringView *arguments);
 /// Returns null for an unknown name.
 [[nodiscard]] const ServiceMethod *findMethod(const Service &service, QStringView name);
 
