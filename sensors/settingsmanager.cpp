@@ -6,10 +6,7 @@
 #include "magneticfieldmodel.h"
 #include "magnetometermodel.h"
 #include "proximitymodel.h"
-
-#include <coreplugin/icore.h>
-
-#include <utils/qtcsettings.h>
+#include "storedvalues.h"
 
 #include <QtNumeric>
 
@@ -47,28 +44,27 @@ const QString SettingsManager::modelPositionZKey = u"model_position_z"_s;
 const QString SettingsManager::doNotShowAgainResetSensorsDialogKey
     = u"do_not_show_again_reset_sensors_dialog"_s;
 
-static Utils::Key groupedKey(const QString &key)
+static QString groupedKey(const QString &key)
 {
-    return Utils::keyFromString(u"%1/%2"_s.arg(SettingsManager::groupName, key));
+    return u"%1/%2"_s.arg(SettingsManager::groupName, key);
 }
 
 SettingsManager::SettingsManager(QObject *parent)
     : QObject(parent)
-    , m_settings(Core::ICore::settings())
 {}
 
 void SettingsManager::setValue(const QString &key, const QVariant &value)
 {
     if (value.typeId() == QMetaType::Double && qIsNaN(value.toDouble()))
         return;
-    const Utils::Key settingsKey = groupedKey(key);
-    if (m_settings->value(settingsKey) != value)
-        m_settings->setValue(settingsKey, value);
+    const QString storedKey = groupedKey(key);
+    if (storedValue(storedKey, {}) != value)
+        storeValue(storedKey, value);
 }
 
 QVariant SettingsManager::value(const QString &key, const QVariant &defaultValue) const
 {
-    return m_settings->value(groupedKey(key), defaultValue);
+    return storedValue(groupedKey(key), defaultValue);
 }
 
 int SettingsManager::readAccelerometerX() const

@@ -7,10 +7,6 @@
 #include <QVariant>
 #include <QtQmlIntegration>
 
-namespace Utils {
-class QtcSettings;
-}
-
 namespace EmulationManagement::Internal {
 
 /*!
@@ -102,9 +98,6 @@ public:
     Q_INVOKABLE void save3DModelRotationValues(double x, double y, double z);
     Q_INVOKABLE void save3DModelPositionValues(double x, double y, double z);
     Q_INVOKABLE void saveDoNotShowAgainResetSensorsDialog(bool doNotShowAgain);
-
-private:
-    Utils::QtcSettings *m_settings;
 };
 
 } // namespace EmulationManagement::Internal
