@@ -1,0 +1,57 @@
+#include "calls.h"
+#include "camerastream.h"
+#include "commandline.h"
+#include "output.h"
+#include "session.h"
+#include "trackplayback.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+
+using namespace EmulationCtl;
+using namespace Qt::StringLiterals;
+
+static int runCalls(const CommandLine &line)
+{
+    QString error;
+    const std::optional<Calls> calls = callsOf(line, &error);
+    if (!calls && error.isEmpty())
+        return Success;
+    if (!calls) {
+        complain(error);
+        return WrongUse;
+    }
+    Session session(line.general);
+    QObject::connect(&session, &Session::connected, &session, [&] {
+        (*calls)(session);
+        session.close();
+    });
+    QObject::connect(&session, &Session::ended, QCoreApplication::instance(),
+                     &QCoreApplication::exit, Qt::QueuedConnection);
+    session.open();
+    return QCoreApplication::exec();
+}
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(u"emulationctl"_s);
+    QLocale::setDefault(QLocale::c());
+    ExitStatus status = Success;
+    const std::optional<CommandLine> line
+        = parseCommandLine(QCoreApplication::arguments(), &status);
+    if (!line)
+        return status;
+    QString error;
+    std::optional<int> result;
+    if (line->command == u"track"_s)
+        result = playTrack(*line, &error);
+    else if (line->command == u"camera"_s || line->command == u"video"_s)
+        result = streamPictures(*line, &error);
+    else
+        return runCalls(*line);
+    if (result)
+        return *result;
+    complain(error + u'\n' + usage(line->command));
+    return WrongUse;
+}
