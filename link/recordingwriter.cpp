@@ -1,0 +1,103 @@
+#include "recordingwriter.h"
+
+#include "methodarguments.h"
+#include "remotedbusinvokerservice.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace EmulationManagement::Internal {
+
+static QByteArray quoted(QLatin1StringView name)
+{
+    return '"' + QByteArray(name.data(), name.size()) + '"';
+}
+
+RecordingWriter::RecordingWriter(QObject *parent)
+    : QObject(parent)
+{
+    m_thread.setMaxThreadCount(1);
+}
+
+RecordingWriter::~RecordingWriter()
+{
+    m_thread.waitForDone();
+}
+
+QByteArray RecordingWriter::headerLine(const QDateTime &start)
+{
+    const QJsonObject header{{u"format"_s, Recording::formatName},
+                             {u"version"_s, Recording::version},
+                             {u"unit"_s, u"ms"_s},
+                             {u"start"_s, start.toUTC().toString(Qt::ISODateWithMs)}};
+    return QJsonDocument(header).toJson(QJsonDocument::Compact) + '\n';
+}
+
+// QJsonObject would sort the members, and people read the time first.
+QByteArray RecordingWriter::callLine(std::chrono::microseconds after, const ServiceMethod &method,
+                                     QStringView arguments)
+{
+    const std::chrono::duration<double, std::milli> milliseconds = after;
+    const QJsonArray values = MethodArguments::toJson(method, arguments);
+    return "{\"after\": "
+           + QByteArray::number(milliseconds.count(), 'g', QLocale::FloatingPointShortest)
+           + ", \"service\": " + quoted(method.service->name)
+           + ", \"method\": " + quoted(method.name)
+           + ", \"arguments\": " + QJsonDocument(values).toJson(QJsonDocument::Compact) + "}\n";
+}
+
+QString RecordingWriter::open(const QString &path)
+{
+    m_file.setFileName(path);
+    if (!m_file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered))
+        return m_file.errorString();
+    m_start = Clock::now();
+    m_lastTime = {};
+    m_count = 0;
+    m_error.clear();
+    write(headerLine(QDateTime::currentDateTimeUtc()));
+    return m_error;
+}
+
+void RecordingWriter::watch(RemoteDBusInvokerService *link)
+{
+    connect(link, &RemoteDBusInvokerService::requestSent, this, [this](const QString &request) {
+        QStringView arguments;
+        const ServiceMethod *method = findMethod(request, &arguments);
+        if (!method)
+            return;
+        add(Clock::now(), *method, request, request.size() - arguments.size());
+    });
+}
+
+void RecordingWriter::add(Clock::time_point time, const ServiceMethod &method, const QString &text,
+                          qsizetype begin)
+{
+    // each time is rounded, not each difference, so that errors do not add up
+    const auto since = std::chrono::duration_cast<std::chrono::microseconds>(time - m_start);
+    const auto after = since - m_lastTime;
+    m_lastTime = since;
+    ++m_count;
+    m_thread.start([this, after, &method, text, begin] {
+        write(callLine(after, method, QStringView(text).sliced(begin)));
+    });
+}
+
+void RecordingWriter::write(const QByteArray &line)
+{
+    if (m_error.isEmpty() && m_file.write(line) != line.size())
+        m_error = m_file.errorString();
+}
+
+QString RecordingWriter::close()
+{
+    m_thread.waitForDone();
+    m_file.close();
+    return m_error;
+}
+
+} // namespace EmulationManagement::Internal
