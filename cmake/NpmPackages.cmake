@@ -2,7 +2,7 @@
 #
 # npm takes them from its registry or its cache, checks them against package-lock.json and runs
 # none of their scripts. The packages stay until the lock file changes, so only the first
-# configuration needs the network.
+# configuration needs the network. Packages that only tests need are left out without BUILD_TESTING.
 #
 # Sets NpmPackages_DIR to the folder that holds a folder for each package.
 
@@ -14,6 +14,11 @@ function(_install_npm_packages)
         CMAKE_CONFIGURE_DEPENDS "${lock_file}")
     set(stamp "${NpmPackages_DIR}/.installed") # npm removes it with the folder
     file(SHA256 "${lock_file}" hash)
+    set(omitted "")
+    if(NOT BUILD_TESTING)
+        set(omitted --omit=dev)
+    endif()
+    string(APPEND hash "${omitted}")
     if(EXISTS "${stamp}")
         file(READ "${stamp}" installed_hash)
         if(installed_hash STREQUAL hash)
@@ -30,7 +35,7 @@ function(_install_npm_packages)
     cmake_path(GET NpmPackages_DIR PARENT_PATH folder)
     file(COPY "${PROJECT_SOURCE_DIR}/package.json" "${lock_file}" DESTINATION "${folder}")
     execute_process(
-        COMMAND "${NPM_EXECUTABLE}" ci
+        COMMAND "${NPM_EXECUTABLE}" ci ${omitted}
             --ignore-scripts --prefer-offline --no-audit --no-fund --no-update-notifier
         WORKING_DIRECTORY "${folder}"
         RESULT_VARIABLE result

@@ -2,6 +2,7 @@
 #include "camerastream.h"
 #include "commandline.h"
 #include "output.h"
+#include "recordingcommands.h"
 #include "session.h"
 #include "trackplayback.h"
 
@@ -48,6 +49,12 @@ int main(int argc, char **argv)
         result = playTrack(*line, &error);
     else if (line->command == u"camera"_s || line->command == u"video"_s)
         result = streamPictures(*line, &error);
+    else if (line->command == u"play"_s)
+        result = playRecording(*line, &error);
+    else if (line->command == u"info"_s)
+        return describeRecording(*line);
+    else if (line->command == u"move"_s)
+        result = moveRecording(*line, &error);
     else
         return runCalls(*line);
     if (result)

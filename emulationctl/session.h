@@ -44,6 +44,8 @@ public:
     void call(const EmulationManagement::Internal::ServiceMethod &method, const QString &arguments);
     /// Lets the session end once the emulator has answered all calls.
     void close();
+    /// Lets the session end as if the emulator had refused a call.
+    void fail() { m_status = Refused; }
     /// Ends the session at once, after an error that was reported.
     void abort(ExitStatus status);
     /// Does not print calls as JSON: the command prints its own objects.

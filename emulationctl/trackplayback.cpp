@@ -2,6 +2,7 @@
 
 #include "interruption.h"
 #include "output.h"
+#include "recordingcommands.h"
 
 #include <location/gpsemulationmanager.h>
 
@@ -31,6 +32,7 @@ struct PlaybackOptions
 {
     int speed = 1;
     std::optional<int> interval; // milliseconds
+    std::optional<Place> place = {};
     bool looped = false;
     bool untilEnd = false;
 };
@@ -53,6 +55,12 @@ static std::optional<PlaybackOptions> readOptions(const CommandLine &line, QStri
         if (!ok)
             *error = u"--interval must be a whole number of milliseconds above 0, not %1."_s.arg(
                 line.value(u"interval"_s));
+    }
+    if (ok && line.isSet(u"move-to"_s)) {
+        options.place = parsePlace(line.value(u"move-to"_s));
+        ok = options.place.has_value();
+        if (!ok)
+            *error = placeError(line.value(u"move-to"_s));
     }
     return ok ? std::optional(options) : std::nullopt;
 }
@@ -110,10 +118,15 @@ static bool hasIntervals(const Track &track)
     return std::ranges::any_of(track.points, [](const TrackPoint &p) { return p.interval > 0; });
 }
 
-static Track withInterval(Track track, int interval)
+static Track changed(Track track, const PlaybackOptions &options)
 {
-    for (TrackPoint &point : track.points)
-        point.interval = interval;
+    PositionShift shift(options.place.value_or(Place()));
+    for (TrackPoint &point : track.points) {
+        if (options.interval)
+            point.interval = *options.interval;
+        if (options.place)
+            shift.move(point.latitude, point.longitude);
+    }
     return {std::move(track.points), requestAddress(locationService) + u"loadTrack "_s};
 }
 
@@ -128,7 +141,7 @@ public:
         , m_options(options)
         , m_usesDefaultInterval(!options.interval && !hasIntervals(track))
     {
-        m_model.setTrack(options.interval ? withInterval(track, *options.interval) : track);
+        m_model.setTrack(options.interval || options.place ? changed(track, options) : track);
         qmlRegisterTypesAndRevisions<GPSEmulationManager, TrackModel, TrackReader>("org.plova", 1);
         QQmlComponent component(&m_engine,
                                 QUrl(u"qrc:/emulationmanagement/qml/location/TrackPlayer.qml"_s));

@@ -60,6 +60,18 @@ static constexpr Command commandLines[] = {
     {"port of letters", "--port x status", 2, "", "--port must be 1 to 65535, not x"},
     {"track that is no track", "track /etc/passwd", 2, "", "incorrect points format"},
     {"text streamed", "video /etc/passwd --for 1", 2, "", "is no VP8 or VP9 video"},
+    {"bad recording played", "play BAD", 2, "", "bad-lines.jsonl: Line 2: this is not the header"},
+    {"recording not played", "play SESSION --services location --start-offset 1.03 --rate 5", 0,
+     "loadTrack array:array:double:60.0500000,30.1800000,12.50,0;60.0510000,30.1800000,12.50,500;"
+     "60.0520000,30.1810000,13.00,500;startTrack ;goToPositionOnTrack int32:2;stopTrack ",
+     "^4 sent, 0 refused, 0 lost; \\d+\\.\\d ms late at most, 99 % at most \\d+\\.\\d ms\n$"},
+    {"place of one number", "play SESSION --move-to 60", 2, "", "--move-to must be"},
+    {"service misspelled", "play SESSION --services gps", 2, "", "no service \"gps\""},
+    {"rate of 0", "play SESSION --rate 0", 2, "", "--rate must be 0.1 to 100, not 0"},
+    {"counts wrong", "info SESSION", 0, "",
+     "^10 calls in 1\\.036 s, recorded at 2026-11-22T08:00:00\\.000Z\n +3  location goToPos"},
+    {"home not moved away", "move SESSION 10 20", 0, "",
+     "\\[\\[\\[10,20,12\\.5,0\\],\\[10\\.001,20,12\\.5,500\\]"},
     {"speed of 6", "track x.nmea --speed 6", 2, "", "--speed must be 1 to 5, not 6"},
 };
 
@@ -112,7 +124,10 @@ private Q_SLOTS:
         QFETCH(const Command *, row);
         takeCalls();
         QProcess process;
-        start(process, QString::fromLatin1(row->arguments).split(u' ', Qt::SkipEmptyParts));
+        QString arguments = QString::fromLatin1(row->arguments);
+        arguments.replace(u"SESSION"_s, QStringLiteral(DOCUMENTS "/session.emulation.jsonl"));
+        arguments.replace(u"BAD"_s, QStringLiteral(TEST_DATA "/bad-lines.jsonl"));
+        start(process, arguments.split(u' ', Qt::SkipEmptyParts));
         QVERIFY(process.waitForFinished());
         const QString output = QString::fromLocal8Bit(process.readAll());
         QCOMPARE(process.exitCode(), row->status);
@@ -150,6 +165,29 @@ private Q_SLOTS:
                               u"setTrackSpeed int32:1"_s, u"startTrack "_s}));
         QVERIFY(calls.contains(u"goToPositionOnTrack int32:1"_s));
         QCOMPARE(calls.last(), u"goToPositionOnTrack int32:2"_s);
+    }
+
+    void refusalEndsTheRecording_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<bool>("ends");
+        QTest::newRow("option ignored") << QStringList{u"--stop-on-error"_s} << true;
+        QTest::newRow("always ends") << QStringList() << false;
+    }
+
+    void refusalEndsTheRecording()
+    {
+        QFETCH(const QStringList, options);
+        takeCalls();
+        QCOMPARE(m_sdk.requestFault("fail setAlsValue org.x.Busy later"), u"ok"_s);
+        QProcess process;
+        start(process, QStringList{u"play"_s, QStringLiteral(DOCUMENTS "/session.emulation.jsonl")}
+                           + options);
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitCode(), 1);
+        QVERIFY(process.readAll().contains("setAlsValue: org.x.Busy later"));
+        QTEST(!takeCalls().contains(u"stopTrack "_s), "ends");
+        QCOMPARE(m_sdk.requestFault("fail setAlsValue"), u"ok"_s);
     }
 
     void interruptionStopsTheTrack()
