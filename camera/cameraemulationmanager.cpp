@@ -4,6 +4,8 @@
 
 #include <QUrl>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 const QString CameraEmulationManager::portForwardingRule = u"emulationmanagementudp"_s;
@@ -117,8 +119,10 @@ void CameraEmulationManager::startCameraStream()
         applySelection(false);
     }
     const bool isAccepted = StreamPipeline::isStreamable(m_appliedSize);
-    if (isAccepted)
+    if (isAccepted) {
         play(cameraPipeline());
+        Q_EMIT cameraStreamStarted(m_appliedCameraName, m_appliedSize, m_appliedFramerate);
+    }
     Q_EMIT streamRunningChanged();
     if (!isAccepted)
         Q_EMIT streamSizeRefused(m_appliedSize);
@@ -137,6 +141,7 @@ void CameraEmulationManager::startVideoStream(const QString &filePath)
     if (!filePath.isEmpty() && checkVideoFile(filePath)) {
         videoPipeline()->setFile(filePath);
         play(videoPipeline());
+        Q_EMIT videoStreamStarted(filePath);
     }
     // Emitted even if the file is refused, because an earlier stream has ended.
     Q_EMIT streamRunningChanged();
@@ -204,6 +209,7 @@ void CameraEmulationManager::applySelection(bool restart)
         stopStreams();
     m_appliedCameraName = m_cameraName;
     m_appliedSize = {m_width, m_height};
+    m_appliedFramerate = m_framerate;
     cameraPipeline()->setCamera(m_discovery.cameras().value(m_cameraName).source, m_appliedSize,
                                 m_framerate);
     if (restart)
@@ -252,7 +258,9 @@ void CameraEmulationManager::stopPlaying()
 {
     if (m_playing)
         m_playing->stop();
-    m_playing = nullptr;
+    const bool wasPlaying = std::exchange(m_playing, nullptr) != nullptr;
     m_meter.stop();
     m_preview.stop();
+    if (wasPlaying)
+        Q_EMIT streamStopped();
 }

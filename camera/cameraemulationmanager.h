@@ -146,6 +146,11 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// Emitted by each start and stop, even if streamRunning() stays the same.
     void streamRunningChanged();
+    /// A camera's stream was started; the size is invalid if the camera may choose.
+    void cameraStreamStarted(const QString &name, QSize size, const QString &framerate);
+    void videoStreamStarted(const QString &filePath);
+    /// The running stream was stopped, or is about to be replaced by another one.
+    void streamStopped();
     /// streamFramesPerSecond() and streamSize() were measured or became unknown.
     void streamMeasured();
     void frameratesChanged();
@@ -194,8 +199,9 @@ private:
     // window does not need.
     std::unique_ptr<VideoFilePipeline> m_videoPipeline;
     std::unique_ptr<CameraPipeline> m_cameraPipeline;
-    QString m_appliedCameraName; // the camera and size that m_cameraPipeline uses
+    QString m_appliedCameraName; // the camera, size and rate that m_cameraPipeline uses
     QSize m_appliedSize;
+    QString m_appliedFramerate;
     StreamPipeline *m_playing = nullptr; // streamRunning() and videoStreamRunning() derive from it
     StreamMeter m_meter;
     StreamPreview m_preview;

@@ -131,6 +131,8 @@ public:
     {
         m_player.setRecording(std::move(recording));
         m_player.setRate(options.rate);
+        if (!options.services.empty())
+            m_player.setServices(options.services);
         m_player.setLooped(options.looped);
         connect(&session, &Session::connected, this, [this, start = options.start] {
             if (start.count() > 0)
@@ -204,8 +206,6 @@ std::optional<int> playRecording(const CommandLine &line, QString *error)
     Recording recording = readRecording(line.arguments.constFirst());
     if (!recording.error().isEmpty())
         return WrongUse;
-    if (!options.services.empty())
-        recording.keepServices(options.services);
     if (options.place)
         recording.movePositions(*options.place);
     Session session(line.general);

@@ -41,7 +41,7 @@ void CallLog::append(const QString &request, Outcome outcome)
 
 void CallLog::append(LoggedCall call)
 {
-    ++m_totals.calls;
+    m_totals.calls += call.outcome != Outcome::Noted;
     if (call.outcome == Outcome::Dropped)
         ++m_totals.dropped;
     if (call.outcome == Outcome::Waiting)
@@ -61,7 +61,19 @@ void CallLog::add(const ServiceMethod &method, const QString &arguments)
     append(LoggedCall{.time = LoggedCall::Clock::now(),
                       .method = &method,
                       .arguments = arguments,
-                      .outcome = Outcome::Answered});
+                      .outcome = Outcome::Noted});
+}
+
+void CallLog::note(const QString &text)
+{
+    append(
+        LoggedCall{.time = LoggedCall::Clock::now(), .arguments = text, .outcome = Outcome::Noted});
+}
+
+QDateTime CallLog::wallTime(LoggedCall::Clock::time_point time) const
+{
+    return m_startOnTheWall.addDuration(
+        std::chrono::duration_cast<std::chrono::milliseconds>(time - m_start));
 }
 
 void CallLog::clear()

@@ -2,6 +2,7 @@
 
 #include "servicemethods.h"
 
+#include <QDateTime>
 #include <QObject>
 #include <QString>
 
@@ -20,7 +21,8 @@ struct LoggedCall
         Answered, ///< without an error
         Refused,  ///< the emulator replied with an error
         Lost,     ///< the connection was lost before the reply came
-        Dropped   ///< not sent, because the link was down
+        Dropped,  ///< not sent, because the link was down
+        Noted     ///< not sent over the link
     };
     using Clock = std::chrono::steady_clock;
 
@@ -75,6 +77,9 @@ public:
         return m_calls[std::size_t(serial - m_begin)];
     }
 
+    /// The time of the clock on the wall, which does not change when the clock is set.
+    [[nodiscard]] QDateTime wallTime(LoggedCall::Clock::time_point time) const;
+
     /// The number of calls that wait for their replies.
     [[nodiscard]] qsizetype waiting() const { return qsizetype(m_waiting.size()); }
 
@@ -88,6 +93,8 @@ public:
 
     /// Notes something that is not sent over the link, such as the start of the camera's stream.
     void add(const ServiceMethod &method, const QString &arguments);
+    /// Notes a text that is no call and is not counted.
+    void note(const QString &text);
     /// Forgets all calls.
     void clear();
 
@@ -107,6 +114,8 @@ private:
     void loseWaitingCalls();
     void finish(qint64 serial, Outcome outcome, const QString &reply);
 
+    LoggedCall::Clock::time_point m_start = LoggedCall::Clock::now();
+    QDateTime m_startOnTheWall = QDateTime::currentDateTime();
     std::deque<LoggedCall> m_calls;
     qint64 m_begin = 0;
     qint64 m_clearedEnd = 0; // the totals count from this call on

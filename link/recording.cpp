@@ -126,13 +126,6 @@ QString Recording::readCall(const QByteArray &line)
     return encoded.error;
 }
 
-void Recording::keepServices(const std::vector<const Service *> &services)
-{
-    std::erase_if(m_calls, [&](const RecordedCall &call) {
-        return std::ranges::find(services, call.method->service) == services.end();
-    });
-}
-
 static void move(QStringView method, QJsonArray &values, PositionShift &shift)
 {
     const auto movePoint = [&](QJsonArray &numbers) {

@@ -58,8 +58,6 @@ public:
         return m_calls.empty() ? std::chrono::microseconds() : m_calls.back().time;
     }
 
-    /// Leaves out the calls of all other services. The times of the rest stay.
-    void keepServices(const std::vector<const Service *> &services);
     /// Moves all positions, see PositionShift.
     void movePositions(const Place &place);
 

@@ -32,25 +32,10 @@ static QString stateKey(const RecordedCall &call)
     return method;
 }
 
-/// Returns the indexes of the last calls of each kind before \a end, in their order.
-static std::vector<std::size_t> lastValues(const std::vector<RecordedCall> &calls, std::size_t end)
-{
-    QSet<QString> seen;
-    std::vector<std::size_t> indexes;
-    for (std::size_t i = end; i-- > 0;) {
-        const QString key = stateKey(calls[i]);
-        if (key.isEmpty() || seen.contains(key))
-            continue;
-        seen.insert(key);
-        indexes.push_back(i);
-    }
-    std::ranges::reverse(indexes);
-    return indexes;
-}
-
 RecordingPlayer::RecordingPlayer(RemoteDBusInvokerService *link, QObject *parent)
     : QObject(parent)
     , m_link(link)
+    , m_services(services().begin(), services().end())
 {
     m_timer.setSingleShot(true);
     m_timer.setTimerType(Qt::PreciseTimer);
@@ -63,6 +48,28 @@ RecordingPlayer::RecordingPlayer(RemoteDBusInvokerService *link, QObject *parent
             schedule();
         }
     });
+}
+
+bool RecordingPlayer::isChosen(const RecordedCall &call) const
+{
+    return std::ranges::find(m_services, call.method->service) != m_services.end();
+}
+
+/// Returns the indexes of the last calls of each kind before \a end, in their order.
+std::vector<std::size_t> RecordingPlayer::lastValues(std::size_t end) const
+{
+    QSet<QString> seen;
+    std::vector<std::size_t> indexes;
+    for (std::size_t i = end; i-- > 0;) {
+        const RecordedCall &call = m_recording.calls()[i];
+        const QString key = stateKey(call);
+        if (key.isEmpty() || seen.contains(key) || !isChosen(call))
+            continue;
+        seen.insert(key);
+        indexes.push_back(i);
+    }
+    std::ranges::reverse(indexes);
+    return indexes;
 }
 
 void RecordingPlayer::setRecording(Recording recording)
@@ -143,10 +150,13 @@ void RecordingPlayer::stop()
 
 void RecordingPlayer::step()
 {
-    if (m_state == State::Playing || m_next == m_recording.calls().size() || !m_link->isConnected())
+    const std::vector<RecordedCall> &calls = m_recording.calls();
+    while (m_next < calls.size() && !isChosen(calls[m_next]))
+        ++m_next;
+    if (m_state == State::Playing || m_next == calls.size() || !m_link->isConnected())
         return;
     setState(State::Paused);
-    const RecordedCall &call = m_recording.calls()[m_next++];
+    const RecordedCall &call = calls[m_next++];
     m_position = call.time;
     send(call);
 }
@@ -158,7 +168,7 @@ void RecordingPlayer::seek(microseconds time)
     const auto next = std::ranges::lower_bound(calls, time, {}, &RecordedCall::time);
     m_next = std::size_t(next - calls.begin());
     if (m_link->isConnected()) {
-        for (const std::size_t index : lastValues(calls, m_next))
+        for (const std::size_t index : lastValues(m_next))
             send(calls[index]);
     }
     startClock(time);
@@ -209,6 +219,8 @@ void RecordingPlayer::sendDueCalls()
         if (lateness.count() < 0 || now - turn > longestTurn)
             break;
         ++m_next;
+        if (!isChosen(call))
+            continue;
         noteLateness(lateness);
         send(call);
     }

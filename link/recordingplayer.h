@@ -7,6 +7,8 @@
 
 #include <array>
 #include <chrono>
+#include <utility>
+#include <vector>
 
 namespace EmulationManagement::Internal {
 
@@ -45,6 +47,8 @@ public:
     [[nodiscard]] const Recording &recording() const { return m_recording; }
     /// Plays this many times as fast.
     void setRate(double rate);
+    /// Plays only the calls of these services.
+    void setServices(std::vector<const Service *> services) { m_services = std::move(services); }
     void setLooped(bool looped) { m_looped = looped; }
     void setWhenLinkIsDown(WhenLinkIsDown reaction) { m_whenLinkIsDown = reaction; }
 
@@ -79,6 +83,8 @@ private:
     void sendDueCalls();
     void schedule();
     void send(const RecordedCall &call);
+    [[nodiscard]] bool isChosen(const RecordedCall &call) const;
+    [[nodiscard]] std::vector<std::size_t> lastValues(std::size_t end) const;
     [[nodiscard]] Clock::time_point dueTime(std::chrono::microseconds time) const;
     void startClock(std::chrono::microseconds time);
     void handleConnectionLost();
@@ -87,6 +93,7 @@ private:
     RemoteDBusInvokerService *m_link;
     Recording m_recording;
     double m_rate = 1;
+    std::vector<const Service *> m_services;
     bool m_looped = false;
     bool m_waitingForLink = false;
     WhenLinkIsDown m_whenLinkIsDown = WhenLinkIsDown::Wait;

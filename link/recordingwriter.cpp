@@ -1,10 +1,12 @@
 #include "recordingwriter.h"
 
+#include "calllog.h"
 #include "methodarguments.h"
 #include "remotedbusinvokerservice.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSaveFile>
 
 #include <algorithm>
 
@@ -85,6 +87,33 @@ void RecordingWriter::add(Clock::time_point time, const ServiceMethod &method, c
     m_thread.start([this, after, &method, text, begin] {
         write(callLine(after, method, QStringView(text).sliced(begin)));
     });
+}
+
+RecordingWriter::Saved RecordingWriter::save(const QString &path,
+                                             const std::vector<LoggedCall> &calls,
+                                             const CallLog &log, QString *error)
+{
+    Saved saved;
+    QSaveFile file(path); // an older file stays if this one cannot be written
+    if (file.open(QIODevice::WriteOnly) && !calls.empty()) {
+        const auto start = calls.front().time;
+        file.write(headerLine(log.wallTime(start)));
+        std::chrono::microseconds last{};
+        for (const LoggedCall &call : calls) {
+            if (!call.method || call.omitted > 0 || call.outcome == LoggedCall::Outcome::Dropped) {
+                ++saved.leftOut;
+                continue;
+            }
+            const auto time
+                = std::chrono::duration_cast<std::chrono::microseconds>(call.time - start);
+            file.write(callLine(time - last, *call.method, call.arguments));
+            last = time;
+            ++saved.calls;
+        }
+    }
+    if (!file.commit())
+        *error = file.errorString();
+    return saved;
 }
 
 void RecordingWriter::write(const QByteArray &line)

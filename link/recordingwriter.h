@@ -10,7 +10,9 @@
 
 namespace EmulationManagement::Internal {
 
+class CallLog;
 class RemoteDBusInvokerService;
+struct LoggedCall;
 
 /*!
  * Writes a recording of what is sent, as it is sent.
@@ -40,6 +42,15 @@ public:
     [[nodiscard]] QString close();
 
     [[nodiscard]] qint64 count() const { return m_count; }
+
+    struct Saved
+    {
+        qint64 calls = 0;
+        qint64 leftOut = 0; ///< not sent, not described or shortened by the log
+    };
+    /// Writes logged calls to a file, in place of one that exists. Sets \a error if that fails.
+    static Saved save(const QString &path, const std::vector<LoggedCall> &calls, const CallLog &log,
+                      QString *error);
 
     /// Returns the lines of a recording.
     [[nodiscard]] static QByteArray headerLine(const QDateTime &start);

@@ -1,3 +1,4 @@
+#include <link/calllog.h>
 #include <link/methodarguments.h>
 #include <link/positionshift.h>
 #include <link/recording.h>
@@ -171,6 +172,35 @@ private Q_SLOTS:
         QVERIFY(recording.duration() >= 18ms);
     }
 
+    void savedLogLeavesOutWhatWasNotSent()
+    {
+        TestSupport::RecordingRelay relay;
+        RemoteDBusInvokerService link;
+        CallLog log(&link);
+        link.sendRequest(requestAddress(sensorsService) + u"setAlsValue int32:1"_s); // dropped
+        QVERIFY(relay.connectLink(link));
+        log.add(*findMethod(cameraService, u"stop"), u"[]"_s);
+        link.sendRequest(requestAddress(sensorsService) + u"setAlsValue int32:2"_s);
+        link.sendRequest(requestAddress(locationService) + u"loadTrack array:array:double:"_s
+                         + QString(CallLog::longestText, u'1'));
+        log.note(u"30 frames a second"_s);
+        std::vector<LoggedCall> calls;
+        for (qint64 serial = log.begin(); serial < log.end(); ++serial)
+            calls.push_back(log.at(serial));
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"saved"_s);
+        QString error;
+        const RecordingWriter::Saved saved = RecordingWriter::save(path, calls, log, &error);
+        QCOMPARE(error, QString());
+        QCOMPARE(saved.calls, 2);
+        QCOMPARE(saved.leftOut, 3);
+        const Recording recording = Recording::readFile(path);
+        QCOMPARE(recording.error(), QString());
+        QCOMPARE(recording.calls().back().arguments, u"int32:2"_s);
+        RecordingWriter::save(folder.path(), calls, log, &error);
+        QVERIFY(!error.isEmpty());
+    }
+
     void callsComeInTheirTimeAndOrder()
     {
         TestSupport::RecordingRelay relay;
@@ -182,7 +212,7 @@ private Q_SLOTS:
         Recording recording
             = readText(header + als(100, 1) + line(0, u"camera"_s, u"stop"_s)
                        + line(60, u"location"_s, u"stopTrack"_s) + als(40, 2) + als(0, 3));
-        recording.keepServices({&sensorsService, &cameraService});
+        player.setServices({&sensorsService, &cameraService});
         player.setRecording(recording);
         player.setRate(2);
         QElapsedTimer time;
