@@ -44,6 +44,8 @@ void EmulationManager::processReplyFromEmulator(const QString &reply)
 
 void EmulationManager::callDBusMethod(const QString &method, const QString &arguments)
 {
+    if (m_suspended)
+        return;
     const QString busName = bus();
     const QString service = dbusService();
     const QString objectPath = dbusObject();
@@ -59,7 +61,8 @@ QString EmulationManager::request(const QString &method, const QString &argument
 
 void EmulationManager::sendRequest(const QString &request)
 {
-    m_rdbusinvoker->sendRequest(request);
+    if (!m_suspended)
+        m_rdbusinvoker->sendRequest(request);
 }
 
 } // namespace EmulationManagement::Internal

@@ -45,6 +45,9 @@ public:
      */
     void setRdbusinvoker(RemoteDBusInvokerService *invoker);
 
+    /// Lets calls be dropped, while another source feeds the emulator.
+    void setSuspended(bool suspended) { m_suspended = suspended; }
+
     /*!
      * Handles the reply line "method:arguments:returned value:error name:error text".
      *
@@ -74,6 +77,7 @@ protected:
 
 private:
     RemoteDBusInvokerService *m_rdbusinvoker = nullptr;
+    bool m_suspended = false;
 };
 
 } // namespace EmulationManagement::Internal

@@ -1,6 +1,7 @@
 #include "emulationmanagementplugin.h"
 
 #include "emulationmanagementconstants.h"
+#include "emulationoutputpane.h"
 #include "messageboxbuttons.h"
 #include "textfielddoublevalidator.h"
 #include "warningdialog.h"
@@ -10,13 +11,18 @@
 #include <coreplugin/actionmanager/command.h>
 #include <coreplugin/coreconstants.h>
 #include <coreplugin/icore.h>
+#include <coreplugin/messagemanager.h>
 #include <coreplugin/progressmanager/progressmanager.h>
+
+#include <camera/cameraplayback.h>
 
 #include <devicemodel/devicemodelfiles.h>
 #include <devicemodel/devicemodelreader.h>
 #include <devicemodel/imageitem.h>
 
 #include <extensionsystem/pluginmanager.h>
+
+#include <link/recording.h>
 
 #include <location/trackmodel.h>
 #include <location/trackreader.h>
@@ -29,6 +35,8 @@
 
 #include <QAction>
 #include <QDebug>
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QLocale>
 #include <QQmlContext>
 #include <QQmlEngine>
@@ -58,6 +66,7 @@ bool EmulationManagementPlugin::initialize(const QStringList &arguments, QString
     setupTrackReader();
     setupView();
     setupMenu();
+    setupOutputPane();
     connect(&m_openingProgress, &OpeningProgress::canceled, this,
             &EmulationManagementPlugin::abandonOpening);
     connect(&m_openingProgress, &OpeningProgress::timedOut, this,
@@ -211,6 +220,58 @@ void EmulationManagementPlugin::setupMenu()
     Core::ActionContainer *sdkMenu = Core::ActionManager::createMenu(Constants::sdkToolsMenuId);
     sdkMenu->addAction(command);
     Core::ActionManager::actionContainer(Core::Constants::M_TOOLS)->addMenu(sdkMenu);
+}
+
+void EmulationManagementPlugin::setupOutputPane()
+{
+    auto *pane = new EmulationOutputPane(&m_callLog, &m_remoteDBusInvokerService, this);
+    const auto add = [pane](QStringView method, const QJsonArray &arguments) {
+        pane->addCameraCall(
+            *findMethod(cameraService, method),
+            QString::fromUtf8(QJsonDocument(arguments).toJson(QJsonDocument::Compact)));
+    };
+    const CameraEmulationManager *camera = &m_cameraEmulationManager;
+    connect(camera, &CameraEmulationManager::cameraStreamStarted, pane,
+            [add](const QString &name, QSize size, const QString &framerate) {
+                QJsonArray arguments{name};
+                if (size.isValid() && !size.isEmpty())
+                    arguments << size.width() << size.height();
+                if (arguments.size() > 1 && !framerate.isEmpty())
+                    arguments << framerate;
+                add(u"startCamera", arguments);
+            });
+    connect(camera, &CameraEmulationManager::videoStreamStarted, pane,
+            [add](const QString &file) { add(u"startVideo", {file}); });
+    connect(camera, &CameraEmulationManager::streamStopped, pane, [add] { add(u"stop", {}); });
+    connect(camera, &CameraEmulationManager::streamMeasured, this,
+            [this, camera, last = QString()]() mutable {
+                const QSize size = camera->streamSize();
+                const QString text = tr("camera: %1 x %2 pixels, %3 frames a second")
+                                         .arg(size.width())
+                                         .arg(size.height())
+                                         .arg(camera->streamFramesPerSecond());
+                if (size.isValid() && text != std::exchange(last, text))
+                    m_callLog.note(text);
+            });
+    connect(pane, &EmulationOutputPane::playingChanged, this,
+            &EmulationManagementPlugin::handleRecordingPlaying);
+    connect(pane, &EmulationOutputPane::cameraCallDue, this, [this](const RecordedCall &call) {
+        const QString error = CameraPlayback::play(m_cameraEmulationManager, call);
+        if (!error.isEmpty())
+            Core::MessageManager::writeFlashing(error);
+    });
+}
+
+void EmulationManagementPlugin::handleRecordingPlaying(bool playing)
+{
+    m_recordingPlaying = playing;
+    m_sensorsEmulationManager.setSuspended(playing);
+    m_gpsEmulationManager.setSuspended(playing);
+    if (!playing && m_remoteDBusInvokerService.isConnected()) {
+        m_sensorsEmulationManager.setupSensors();
+        m_gpsEmulationManager.setupGPSData();
+    }
+    Q_EMIT recordingPlayingChanged();
 }
 
 /// Returns whether the device model of this file has each sensor, by sensor name.

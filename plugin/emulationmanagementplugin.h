@@ -8,6 +8,7 @@
 
 #include <devicemodel/smartphone3dmodelconfig.h>
 
+#include <link/calllog.h>
 #include <link/remotedbusinvokerservice.h>
 
 #include <location/gpsemulationmanager.h>
@@ -32,6 +33,8 @@ class VirtualMachine;
 
 namespace EmulationManagement::Internal {
 
+class EmulationOutputPane;
+
 /*!
  * The plugin: owns every long-lived object, wires them, and opens the tool window.
  *
@@ -42,6 +45,7 @@ class EmulationManagementPlugin final : public ExtensionSystem::IPlugin
 {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID "org.qt-project.Qt.QtCreatorPlugin" FILE "EmulationManagement.json")
+    Q_PROPERTY(bool recordingPlaying READ recordingPlaying NOTIFY recordingPlayingChanged)
 
 public:
     bool initialize(const QStringList &arguments, QString *errorString) override;
@@ -56,7 +60,11 @@ public:
      */
     void showEmulationManagementView();
 
+    /// Whether a recording plays: what the window sends is dropped then.
+    [[nodiscard]] bool recordingPlaying() const { return m_recordingPlaying; }
+
 Q_SIGNALS:
+    void recordingPlayingChanged();
     /// The emulator runs and its ports are forwarded. Emitted before the window is shown.
     void emulationManagementViewShowed();
 
@@ -67,6 +75,9 @@ private:
     void setupTrackReader();
     void setupView();
     void setupMenu();
+    void setupOutputPane();
+    /// Keeps the window from sending while a recording plays, and sends its values afterwards.
+    void handleRecordingPlaying(bool playing);
     void initEmulatorModesSensorsConfigurations();
 
     /*!
@@ -97,6 +108,7 @@ private:
                         const QMessageBox::StandardButtons &buttons);
 
     RemoteDBusInvokerService m_remoteDBusInvokerService;
+    CallLog m_callLog{&m_remoteDBusInvokerService};
     GPSEmulationManager m_gpsEmulationManager;
     SensorsEmulationManager m_sensorsEmulationManager;
     Smartphone3DModelConfig m_smartphone3DModelConfig;
@@ -104,6 +116,7 @@ private:
     EmulationManagementView m_emulationManagementView;
     Ravik::Sdk *m_sdk = nullptr;
     QPointer<Ravik::Emulator> m_currentEmulator;
+    bool m_recordingPlaying = false;
     bool m_vmRunning = false;
     bool m_packagesChecked = false;
     bool m_startRequested = false;

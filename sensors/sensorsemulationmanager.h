@@ -129,6 +129,8 @@ public:
     /// Sends the default of every sensor. The magnetic field keeps its values.
     Q_INVOKABLE void setDefaultValues();
 
+    /// Sends which sensors are on, and all values. The first time, it asks which are on instead.
+    void setupSensors();
     /// Saves the models' values if one has changed since they were last read or saved.
     void saveCurrentSensorsValues();
 
@@ -139,7 +141,6 @@ Q_SIGNALS:
     void sensorsAvailabilityChanged();
 
 private:
-    void setupSensors();
     void readSensorsValues();
     void restoreSensorsValues();
     [[nodiscard]] QVariantList currentSensorsValues() const;

@@ -1,0 +1,500 @@
+#include "emulationoutputpane.h"
+
+#include "playbackbar.h"
+
+#include <coreplugin/actionmanager/actionmanager.h>
+#include <coreplugin/actionmanager/command.h>
+#include <coreplugin/coreconstants.h>
+#include <coreplugin/icontext.h>
+#include <coreplugin/icore.h>
+#include <coreplugin/messagemanager.h>
+
+#include <link/calllog.h>
+#include <link/calltexts.h>
+#include <link/recording.h>
+#include <link/remotedbusinvokerservice.h>
+
+#include <utils/elidinglabel.h>
+#include <utils/itemviews.h>
+#include <utils/utilsicons.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QMenu>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+#include <QtConcurrentRun>
+
+#include <algorithm>
+#include <chrono>
+
+using namespace Qt::StringLiterals;
+
+namespace EmulationManagement::Internal {
+
+constexpr char paneId[] = "EmulationManagement.OutputPane";
+constexpr char filterHistoryKey[] = "EmulationManagement.OutputPane.Filter";
+static constexpr int priority = -30; // a higher one would move the shortcuts of other panes
+static constexpr std::chrono::milliseconds totalsInterval{500};
+
+EmulationOutputPane::EmulationOutputPane(CallLog *log, RemoteDBusInvokerService *link,
+                                         QObject *parent)
+    : IOutputPane(parent)
+    , m_log(log)
+    , m_link(link)
+    , m_model(log)
+    , m_player(link)
+{
+    setId(paneId);
+    setDisplayName(tr("Emulation"));
+    setPriorityInStatusBar(priority);
+    setupFilterUi(filterHistoryKey, "EmulationManagement::Internal::EmulationOutputPane");
+    setFilteringEnabled(true);
+    setZoomButtonsEnabled(true);
+    m_filtered.setSourceModel(&m_model);
+    m_filtered.setFilterRole(CallLogModel::LineRole);
+    m_filtered.setFilterKeyColumn(0);
+    connect(this, &IOutputPane::zoomInRequested, this, [this](int range) { zoom(range); });
+    connect(this, &IOutputPane::zoomOutRequested, this, [this](int range) { zoom(-range); });
+    connect(this, &IOutputPane::resetZoomRequested, this, [this] {
+        if (m_view)
+            m_view->setFont(QApplication::font(m_view));
+    });
+    connect(&m_totalsTimer, &QTimer::timeout, this, &EmulationOutputPane::showTotals);
+
+    m_recordButton = new QToolButton;
+    m_recordButton->setText(tr("Record"));
+    m_recordButton->setCheckable(true);
+    connect(m_recordButton, &QToolButton::clicked, this, &EmulationOutputPane::toggleRecording);
+    m_saveButton = new QToolButton;
+    m_saveButton->setIcon(Utils::Icons::SAVEFILE_TOOLBAR.icon());
+    m_saveButton->setToolTip(tr("Save What the Log Holds as a Recording…"));
+    connect(m_saveButton, &QToolButton::clicked, this, [this] { saveRecording(allCalls()); });
+    m_playButton = new QToolButton;
+    m_playButton->setText(tr("Play…"));
+    m_playButton->setToolTip(tr("Play a Recording…"));
+    connect(m_playButton, &QToolButton::clicked, this, &EmulationOutputPane::askForRecording);
+    connect(&m_reading, &QFutureWatcherBase::finished, this, &EmulationOutputPane::playReading);
+    connect(&m_player, &RecordingPlayer::cameraCallDue, this, &EmulationOutputPane::cameraCallDue);
+    connect(&m_player, &RecordingPlayer::stateChanged, this,
+            [this] { Q_EMIT playingChanged(m_player.state() == RecordingPlayer::State::Playing); });
+    m_totals = new Utils::ElidingLabel;
+    updateRecordButton();
+}
+
+EmulationOutputPane::~EmulationOutputPane()
+{
+    for (const QPointer<QWidget> &widget :
+         QList<QPointer<QWidget>>{m_widget.data(), m_recordButton.data(), m_playButton.data(),
+                                  m_saveButton.data(), m_totals.data()})
+        delete widget.data();
+}
+
+void EmulationOutputPane::addCameraCall(const ServiceMethod &method, const QString &arguments)
+{
+    m_log->add(method, arguments);
+    if (m_writer)
+        m_writer->add(RecordingWriter::Clock::now(), method, arguments);
+}
+
+QWidget *EmulationOutputPane::outputWidget(QWidget *parent)
+{
+    if (!m_widget) {
+        m_widget = new QWidget(parent);
+        auto *layout = new QVBoxLayout(m_widget);
+        layout->setContentsMargins({});
+        layout->setSpacing(0);
+        setupContext(paneId, m_widget);
+    }
+    return m_widget;
+}
+
+QList<QWidget *> EmulationOutputPane::toolBarWidgets() const
+{
+    return QList<QWidget *>{m_recordButton, m_playButton, m_saveButton, m_totals}
+           + IOutputPane::toolBarWidgets();
+}
+
+void EmulationOutputPane::createView()
+{
+    auto *view = new Utils::TreeView;
+    m_view = view;
+    view->setModel(&m_filtered);
+    view->setRootIsDecorated(false);
+    view->setUniformRowHeights(true); // the view would measure each row
+    view->setAlternatingRowColors(true);
+    view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    view->setFrameStyle(QFrame::NoFrame);
+    view->setContextMenuPolicy(Qt::CustomContextMenu);
+    view->setAccessibleName(tr("Calls of the emulator"));
+    const auto width
+        = [view](const QString &text) { return view->fontMetrics().horizontalAdvance(text) + 24; };
+    QHeaderView *header = view->header();
+    header->setStretchLastSection(false);
+    header->setSectionResizeMode(CallLogModel::Arguments, QHeaderView::Stretch);
+    header->resizeSection(CallLogModel::Time, width(u"00:00:00.000"_s));
+    header->resizeSection(CallLogModel::Service, width(u"location"_s));
+    header->resizeSection(CallLogModel::Method, width(u"setMagnetometerCalibrationLevel"_s));
+    header->resizeSection(CallLogModel::Reply, width(tr("not sent, because the link was down")));
+    header->resizeSection(CallLogModel::Latency, width(u"1000.00"_s));
+    m_widget->layout()->addWidget(view);
+    m_playbackBar = new PlaybackBar(&m_player, m_log);
+    m_playbackBar->hide();
+    connect(m_playbackBar, &PlaybackBar::closed, this, [this] { m_playbackBar->hide(); });
+    m_widget->layout()->addWidget(m_playbackBar);
+    m_widget->setFocusProxy(view);
+    view->viewport()->installEventFilter(this);
+
+    // Follows new rows, and a new height, only while the user looks at the end.
+    QScrollBar *bar = view->verticalScrollBar();
+    connect(bar, &QScrollBar::valueChanged, this,
+            [this, bar](int value) { m_atEnd = value == bar->maximum(); });
+    connect(bar, &QScrollBar::rangeChanged, this, [this, bar](int, int maximum) {
+        if (m_atEnd)
+            bar->setValue(maximum);
+    });
+    connect(&m_model, &CallLogModel::followed, this, &IOutputPane::navigateStateChanged);
+    connect(view, &QWidget::customContextMenuRequested, this,
+            &EmulationOutputPane::showContextMenu);
+    auto *copyAction = new QAction(view);
+    Core::ActionManager::registerAction(copyAction, Core::Constants::COPY, Core::Context(paneId));
+    connect(copyAction, &QAction::triggered, this, &EmulationOutputPane::copyText);
+}
+
+bool EmulationOutputPane::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Wheel) {
+        const auto *wheel = static_cast<QWheelEvent *>(event);
+        const int delta = wheel->angleDelta().y();
+        if (wheel->modifiers() & Qt::ControlModifier && delta != 0) {
+            zoom(delta > 0 ? 1 : -1);
+            return true;
+        }
+    }
+    return IOutputPane::eventFilter(watched, event);
+}
+
+void EmulationOutputPane::zoom(int points)
+{
+    static constexpr int smallest = 4;
+    static constexpr int largest = 40;
+    if (!m_view)
+        return;
+    QFont font = m_view->font();
+    font.setPointSize(std::clamp(font.pointSize() + points, smallest, largest));
+    m_view->setFont(font);
+}
+
+void EmulationOutputPane::clearContents()
+{
+    m_log->clear();
+    showTotals();
+    navigateStateChanged();
+}
+
+void EmulationOutputPane::visibilityChanged(bool visible)
+{
+    if (visible && !m_view && m_widget)
+        createView();
+    m_model.setFollowing(visible);
+    if (!visible) {
+        m_totalsTimer.stop();
+        return;
+    }
+    showTotals();
+    m_totalsTimer.start(totalsInterval);
+}
+
+void EmulationOutputPane::showTotals()
+{
+    const CallLog::Totals &totals = m_log->totals();
+    const CallLog::Latencies latencies = m_log->latencies();
+    m_totals->setText(
+        tr("%L1 calls, %L2 refused, %L3 lost, %L4 not sent; %L5/s; median %6 ms, 99 % %7 ms")
+            .arg(totals.calls)
+            .arg(totals.refused)
+            .arg(totals.lost)
+            .arg(totals.dropped)
+            .arg(m_log->callsPerSecond())
+            .arg(latencies.median.count(), 0, 'f', 1)
+            .arg(latencies.percentile99.count(), 0, 'f', 1));
+}
+
+void EmulationOutputPane::setFocus()
+{
+    if (m_view)
+        m_view->setFocus();
+}
+
+bool EmulationOutputPane::hasFocus() const
+{
+    return m_view && m_view->hasFocus();
+}
+
+bool EmulationOutputPane::canFocus() const
+{
+    return true;
+}
+
+bool EmulationOutputPane::canNavigate() const
+{
+    return true;
+}
+
+bool EmulationOutputPane::hasFailures() const
+{
+    const CallLog::Totals &totals = m_log->totals();
+    return totals.refused + totals.lost + totals.dropped > 0;
+}
+
+bool EmulationOutputPane::canNext() const
+{
+    return hasFailures();
+}
+
+bool EmulationOutputPane::canPrevious() const
+{
+    return hasFailures();
+}
+
+void EmulationOutputPane::goToNext()
+{
+    goToFailure(1);
+}
+
+void EmulationOutputPane::goToPrev()
+{
+    goToFailure(-1);
+}
+
+// Goes to the next call that failed, and from the last one to the first.
+void EmulationOutputPane::goToFailure(int direction)
+{
+    const int rows = m_filtered.rowCount();
+    if (!m_view || rows == 0)
+        return;
+    const int start = m_view->currentIndex().isValid() ? m_view->currentIndex().row()
+                      : direction > 0                  ? -1
+                                                       : 0;
+    for (int i = 1; i <= rows; ++i) {
+        const int row = ((start + direction * i) % rows + rows) % rows;
+        const QModelIndex index = m_filtered.index(row, 0);
+        if (!index.data(CallLogModel::FailedRole).toBool())
+            continue;
+        m_view->setCurrentIndex(index);
+        m_view->scrollTo(index);
+        return;
+    }
+}
+
+void EmulationOutputPane::updateFilter()
+{
+    const QString text
+        = filterUsesRegexp() ? filterText() : QRegularExpression::escape(filterText());
+    // The expression consumes nothing, so it can say that there is no match.
+    const QString pattern
+        = filterIsInverted() && !text.isEmpty() ? u"\\A(?!.*(?:%1))"_s.arg(text) : text;
+    QRegularExpression::PatternOptions options = QRegularExpression::DotMatchesEverythingOption;
+    if (filterCaseSensitivity() == Qt::CaseInsensitive)
+        options |= QRegularExpression::CaseInsensitiveOption;
+    const QRegularExpression expression(pattern, options);
+    if (expression.isValid()) // while an expression is typed, the last valid one stays
+        m_filtered.setFilterRegularExpression(expression);
+}
+
+QList<const LoggedCall *> EmulationOutputPane::selectedCalls() const
+{
+    QList<int> rows;
+    const QModelIndexList selection = m_view->selectionModel()->selectedRows();
+    for (const QModelIndex &index : selection)
+        rows.append(m_filtered.mapToSource(index).row());
+    std::ranges::sort(rows);
+    QList<const LoggedCall *> calls;
+    for (const int row : std::as_const(rows)) {
+        if (const LoggedCall *call = m_model.callAt(row))
+            calls.append(call);
+    }
+    return calls;
+}
+
+QList<const LoggedCall *> EmulationOutputPane::allCalls() const
+{
+    QList<const LoggedCall *> calls;
+    for (qint64 serial = m_log->begin(); serial < m_log->end(); ++serial)
+        calls.append(&m_log->at(serial));
+    return calls;
+}
+
+void EmulationOutputPane::copy(const QStringList &lines)
+{
+    if (!lines.isEmpty())
+        QApplication::clipboard()->setText(lines.join(u'\n') + u'\n');
+}
+
+void EmulationOutputPane::copyText()
+{
+    QStringList lines;
+    for (const LoggedCall *call : selectedCalls())
+        lines.append(CallTexts::line(*m_log, *call));
+    copy(lines);
+}
+
+void EmulationOutputPane::copyCsv()
+{
+    QStringList lines{CallTexts::csvHeader()};
+    for (const LoggedCall *call : selectedCalls())
+        lines.append(CallTexts::csvLine(*m_log, *call));
+    copy(lines);
+}
+
+void EmulationOutputPane::copyCommands()
+{
+    QStringList lines;
+    for (const LoggedCall *call : selectedCalls())
+        lines.append(CallTexts::command(*call));
+    lines.removeAll({});
+    copy(lines);
+}
+
+void EmulationOutputPane::showContextMenu(const QPoint &position)
+{
+    QMenu menu;
+    const bool hasSelection = m_view->selectionModel()->hasSelection();
+    const auto add = [&](const QString &text, auto action) {
+        menu.addAction(text, this, action)->setEnabled(hasSelection);
+    };
+    add(tr("Copy"), &EmulationOutputPane::copyText);
+    add(tr("Copy as CSV"), &EmulationOutputPane::copyCsv);
+    add(tr("Copy as emulationctl Commands"), &EmulationOutputPane::copyCommands);
+    menu.addSeparator();
+    add(tr("Save Selection as a Recording…"), [this] { saveRecording(selectedCalls()); });
+    menu.addSeparator();
+    menu.addAction(tr("Select All"), m_view.data(), &QAbstractItemView::selectAll);
+    menu.exec(m_view->viewport()->mapToGlobal(position));
+}
+
+// The dialog is not modal to this function: the log goes on.
+void EmulationOutputPane::askForFile(const QString &title,
+                                     const std::function<void(const QString &)> &use)
+{
+    auto *dialog = new QFileDialog(Core::ICore::dialogParent(), title);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setNameFilter(tr("Recordings (*%1)").arg(Recording::fileSuffix));
+    dialog->setDefaultSuffix(Recording::fileSuffix.sliced(1));
+    connect(dialog, &QFileDialog::fileSelected, this, use);
+    dialog->open();
+}
+
+void EmulationOutputPane::askForRecording()
+{
+    auto *dialog = new QFileDialog(Core::ICore::dialogParent(), tr("Play a Recording"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setNameFilter(tr("Recordings (*%1)").arg(Recording::fileSuffix));
+    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &path) {
+        m_playingPath = path;
+        m_playButton->setEnabled(false);
+        m_reading.setFuture(QtConcurrent::run(&Recording::readFile, path));
+    });
+    dialog->open();
+}
+
+void EmulationOutputPane::playReading()
+{
+    m_playButton->setEnabled(true);
+    Recording recording = m_reading.future().takeResult();
+    if (!recording.error().isEmpty()) {
+        Core::MessageManager::writeDisrupting(
+            tr("The recording \"%1\" cannot be played. %2").arg(m_playingPath, recording.error()));
+        return;
+    }
+    if (!recording.warning().isEmpty())
+        Core::MessageManager::writeFlashing(m_playingPath + u": "_s + recording.warning());
+    m_player.setRecording(std::move(recording));
+    popup(IOutputPane::NoModeSwitch);
+    m_playbackBar->show();
+    m_playbackBar->play();
+}
+
+void EmulationOutputPane::saveRecording(const QList<const LoggedCall *> &calls)
+{
+    // Copies, because the log may forget calls while the dialog is open. Texts are shared.
+    std::vector<LoggedCall> copies;
+    for (const LoggedCall *call : calls)
+        copies.push_back(*call);
+    askForFile(tr("Save as a Recording"), [this, copies](const QString &path) {
+        QString error;
+        const RecordingWriter::Saved saved = RecordingWriter::save(path, copies, *m_log, &error);
+        if (!error.isEmpty()) {
+            Core::MessageManager::writeDisrupting(
+                tr("The recording \"%1\" was not saved: %2").arg(path, error));
+            return;
+        }
+        QString message = tr("The recording \"%1\" has %L2 calls.").arg(path).arg(saved.calls);
+        if (saved.leftOut > 0) {
+            message
+                += u' '
+                   + tr("%L1 were left out, because they were not sent or the log does not keep "
+                        "all of them.")
+                         .arg(saved.leftOut);
+        }
+        Core::MessageManager::writeFlashing(message);
+    });
+}
+
+void EmulationOutputPane::updateRecordButton()
+{
+    m_recordButton->setChecked(m_writer != nullptr);
+    m_recordButton->setText(m_writer ? tr("Stop Recording") : tr("Record…"));
+    m_recordButton->setToolTip(m_writer ? tr("Recording to %1").arg(m_recordingPath)
+                                        : tr("Record what is sent to the emulator"));
+}
+
+void EmulationOutputPane::toggleRecording(bool on)
+{
+    updateRecordButton(); // the file decides, not the click
+    if (!on) {
+        stopRecording();
+        return;
+    }
+    askForFile(tr("Record"), [this](const QString &path) {
+        auto writer = std::make_unique<RecordingWriter>();
+        const QString error = writer->open(path);
+        if (!error.isEmpty()) {
+            Core::MessageManager::writeDisrupting(
+                tr("The recording \"%1\" cannot be written: %2").arg(path, error));
+            return;
+        }
+        writer->watch(m_link);
+        m_writer = std::move(writer);
+        m_recordingPath = path;
+        updateRecordButton();
+    });
+}
+
+void EmulationOutputPane::stopRecording()
+{
+    if (!m_writer)
+        return;
+    const QString error = m_writer->close();
+    const qint64 count = m_writer->count();
+    m_writer.reset();
+    updateRecordButton();
+    if (error.isEmpty()) {
+        Core::MessageManager::writeFlashing(
+            tr("The recording \"%1\" has %L2 calls.").arg(m_recordingPath).arg(count));
+    } else {
+        Core::MessageManager::writeDisrupting(
+            tr("The recording \"%1\" is incomplete: %2").arg(m_recordingPath, error));
+    }
+}
+
+} // namespace EmulationManagement::Internal

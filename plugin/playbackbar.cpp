@@ -1,0 +1,176 @@
+#include "playbackbar.h"
+
+#include <link/calllog.h>
+#include <link/recordingplayer.h>
+#include <link/servicemethods.h>
+
+#include <utils/utilsicons.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSlider>
+#include <QToolButton>
+
+#include <algorithm>
+#include <chrono>
+
+using namespace Qt::StringLiterals;
+
+namespace EmulationManagement::Internal {
+
+using State = RecordingPlayer::State;
+using std::chrono::milliseconds;
+
+static constexpr milliseconds showingInterval{100};
+static constexpr double rates[] = {0.1, 0.25, 0.5, 1, 2, 5, 10, 20, 50, 100};
+static constexpr int usualRate = 3; // the index of 1
+
+static int millisecondsOf(std::chrono::microseconds time)
+{
+    return int(std::min<qint64>(std::chrono::duration_cast<milliseconds>(time).count(),
+                                std::numeric_limits<int>::max()));
+}
+
+static QString timeText(std::chrono::microseconds time)
+{
+    const qint64 tenths = time.count() / 100'000;
+    return u"%1:%2.%3"_s.arg(tenths / 600)
+        .arg(tenths / 10 % 60, 2, 10, QChar(u'0'))
+        .arg(tenths % 10);
+}
+
+PlaybackBar::PlaybackBar(RecordingPlayer *player, const CallLog *log, QWidget *parent)
+    : QWidget(parent)
+    , m_player(player)
+    , m_log(log)
+    , m_play(new QToolButton)
+    , m_step(new QToolButton)
+    , m_time(new QSlider(Qt::Horizontal))
+    , m_text(new QLabel)
+{
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(4, 2, 4, 2);
+    layout->addWidget(m_play);
+    connect(m_play, &QToolButton::clicked, this, &PlaybackBar::togglePlay);
+    m_step->setIcon(Utils::Icons::NEXT.icon());
+    m_step->setToolTip(tr("Send the Next Call"));
+    layout->addWidget(m_step);
+    connect(m_step, &QToolButton::clicked, this, [this] {
+        m_player->step();
+        showPosition();
+    });
+    layout->addWidget(m_time, 1);
+    m_time->setAccessibleName(tr("Time of the recording"));
+    connect(m_time, &QSlider::actionTriggered, this, [this] {
+        m_player->seek(milliseconds(m_time->sliderPosition()));
+        showPosition();
+    });
+    layout->addWidget(m_text);
+
+    auto *rate = new QComboBox;
+    for (const double value : rates)
+        rate->addItem(tr("%1x", "speed").arg(value), value);
+    rate->setCurrentIndex(usualRate);
+    rate->setToolTip(tr("Speed"));
+    connect(rate, &QComboBox::currentIndexChanged, this,
+            [this, rate] { m_player->setRate(rate->currentData().toDouble()); });
+    layout->addWidget(rate);
+    auto *looped = new QCheckBox(tr("Loop"));
+    connect(looped, &QCheckBox::toggled, this, [this](bool on) { m_player->setLooped(on); });
+    layout->addWidget(looped);
+    auto *waits = new QCheckBox(tr("Wait for the link"));
+    waits->setToolTip(tr("Go on when a lost link is there again, instead of stopping"));
+    waits->setChecked(true);
+    connect(waits, &QCheckBox::toggled, this, [this](bool on) {
+        m_player->setWhenLinkIsDown(on ? RecordingPlayer::WhenLinkIsDown::Wait
+                                       : RecordingPlayer::WhenLinkIsDown::Stop);
+    });
+    layout->addWidget(waits);
+    const QStringList names{tr("Sensors"), tr("Location"), tr("Camera")};
+    for (const Service *service : services()) {
+        auto *box = new QCheckBox(names.at(qsizetype(m_services.size())));
+        box->setChecked(true);
+        connect(box, &QCheckBox::toggled, this, &PlaybackBar::chooseServices);
+        layout->addWidget(box);
+        m_services.emplace_back(box, service);
+    }
+    auto *close = new QToolButton;
+    close->setIcon(Utils::Icons::CLOSE_FOREGROUND.icon());
+    close->setToolTip(tr("Stop and Close the Recording"));
+    connect(close, &QToolButton::clicked, this, [this] {
+        m_player->stop();
+        Q_EMIT closed();
+    });
+    layout->addWidget(close);
+
+    connect(player, &RecordingPlayer::stateChanged, this, &PlaybackBar::updateButtons);
+    connect(player, &RecordingPlayer::finished, this, &PlaybackBar::showEnd);
+    connect(&m_timer, &QTimer::timeout, this, &PlaybackBar::showPosition);
+    updateButtons();
+}
+
+void PlaybackBar::play()
+{
+    m_time->setRange(0, millisecondsOf(m_player->recording().duration()));
+    m_player->play();
+}
+
+void PlaybackBar::togglePlay()
+{
+    if (m_player->state() == State::Playing)
+        m_player->pause();
+    else
+        m_player->play();
+}
+
+void PlaybackBar::updateButtons()
+{
+    const State state = m_player->state();
+    const bool playing = state == State::Playing;
+    m_play->setIcon(playing ? Utils::Icons::INTERRUPT_SMALL.icon()
+                            : Utils::Icons::RUN_SMALL.icon());
+    m_play->setToolTip(playing ? tr("Pause") : tr("Play"));
+    m_step->setEnabled(!playing);
+    if (playing)
+        m_timer.start(showingInterval);
+    else
+        m_timer.stop();
+    if (playing && m_player->position().count() == 0) {
+        m_refusedBefore = m_log->totals().refused;
+        m_lostBefore = m_log->totals().lost;
+    }
+    showPosition();
+}
+
+void PlaybackBar::showPosition()
+{
+    if (!m_time->isSliderDown())
+        m_time->setValue(millisecondsOf(m_player->position()));
+    m_text->setText(u"%1 / %2"_s.arg(timeText(m_player->position()),
+                                     timeText(m_player->recording().duration())));
+}
+
+void PlaybackBar::showEnd()
+{
+    const CallLog::Totals &totals = m_log->totals();
+    const std::chrono::duration<double, std::milli> latest = m_player->totals().latest;
+    m_text->setText(tr("%L1 sent, %L2 refused, %L3 lost, latest %4 ms")
+                        .arg(m_player->totals().calls)
+                        .arg(std::max<qint64>(0, totals.refused - m_refusedBefore))
+                        .arg(std::max<qint64>(0, totals.lost - m_lostBefore))
+                        .arg(latest.count(), 0, 'f', 1));
+}
+
+void PlaybackBar::chooseServices()
+{
+    std::vector<const Service *> chosen;
+    for (const auto &[box, service] : m_services) {
+        if (box->isChecked())
+            chosen.push_back(service);
+    }
+    m_player->setServices(std::move(chosen));
+}
+
+} // namespace EmulationManagement::Internal
