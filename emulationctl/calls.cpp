@@ -73,7 +73,7 @@ static Calls oneCall(const ServiceMethod &called, const QString &arguments)
 
 static std::optional<Calls> sensorCalls(const QStringList &arguments, QString *error)
 {
-    const QString action = arguments.constFirst();
+    const QString &action = arguments.constFirst();
     const QStringList names = arguments.sliced(1);
     if (action == u"list"_s && names.isEmpty())
         return listSensors(false);

@@ -81,7 +81,7 @@ static std::optional<double> durationOf(const CommandLine &line, QString *error)
     static constexpr double longest = 1e6; // seconds
     bool ok = false;
     const double duration = line.value(u"for"_s).toDouble(&ok);
-    if (!ok || !(duration > 0 && duration <= longest))
+    if (!ok || std::isnan(duration) || duration <= 0 || duration > longest)
         *error = u"--for must be a number of seconds above 0, not %1."_s.arg(line.value(u"for"_s));
     return duration;
 }

@@ -130,11 +130,12 @@ QString CallTexts::command(const LoggedCall &call)
     if (call.method->service == &cameraService)
         return cameraCommand(call, values);
     QString command = u"emulationctl call %1 %2"_s.arg(serviceName(call), methodName(call));
-    for (const QJsonValue &value : values) {
+    for (const auto &value : values) {
         const QString text
             = value.isString()
                   ? value.toString()
-                  : QString::fromUtf8(QJsonDocument({value}).toJson(QJsonDocument::Compact))
+                  : QString::fromUtf8(
+                        QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact))
                         .sliced(1)
                         .chopped(1);
         command += u' ' + shellQuoted(text);

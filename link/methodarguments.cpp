@@ -75,7 +75,7 @@ static QString pointsText(const QJsonArray &points, const ServiceMethod &setPosi
     const int coordinateDecimals = setPosition.arguments[0].decimals;
     const int altitudeDecimals = setPosition.arguments[2].decimals;
     DoubleArraysArgument text({}, points.size() * usualPointSize);
-    for (const QJsonValue &value : points) {
+    for (const auto &value : points) {
         const QJsonArray point = value.toArray();
         text.append({QString::number(point.at(0).toDouble(), 'f', coordinateDecimals),
                      QString::number(point.at(1).toDouble(), 'f', coordinateDecimals),

@@ -128,7 +128,7 @@ std::span<const Service *const> services()
 
 const Service *findService(QStringView name)
 {
-    const auto service = std::ranges::find_if(
+    const auto *const service = std::ranges::find_if(
         allServices, [&](const Service *candidate) { return candidate->name == name; });
     return service == std::end(allServices) ? nullptr : *service;
 }

@@ -85,15 +85,13 @@ EmulationOutputPane::EmulationOutputPane(CallLog *log, RemoteDBusInvokerService 
     connect(&m_player, &RecordingPlayer::cameraCallDue, this, &EmulationOutputPane::cameraCallDue);
     connect(&m_player, &RecordingPlayer::stateChanged, this,
             [this] { Q_EMIT playingChanged(m_player.state() == RecordingPlayer::State::Playing); });
-    m_totals = new Utils::ElidingLabel;
     updateRecordButton();
 }
 
 EmulationOutputPane::~EmulationOutputPane()
 {
-    for (const QPointer<QWidget> &widget :
-         QList<QPointer<QWidget>>{m_widget.data(), m_recordButton.data(), m_playButton.data(),
-                                  m_saveButton.data(), m_totals.data()})
+    for (const QPointer<QWidget> &widget : QList<QPointer<QWidget>>{
+             m_widget.data(), m_recordButton.data(), m_playButton.data(), m_saveButton.data()})
         delete widget.data();
 }
 
@@ -118,7 +116,7 @@ QWidget *EmulationOutputPane::outputWidget(QWidget *parent)
 
 QList<QWidget *> EmulationOutputPane::toolBarWidgets() const
 {
-    return QList<QWidget *>{m_recordButton, m_playButton, m_saveButton, m_totals}
+    return QList<QWidget *>{m_recordButton, m_playButton, m_saveButton}
            + IOutputPane::toolBarWidgets();
 }
 
@@ -149,6 +147,9 @@ void EmulationOutputPane::createView()
     m_playbackBar->hide();
     connect(m_playbackBar, &PlaybackBar::closed, this, [this] { m_playbackBar->hide(); });
     m_widget->layout()->addWidget(m_playbackBar);
+    m_totals = new Utils::ElidingLabel;
+    m_totals->setContentsMargins(6, 2, 6, 2);
+    m_widget->layout()->addWidget(m_totals);
     m_widget->setFocusProxy(view);
     view->viewport()->installEventFilter(this);
 
@@ -214,6 +215,8 @@ void EmulationOutputPane::visibilityChanged(bool visible)
 
 void EmulationOutputPane::showTotals()
 {
+    if (!m_totals)
+        return;
     const CallLog::Totals &totals = m_log->totals();
     const CallLog::Latencies latencies = m_log->latencies();
     m_totals->setText(

@@ -7,6 +7,7 @@
 #include "faultrun.h"
 #include "languagetest.h"
 #include "locationtest.h"
+#include "outputpanetest.h"
 #include "persistencetest.h"
 #include "quitscenario.h"
 #include "repliestest.h"
@@ -27,6 +28,7 @@ bool TestPlugin::initialize(const QStringList &arguments, QString *errorString)
     addTest<RepliesTest>();
     addTest<LanguageTest>();
     addTest<LocationTest>();
+    addTest<OutputPaneTest>();
     addTest<PersistenceTest>();
     addTest<FaultRun>();
     return true;

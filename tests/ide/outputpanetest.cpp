@@ -1,0 +1,132 @@
+#include "outputpanetest.h"
+
+#include <coreplugin/actionmanager/actionmanager.h>
+#include <coreplugin/actionmanager/command.h>
+
+#include <plugindriver.h>
+
+#include <waiting.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QFileDialog>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+#include <QTreeView>
+
+using namespace PluginDriver;
+using namespace Qt::StringLiterals;
+
+static QTreeView *table()
+{
+    for (QWidget *widget : QApplication::allWidgets()) {
+        if (widget->accessibleName() == "Calls of the emulator")
+            return qobject_cast<QTreeView *>(widget);
+    }
+    return nullptr;
+}
+
+static void click(const QString &text)
+{
+    for (QWidget *widget : QApplication::allWidgets()) {
+        auto *button = qobject_cast<QToolButton *>(widget);
+        if (button && button->text() == text)
+            return button->click();
+    }
+    throw WaitingFailed("no button " + text.toStdString());
+}
+
+/// Answers the dialog that the last click has opened.
+static void chooseFile(const QString &path)
+{
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (auto *dialog = qobject_cast<QFileDialog *>(widget); dialog && dialog->isVisible()) {
+            Q_EMIT dialog->fileSelected(path);
+            dialog->close();
+            return;
+        }
+    }
+    throw WaitingFailed("no file dialog");
+}
+
+/// The columns of the last row whose method is this.
+static QStringList lastRow(const QString &method)
+{
+    const QAbstractItemModel *model = table()->model();
+    for (int row = model->rowCount() - 1; row >= 0; --row) {
+        QStringList columns;
+        for (int column = 1; column < model->columnCount(); ++column)
+            columns << model->index(row, column).data().toString();
+        if (columns.at(1) == method)
+            return columns;
+    }
+    return {};
+}
+
+static void setLight(int lux)
+{
+    QMetaObject::invokeMethod(sensorsManager(), "setAlsLuxValue", lux);
+}
+
+void OutputPaneTest::initTestCase()
+{
+    JournalReader journal(journalPath());
+    setLight(7); // there is no link yet
+    openWindow(journal);
+    QVERIFY(!table()); // the pane costs nothing until it is shown
+    Core::ActionManager::command("QtCreator.Pane.EmulationManagement.OutputPane")
+        ->action()
+        ->trigger();
+    waitFor("the table", [] { return table() && table()->model()->rowCount() > 0; });
+}
+
+void OutputPaneTest::testCallsAndTheirFailures()
+{
+    const QModelIndex first = table()->model()->index(0, 4);
+    QCOMPARE(first.data().toString(), "not sent, because the link was down");
+    control("fail setAlsValue org.vexa.Error.Broken It is broken");
+    setLight(42);
+    waitFor("the refusal", [] {
+        const QStringList row = lastRow("setAlsValue");
+        return row.first(4)
+               == QStringList{"sensors", "setAlsValue", "illuminance 42 lx",
+                              "org.vexa.Error.Broken It is broken"};
+    });
+    control("fail setAlsValue");
+}
+
+void OutputPaneTest::testRecordingIsPlayedAndTheWindowRests()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("session.emulation.jsonl");
+    JournalReader journal(journalPath());
+    click("Record…");
+    chooseFile(path);
+    for (const int lux : {11, 12, 13}) {
+        setLight(lux);
+        QTest::qWait(50);
+    }
+    click("Stop Recording");
+    setLight(14);
+    waitFor("the window's value",
+            [&] { return journal.callsSince(0).contains("setAlsValue int32:14"); });
+
+    const qsizetype start = journal.position();
+    click("Play…");
+    chooseFile(path);
+    waitFor("the recording",
+            [&] { return journal.callsSince(start).contains("setAlsValue int32:11"); });
+    setLight(15); // is not sent while the recording plays, but afterwards
+    waitFor("the window's values",
+            [&] { return journal.callsSince(start).contains("setAlsValue int32:15"); });
+    QStringList calls = journal.callsSince(start);
+    calls.removeIf([](const QString &call) { return !call.startsWith("setAlsValue"); });
+    QCOMPARE(calls, (QStringList{"setAlsValue int32:11", "setAlsValue int32:12",
+                                 "setAlsValue int32:13", "setAlsValue int32:15"}));
+}
+
+void OutputPaneTest::cleanupTestCase()
+{
+    stopMachine();
+}
