@@ -1,7 +1,6 @@
 #include "emulationmanagementplugin.h"
 
 #include "emulationmanagementconstants.h"
-#include "emulationoutputpane.h"
 #include "messageboxbuttons.h"
 #include "textfielddoublevalidator.h"
 #include "warningdialog.h"
@@ -224,7 +223,8 @@ void EmulationManagementPlugin::setupMenu()
 
 void EmulationManagementPlugin::setupOutputPane()
 {
-    auto *pane = new EmulationOutputPane(&m_callLog, &m_remoteDBusInvokerService, this);
+    m_outputPane = std::make_unique<EmulationOutputPane>(&m_callLog, &m_remoteDBusInvokerService);
+    EmulationOutputPane *pane = m_outputPane.get();
     const auto add = [pane](QStringView method, const QJsonArray &arguments) {
         pane->addCameraCall(
             *findMethod(cameraService, method),

@@ -2,6 +2,7 @@
 
 #include "emulationmanagementpackageschecker.h"
 #include "emulationmanagementview.h"
+#include "emulationoutputpane.h"
 #include "openingprogress.h"
 
 #include <camera/cameraemulationmanager.h>
@@ -24,6 +25,7 @@
 #include <QVariant>
 
 #include <functional>
+#include <memory>
 
 namespace Ravik {
 class Emulator;
@@ -32,8 +34,6 @@ class VirtualMachine;
 } // namespace Ravik
 
 namespace EmulationManagement::Internal {
-
-class EmulationOutputPane;
 
 /*!
  * The plugin: owns every long-lived object, wires them, and opens the tool window.
@@ -124,6 +124,7 @@ private:
     EmulationManagementPackagesChecker m_packagesChecker;
     OpeningProgress m_openingProgress{this};
     QObjectCleanupHandler m_messageBoxes; // open, or queued to be shown
+    std::unique_ptr<EmulationOutputPane> m_outputPane; // after the log and the link that it uses
 };
 
 } // namespace EmulationManagement::Internal
