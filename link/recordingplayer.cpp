@@ -76,8 +76,6 @@ void RecordingPlayer::setRecording(Recording recording)
 {
     stop();
     m_recording = std::move(recording);
-    m_totals = {};
-    m_lateness = {};
 }
 
 void RecordingPlayer::setRate(double rate)
@@ -145,6 +143,7 @@ void RecordingPlayer::stop()
     m_timer.stop();
     m_next = 0;
     m_position = {};
+    m_startsAnew = true;
     setState(State::Stopped);
 }
 
@@ -178,6 +177,11 @@ void RecordingPlayer::seek(microseconds time)
 
 void RecordingPlayer::send(const RecordedCall &call)
 {
+    // The totals of the last play stay until the next one begins.
+    if (std::exchange(m_startsAnew, false)) {
+        m_totals = {};
+        m_lateness = {};
+    }
     ++m_totals.calls;
     if (call.method->service == &cameraService) {
         Q_EMIT cameraCallDue(call);
@@ -221,8 +225,8 @@ void RecordingPlayer::sendDueCalls()
         ++m_next;
         if (!isChosen(call))
             continue;
-        noteLateness(lateness);
         send(call);
+        noteLateness(lateness);
     }
     if (m_state == State::Playing && !m_waitingForLink)
         schedule();

@@ -32,7 +32,7 @@ public:
     static constexpr double slowestRate = 0.1;
     static constexpr double fastestRate = 100;
 
-    /// What was sent since the recording was set.
+    /// What was sent since playing began.
     struct Totals
     {
         qint64 calls = 0;
@@ -96,6 +96,7 @@ private:
     std::vector<const Service *> m_services;
     bool m_looped = false;
     bool m_waitingForLink = false;
+    bool m_startsAnew = true;
     WhenLinkIsDown m_whenLinkIsDown = WhenLinkIsDown::Wait;
     State m_state = State::Stopped;
     std::size_t m_next = 0; // the index of the next call

@@ -223,6 +223,9 @@ private Q_SLOTS:
         QCOMPARE(taken(relay, link), u"1;2;3"_s);
         QCOMPARE(camera.size(), 1);
         QCOMPARE(player.totals().calls, 4);
+        player.play();
+        QVERIFY(finished.wait());
+        QCOMPARE(player.totals().calls, 4); // each play counts anew
         QCOMPARE(player.state(), RecordingPlayer::State::Stopped);
     }
 
