@@ -26,6 +26,12 @@ void EmulationManager::setRdbusinvoker(RemoteDBusInvokerService *invoker)
     Q_EMIT rdbusinvokerChanged();
 }
 
+void EmulationManager::setSuspended(bool suspended)
+{
+    m_suspended = suspended;
+    Q_EMIT suspendedChanged();
+}
+
 void EmulationManager::processReplyFromEmulator(const QString &reply)
 {
     const QStringList fields = replyFields(reply);

@@ -19,6 +19,8 @@ class EmulationManager : public QObject
 {
     Q_OBJECT
     Q_MOC_INCLUDE("link/remotedbusinvokerservice.h")
+    /// Whether a recording plays, which the calls of the window would disturb.
+    Q_PROPERTY(bool suspended READ isSuspended WRITE setSuspended NOTIFY suspendedChanged)
     Q_PROPERTY(EmulationManagement::Internal::RemoteDBusInvokerService *rdbusinvoker
                    READ rdbusinvoker WRITE setRdbusinvoker NOTIFY rdbusinvokerChanged)
 
@@ -45,8 +47,9 @@ public:
      */
     void setRdbusinvoker(RemoteDBusInvokerService *invoker);
 
-    /// Lets calls be dropped, while another source feeds the emulator.
-    void setSuspended(bool suspended) { m_suspended = suspended; }
+    /// Whether calls are dropped, because another source feeds the emulator.
+    [[nodiscard]] bool isSuspended() const { return m_suspended; }
+    void setSuspended(bool suspended);
 
     /*!
      * Handles the reply line "method:arguments:returned value:error name:error text".
@@ -59,6 +62,7 @@ public:
 
 Q_SIGNALS:
     void rdbusinvokerChanged();
+    void suspendedChanged();
     void emulatorConnected();
     /// "OK", or an error text for the user.
     void replyFromEmulatorReceived(const QString &reply);

@@ -264,14 +264,12 @@ void EmulationManagementPlugin::setupOutputPane()
 
 void EmulationManagementPlugin::handleRecordingPlaying(bool playing)
 {
-    m_recordingPlaying = playing;
     m_sensorsEmulationManager.setSuspended(playing);
     m_gpsEmulationManager.setSuspended(playing);
     if (!playing && m_remoteDBusInvokerService.isConnected()) {
         m_sensorsEmulationManager.setupSensors();
         m_gpsEmulationManager.setupGPSData();
     }
-    Q_EMIT recordingPlayingChanged();
 }
 
 /// Returns whether the device model of this file has each sensor, by sensor name.

@@ -45,7 +45,6 @@ class EmulationManagementPlugin final : public ExtensionSystem::IPlugin
 {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID "org.qt-project.Qt.QtCreatorPlugin" FILE "EmulationManagement.json")
-    Q_PROPERTY(bool recordingPlaying READ recordingPlaying NOTIFY recordingPlayingChanged)
 
 public:
     bool initialize(const QStringList &arguments, QString *errorString) override;
@@ -60,11 +59,7 @@ public:
      */
     void showEmulationManagementView();
 
-    /// Whether a recording plays: what the window sends is dropped then.
-    [[nodiscard]] bool recordingPlaying() const { return m_recordingPlaying; }
-
 Q_SIGNALS:
-    void recordingPlayingChanged();
     /// The emulator runs and its ports are forwarded. Emitted before the window is shown.
     void emulationManagementViewShowed();
 
@@ -116,7 +111,6 @@ private:
     EmulationManagementView m_emulationManagementView;
     Ravik::Sdk *m_sdk = nullptr;
     QPointer<Ravik::Emulator> m_currentEmulator;
-    bool m_recordingPlaying = false;
     bool m_vmRunning = false;
     bool m_packagesChecked = false;
     bool m_startRequested = false;

@@ -168,11 +168,25 @@ Rectangle {
         color: root.separatorColor
     }
 
+    Text {
+        id: recordingLine
+
+        anchors.bottom: parent.bottom
+        anchors.left: buttonsColumnSeparator.right
+        anchors.right: parent.right
+        color: root.palette.windowText
+        height: visible ? implicitHeight : 0
+        padding: 12
+        text: qsTr("A recording is playing. This window sends its values again when the recording ends.")
+        visible: root.sensorsManager.suspended
+        wrapMode: Text.Wrap
+    }
+
     Item {
         id: pagesArea
 
         anchors.top: parent.top
-        anchors.bottom: parent.bottom
+        anchors.bottom: recordingLine.top
         anchors.left: buttonsColumnSeparator.right
         anchors.right: parent.right
         // The Fusion style draws edges in the colour of the window, made darker by this factor.

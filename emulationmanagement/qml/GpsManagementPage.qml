@@ -118,6 +118,12 @@ EmulationPage {
     Connections {
         target: root.gpsManager
 
+        // A recording is played instead.
+        function onSuspendedChanged() {
+            if (root.gpsManager.suspended && player.playing)
+                player.pause();
+        }
+
         function onReplyFromEmulatorReceived(reply: string) {
             if (reply === "OK") {
                 root.stoppedAfterError = false;

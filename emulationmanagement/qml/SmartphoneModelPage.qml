@@ -99,6 +99,15 @@ EmulationPage {
             controlModifierPressed = false;
     }
 
+    Connections {
+        target: root.sensorsManager
+
+        function onSuspendedChanged() {
+            if (root.shown && !root.sensorsManager.suspended)
+                motion.comeToRest(); // the timer was stopped
+        }
+    }
+
     DeviceMotion {
         id: motion
 
@@ -110,7 +119,7 @@ EmulationPage {
     Timer {
         interval: motion.timerInterval * 1000
         repeat: true
-        running: root.shown
+        running: root.shown && !root.sensorsManager.suspended
 
         onTriggered: motion.sample()
     }
