@@ -78,7 +78,7 @@ Rectangle {
     Rectangle { // keeps the diagrams readable in front of the device
         anchors.fill: sensorAxes
         anchors.margins: -6
-        color: root.palette.window
+        color: themeBackgroundColorNormal // qmllint disable unqualified
         opacity: 0.6
         radius: 6
         visible: sensorAxes.visible
