@@ -175,7 +175,6 @@ Rectangle {
         anchors.left: buttonsColumnSeparator.right
         anchors.right: parent.right
         color: root.palette.windowText
-        height: visible ? implicitHeight : 0
         padding: 12
         text: qsTr("A recording is playing. This window sends its values again when the recording ends.")
         visible: root.sensorsManager.suspended
@@ -186,7 +185,7 @@ Rectangle {
         id: pagesArea
 
         anchors.top: parent.top
-        anchors.bottom: recordingLine.top
+        anchors.bottom: recordingLine.visible ? recordingLine.top : parent.bottom
         anchors.left: buttonsColumnSeparator.right
         anchors.right: parent.right
         // The Fusion style draws edges in the colour of the window, made darker by this factor.
