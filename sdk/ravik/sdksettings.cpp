@@ -1,8 +1,11 @@
 #include "sdksettings.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QSettings>
+
+#include <dlfcn.h>
 
 #include <algorithm>
 
@@ -36,10 +39,24 @@ QString EmulatorSettings::folderName() const
     return folderName.isEmpty() ? u"emulator"_s : folderName;
 }
 
+// The folder of the library that has this code.
+static QString libraryFolder()
+{
+    static const char anything = 0;
+    Dl_info library;
+    return dladdr(&anything, &library)
+               ? QFileInfo(QFile::decodeName(library.dli_fname)).absolutePath()
+               : QString();
+}
+
 QString HostSettings::emulatorProgram() const
 {
-    return program.isEmpty() ? QCoreApplication::applicationDirPath() + "/nimbra-emulator"_L1
-                             : program;
+    if (!program.isEmpty())
+        return program;
+    const QString besideApplication
+        = QCoreApplication::applicationDirPath() + "/nimbra-emulator"_L1;
+    const QString besideLibrary = libraryFolder() + "/nimbra-emulator"_L1;
+    return QFileInfo::exists(besideLibrary) ? besideLibrary : besideApplication;
 }
 
 QString HostSettings::sshKeyFile() const

@@ -24,7 +24,7 @@ struct EmulatorSettings
 struct HostSettings
 {
     QString folder;  // the SDK keeps its files here
-    QString program; // empty: the emulator beside the application
+    QString program; // empty: the emulator beside the application or the SDK
     bool headless = false;
 
     [[nodiscard]] QString emulatorProgram() const;
