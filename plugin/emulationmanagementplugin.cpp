@@ -20,6 +20,7 @@
 #include <devicemodel/imageitem.h>
 
 #include <extensionsystem/pluginmanager.h>
+#include <extensionsystem/pluginspec.h>
 
 #include <link/recording.h>
 
@@ -114,8 +115,16 @@ void EmulationManagementPlugin::setupTranslations()
     const QLocale locale = language.isValid() ? QLocale(language.toString()) : QLocale();
     const QString directory = Core::ICore::resourcePath("translations").toFSPathString();
 
+    // An archive for the IDE's dialog Install Plugin brings the catalogues beside the library.
+    const QString installed
+        = (ExtensionSystem::PluginManager::specForPlugin(this)->location() / "translations")
+              .toFSPathString();
+
     auto *translator = new QTranslator(this);
-    if (translator->load(locale, QLatin1StringView(catalogue), u"_"_s, directory))
+    const auto load = [&](const QString &folder) {
+        return translator->load(locale, QLatin1StringView(catalogue), u"_"_s, folder);
+    };
+    if (load(directory) || load(installed))
         QCoreApplication::installTranslator(translator);
     else
         qDebug() << "Failed to load translator:" << directory << catalogue;
