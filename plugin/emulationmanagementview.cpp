@@ -6,12 +6,16 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTimer>
 #include <QWidget>
 
 #include <algorithm>
 
+using namespace std::chrono_literals;
+
 namespace EmulationManagement::Internal {
 
+static constexpr auto focusReturnTimeLimit = 500ms;
 static constexpr char geometryKey[] = "emulationmanagement/window_geometry";
 static constexpr char maximizedKey[] = "emulationmanagement/window_maximized";
 
@@ -33,6 +37,20 @@ void EmulationManagementView::bringToFront()
     }
     raise();
     requestActivate();
+    if (!QGuiApplication::focusWindow())
+        activateOnceFocusReturns();
+}
+
+// A Wayland compositor raises a window only for the window that has the focus. While a menu closes,
+// no window has it until the compositor returns it to the IDE.
+void EmulationManagementView::activateOnceFocusReturns()
+{
+    auto *timeLimit = new QTimer(this);
+    connect(timeLimit, &QTimer::timeout, timeLimit, &QObject::deleteLater);
+    connect(
+        qGuiApp, &QGuiApplication::focusWindowChanged, timeLimit, [this] { requestActivate(); },
+        Qt::SingleShotConnection);
+    timeLimit->start(focusReturnTimeLimit);
 }
 
 void EmulationManagementView::hideEvent(QHideEvent *event)

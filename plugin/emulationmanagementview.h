@@ -23,6 +23,7 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
+    void activateOnceFocusReturns();
     void restoreGeometry();
     void saveGeometry() const;
 };
