@@ -166,6 +166,67 @@
     </message>
 </context>
 <context>
+    <name>EmulationManagement::Internal::CallLogModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>Dienst</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Methode</translation>
+    </message>
+    <message>
+        <source>Arguments</source>
+        <translation>Argumente</translation>
+    </message>
+    <message>
+        <source>Reply</source>
+        <translation>Antwort</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+</context>
+<context>
+    <name>EmulationManagement::Internal::CallTexts</name>
+    <message>
+        <source>%1… (%2 characters, which the log does not keep)</source>
+        <translation>%1… (%2 Zeichen, nicht im Protokoll gespeichert)</translation>
+    </message>
+    <message>
+        <source>lost with the connection</source>
+        <translation>bei Verbindungsabbruch verloren</translation>
+    </message>
+    <message>
+        <source>not sent, because the link was down</source>
+        <translation>nicht gesendet, da keine Verbindung</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>erledigt</translation>
+    </message>
+</context>
+<context>
+    <name>EmulationManagement::Internal::CameraPlayback</name>
+    <message>
+        <source>There is no video file &quot;%1&quot;.</source>
+        <translation>Die Videodatei „%1“ wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>The video file &quot;%1&quot; cannot be streamed.</source>
+        <translation>Die Videodatei „%1“ kann nicht übertragen werden.</translation>
+    </message>
+    <message>
+        <source>There is no camera &quot;%1&quot;.</source>
+        <translation>Die Kamera „%1“ wurde nicht gefunden.</translation>
+    </message>
+</context>
+<context>
     <name>EmulationManagement::Internal::EmulationManagementPlugin</name>
     <message>
         <source>Emulation Management</source>
@@ -205,7 +266,161 @@
     </message>
     <message>
         <source>Reading Track File</source>
-        <translation>Trackdatei lesen</translation>
+        <translation>Trackdatei wird gelesen</translation>
+    </message>
+    <message>
+        <source>camera: %1 x %2 pixels, %3 frames a second</source>
+        <translation>Kamera: %1 x %2 Pixel, %3 Bilder pro Sekunde</translation>
+    </message>
+</context>
+<context>
+    <name>EmulationManagement::Internal::EmulationOutputPane</name>
+    <message>
+        <source>Emulation</source>
+        <translation>Emulation</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Aufzeichnen</translation>
+    </message>
+    <message>
+        <source>Save What the Log Holds as a Recording…</source>
+        <translation>Inhalt des Protokolls als Aufzeichnung speichern…</translation>
+    </message>
+    <message>
+        <source>Play…</source>
+        <translation>Abspielen…</translation>
+    </message>
+    <message>
+        <source>Play a Recording…</source>
+        <translation>Aufzeichnung abspielen…</translation>
+    </message>
+    <message>
+        <source>Calls of the emulator</source>
+        <translation>Aufrufe des Emulators</translation>
+    </message>
+    <message>
+        <source>not sent, because the link was down</source>
+        <translation>nicht gesendet, da keine Verbindung</translation>
+    </message>
+    <message>
+        <source>%L1 calls, %L2 refused, %L3 lost, %L4 not sent; %L5/s; median %6 ms, 99 % %7 ms</source>
+        <translation>Aufrufe: %L1, abgelehnt: %L2, verloren: %L3, nicht gesendet: %L4; %L5/s; Median: %6 ms, 99 %: %7 ms</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy as CSV</source>
+        <translation>Als CSV kopieren</translation>
+    </message>
+    <message>
+        <source>Copy as emulationctl Commands</source>
+        <translation>Als emulationctl-Befehle kopieren</translation>
+    </message>
+    <message>
+        <source>Save Selection as a Recording…</source>
+        <translation>Auswahl als Aufzeichnung speichern…</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Recordings (*%1)</source>
+        <translation>Aufzeichnungen (*%1)</translation>
+    </message>
+    <message>
+        <source>Play a Recording</source>
+        <translation>Aufzeichnung abspielen</translation>
+    </message>
+    <message>
+        <source>The recording &quot;%1&quot; cannot be played. %2</source>
+        <translation>Die Aufzeichnung „%1“ kann nicht abgespielt werden. %2</translation>
+    </message>
+    <message>
+        <source>Save as a Recording</source>
+        <translation>Als Aufzeichnung speichern</translation>
+    </message>
+    <message>
+        <source>The recording &quot;%1&quot; was not saved: %2</source>
+        <translation>Die Aufzeichnung „%1“ wurde nicht gespeichert: %2</translation>
+    </message>
+    <message>
+        <source>The recording &quot;%1&quot; has %L2 calls.</source>
+        <translation>Aufrufe in der Aufzeichnung „%1“: %L2.</translation>
+    </message>
+    <message>
+        <source>%L1 were left out, because they were not sent or the log does not keep all of them.</source>
+        <translation>Ausgelassen: %L1 (nicht gesendet oder nicht vollständig im Protokoll).</translation>
+    </message>
+    <message>
+        <source>Stop Recording</source>
+        <translation>Aufzeichnung beenden</translation>
+    </message>
+    <message>
+        <source>Record…</source>
+        <translation>Aufzeichnen…</translation>
+    </message>
+    <message>
+        <source>Recording to %1</source>
+        <translation>Aufzeichnung in %1</translation>
+    </message>
+    <message>
+        <source>Record what is sent to the emulator</source>
+        <translation>Aufzeichnen, was an den Emulator gesendet wird</translation>
+    </message>
+    <message>
+        <source>The recording &quot;%1&quot; cannot be written: %2</source>
+        <translation>Die Aufzeichnung „%1“ kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>The recording &quot;%1&quot; is incomplete: %2</source>
+        <translation>Die Aufzeichnung „%1“ ist unvollständig: %2</translation>
+    </message>
+</context>
+<context>
+    <name>EmulationManagement::Internal::MethodArguments</name>
+    <message>
+        <source>a whole number</source>
+        <translation>eine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true oder false</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>ein Text</translation>
+    </message>
+    <message>
+        <source>an array of points, each an array of latitude, longitude, altitude and interval</source>
+        <translation>ein Array von Punkten (je ein Array aus Breitengrad, Längengrad, Höhe und Intervall)</translation>
+    </message>
+    <message>
+        <source>one of %1</source>
+        <translation>eines von %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>at least %1</source>
+        <translation>mindestens %1</translation>
+    </message>
+    <message>
+        <source>%1 has another number of arguments: %2</source>
+        <translation>%1 hat eine andere Anzahl von Argumenten: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 must be %3, not %4</source>
+        <translation>%1 von %2 muss %3 sein, nicht %4</translation>
     </message>
 </context>
 <context>
@@ -213,6 +428,133 @@
     <message>
         <source>Opening Emulation Management</source>
         <translation>Emulationsverwaltung wird geöffnet</translation>
+    </message>
+</context>
+<context>
+    <name>EmulationManagement::Internal::PlaybackBar</name>
+    <message>
+        <source>Send the Next Call</source>
+        <translation>Nächsten Aufruf senden</translation>
+    </message>
+    <message>
+        <source>Time of the recording</source>
+        <translation>Zeit der Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>%1x</source>
+        <comment>speed</comment>
+        <translation>%1x</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Wait for the link</source>
+        <translation>Auf Verbindung warten</translation>
+    </message>
+    <message>
+        <source>Go on when a lost link is there again, instead of stopping</source>
+        <translation>Bei Verbindungsabbruch nicht anhalten, sondern fortfahren, sobald die Verbindung wieder besteht</translation>
+    </message>
+    <message>
+        <source>Sensors</source>
+        <translation>Sensoren</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Standort</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Stop and Close the Recording</source>
+        <translation>Anhalten und Aufzeichnung schließen</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+    <message>
+        <source>%L1 sent, %L2 refused, %L3 lost, latest %4 ms</source>
+        <translation>gesendet: %L1, abgelehnt: %L2, verloren: %L3, max. Verspätung: %4 ms</translation>
+    </message>
+</context>
+<context>
+    <name>EmulationManagement::Internal::Recording</name>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>Die Datei kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>Line %1 is incomplete and was left out.</source>
+        <translation>Zeile %1 ist unvollständig und wurde ausgelassen.</translation>
+    </message>
+    <message>
+        <source>Line %1: %2.</source>
+        <translation>Zeile %1: %2.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Die Datei ist leer.</translation>
+    </message>
+    <message>
+        <source>this is not the header of a recording, which has the format &quot;%1&quot;</source>
+        <translation>das ist nicht der Kopf einer Aufzeichnung im Format „%1“</translation>
+    </message>
+    <message>
+        <source>the version %1 is later than %2, the last one that is known</source>
+        <translation>die Version %1 ist neuer als die letzte bekannte Version %2</translation>
+    </message>
+    <message>
+        <source>the version must be %1</source>
+        <translation>die Version muss %1 sein</translation>
+    </message>
+    <message>
+        <source>the unit of time must be &quot;ms&quot;</source>
+        <translation>die Zeiteinheit muss „ms“ sein</translation>
+    </message>
+    <message>
+        <source>the start must be a date and a time of ISO 8601</source>
+        <translation>„start“ muss Datum und Uhrzeit nach ISO 8601 sein</translation>
+    </message>
+    <message>
+        <source>this is not a JSON object</source>
+        <translation>das ist kein JSON-Objekt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not one of %2</source>
+        <translation>„%1“ gehört nicht zu %2</translation>
+    </message>
+    <message>
+        <source>&quot;after&quot; must be a number of milliseconds, not below 0</source>
+        <translation>„after“ muss eine Anzahl von Millisekunden sein, nicht kleiner als 0</translation>
+    </message>
+    <message>
+        <source>the time is too long</source>
+        <translation>die Zeit ist zu lang</translation>
+    </message>
+    <message>
+        <source>the service &quot;%1&quot; is not one of %2</source>
+        <translation>der Dienst „%1“ gehört nicht zu %2</translation>
+    </message>
+    <message>
+        <source>the service %1 has no method &quot;%2&quot;</source>
+        <translation>der Dienst %1 hat keine Methode „%2“</translation>
+    </message>
+    <message>
+        <source>&quot;arguments&quot; must be an array</source>
+        <translation>„arguments“ muss ein Array sein</translation>
     </message>
 </context>
 <context>
@@ -243,7 +585,7 @@
     <name>EmulationManagementView</name>
     <message>
         <source>The sensors values will be reset using the smartphone 3D-model position. Do you want to continue?</source>
-        <translation>Die Sensorwerte werden nach der Lage des 3D-Modells neu gesetzt. Möchten Sie fortfahren?</translation>
+        <translation>Die Sensorwerte werden anhand der Lage des 3D-Modells neu gesetzt. Möchten Sie fortfahren?</translation>
     </message>
     <message>
         <source>Sensors Management</source>
@@ -264,6 +606,10 @@
     <message>
         <source>Camera Management</source>
         <translation>Kameraverwaltung</translation>
+    </message>
+    <message>
+        <source>A recording is playing. This window sends its values again when the recording ends.</source>
+        <translation>Eine Aufzeichnung wird abgespielt. Wenn sie endet, sendet dieses Fenster seine Werte erneut.</translation>
     </message>
 </context>
 <context>
@@ -418,7 +764,7 @@
     </message>
     <message>
         <source>A number from %1 to %2 with at most %3 decimals after a point</source>
-        <translation>Eine Zahl von %1 bis %2 mit höchstens %3 Stellen nach dem Punkt</translation>
+        <translation>Eine Zahl von %1 bis %2 mit Dezimalpunkt und höchstens %3 Nachkommastellen</translation>
     </message>
 </context>
 <context>
@@ -490,6 +836,17 @@
     </message>
 </context>
 <context>
+    <name>SensorAxes</name>
+    <message>
+        <source>Sensor axes</source>
+        <translation>Achsen der Sensoren</translation>
+    </message>
+    <message>
+        <source>Gravity g, field B</source>
+        <translation>Schwere g, Feld B</translation>
+    </message>
+</context>
+<context>
     <name>SensorsManagementPage</name>
     <message>
         <source>Accelerometer</source>
@@ -550,12 +907,12 @@
 <context>
     <name>SmartphoneModelArea</name>
     <message>
-        <source>Arrow keys turn about X and Z, with Shift about Y. Hold Ctrl to move.</source>
-        <translation>Pfeiltasten drehen um X und Z, mit der Umschalttaste um Y. Zum Bewegen Strg gedrückt halten.</translation>
+        <source>Drag or press arrow keys to move along X and Y, roll the wheel for Z.</source>
+        <translation>Ziehen und Pfeiltasten bewegen entlang X und Y, das Mausrad entlang Z.</translation>
     </message>
     <message>
-        <source>Drag or press arrow keys to move along X and Y, roll the wheel for Z.</source>
-        <translation>Ziehen oder Pfeiltasten bewegen entlang X und Y, das Mausrad entlang Z.</translation>
+        <source>Drag to turn, double-click to set upright. Arrow keys turn about X and Z, with Shift about Y. Hold Ctrl to move.</source>
+        <translation>Ziehen dreht, Doppelklick stellt aufrecht. Pfeiltasten drehen um X und Z, mit der Umschalttaste um Y. Zum Bewegen Strg gedrückt halten.</translation>
     </message>
 </context>
 <context>
@@ -591,6 +948,40 @@
     <message>
         <source>Z</source>
         <translation>Z</translation>
+    </message>
+    <message>
+        <source>Arrow keys turn it, with Ctrl they move it</source>
+        <translation>Pfeiltasten drehen es, mit Strg bewegen sie es</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+</context>
+<context>
+    <name>SmartphoneScene</name>
+    <message>
+        <source>The device is drawn as a box, because the file &quot;%1&quot; cannot be read.</source>
+        <translation>Das Gerät wird als Quader dargestellt, weil die Datei „%1“ nicht gelesen werden kann.</translation>
+    </message>
+    <message>
+        <source>The device is drawn as a box, because the file &quot;%1&quot; is too large to draw.</source>
+        <translation>Das Gerät wird als Quader dargestellt, weil die Datei „%1“ für die Darstellung zu groß ist.</translation>
+    </message>
+    <message>
+        <source>The device is drawn as a box, because the file &quot;%1&quot; contains no mesh.</source>
+        <translation>Das Gerät wird als Quader dargestellt, weil die Datei „%1“ kein Polygonnetz enthält.</translation>
+    </message>
+    <message>
+        <source>The device is drawn as a box, because the file &quot;%1&quot; contains no image.</source>
+        <translation>Das Gerät wird als Quader dargestellt, weil die Datei „%1“ kein Bild enthält.</translation>
+    </message>
+</context>
+<context>
+    <name>StreamPreviewArea</name>
+    <message>
+        <source>Preview of the stream</source>
+        <translation>Vorschau der Übertragung</translation>
     </message>
 </context>
 <context>
@@ -639,7 +1030,7 @@
     </message>
     <message>
         <source>Reading the track file</source>
-        <translation>Lesen der Trackdatei</translation>
+        <translation>Trackdatei wird gelesen</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -655,6 +1046,13 @@
     <message>
         <source>Track progress</source>
         <translation>Fortschritt</translation>
+    </message>
+</context>
+<context>
+    <name>TrackShape</name>
+    <message>
+        <source>Shape of the track</source>
+        <translation>Verlauf des Tracks</translation>
     </message>
 </context>
 <context>

@@ -90,7 +90,7 @@
     </message>
     <message>
         <source>no pictures</source>
-        <translation>нет изображений</translation>
+        <translation>нет изображения</translation>
     </message>
     <message>
         <source>%1 frames/s, %2x%3</source>
@@ -166,6 +166,67 @@
     </message>
 </context>
 <context>
+    <name>EmulationManagement::Internal::CallLogModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Время</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>Служба</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Метод</translation>
+    </message>
+    <message>
+        <source>Arguments</source>
+        <translation>Аргументы</translation>
+    </message>
+    <message>
+        <source>Reply</source>
+        <translation>Ответ</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>мс</translation>
+    </message>
+</context>
+<context>
+    <name>EmulationManagement::Internal::CallTexts</name>
+    <message>
+        <source>%1… (%2 characters, which the log does not keep)</source>
+        <translation>%1… (символов: %2, в журнале не хранятся)</translation>
+    </message>
+    <message>
+        <source>lost with the connection</source>
+        <translation>потерян при обрыве соединения</translation>
+    </message>
+    <message>
+        <source>not sent, because the link was down</source>
+        <translation>не отправлен: не было соединения</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>выполнен</translation>
+    </message>
+</context>
+<context>
+    <name>EmulationManagement::Internal::CameraPlayback</name>
+    <message>
+        <source>There is no video file &quot;%1&quot;.</source>
+        <translation>Видеофайл «%1» не найден.</translation>
+    </message>
+    <message>
+        <source>The video file &quot;%1&quot; cannot be streamed.</source>
+        <translation>Не удалось начать трансляцию видеофайла «%1».</translation>
+    </message>
+    <message>
+        <source>There is no camera &quot;%1&quot;.</source>
+        <translation>Камера «%1» не найдена.</translation>
+    </message>
+</context>
+<context>
     <name>EmulationManagement::Internal::EmulationManagementPlugin</name>
     <message>
         <source>Emulation Management</source>
@@ -207,12 +268,293 @@
         <source>Reading Track File</source>
         <translation>Чтение файла трека</translation>
     </message>
+    <message>
+        <source>camera: %1 x %2 pixels, %3 frames a second</source>
+        <translation>камера: %1 x %2 пикс., %3 кадр/с</translation>
+    </message>
+</context>
+<context>
+    <name>EmulationManagement::Internal::EmulationOutputPane</name>
+    <message>
+        <source>Emulation</source>
+        <translation>Эмуляция</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Записать</translation>
+    </message>
+    <message>
+        <source>Save What the Log Holds as a Recording…</source>
+        <translation>Сохранить содержимое журнала как запись…</translation>
+    </message>
+    <message>
+        <source>Play…</source>
+        <translation>Воспроизвести…</translation>
+    </message>
+    <message>
+        <source>Play a Recording…</source>
+        <translation>Воспроизвести запись…</translation>
+    </message>
+    <message>
+        <source>Calls of the emulator</source>
+        <translation>Вызовы эмулятора</translation>
+    </message>
+    <message>
+        <source>not sent, because the link was down</source>
+        <translation>не отправлен: не было соединения</translation>
+    </message>
+    <message>
+        <source>%L1 calls, %L2 refused, %L3 lost, %L4 not sent; %L5/s; median %6 ms, 99 % %7 ms</source>
+        <translation>Вызовов: %L1, отклонено: %L2, потеряно: %L3, не отправлено: %L4; %L5/с; медиана: %6 мс, 99 %: %7 мс</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копировать</translation>
+    </message>
+    <message>
+        <source>Copy as CSV</source>
+        <translation>Копировать как CSV</translation>
+    </message>
+    <message>
+        <source>Copy as emulationctl Commands</source>
+        <translation>Копировать как команды emulationctl</translation>
+    </message>
+    <message>
+        <source>Save Selection as a Recording…</source>
+        <translation>Сохранить выделенное как запись…</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Выделить всё</translation>
+    </message>
+    <message>
+        <source>Recordings (*%1)</source>
+        <translation>Записи (*%1)</translation>
+    </message>
+    <message>
+        <source>Play a Recording</source>
+        <translation>Воспроизвести запись</translation>
+    </message>
+    <message>
+        <source>The recording &quot;%1&quot; cannot be played. %2</source>
+        <translation>Не удалось воспроизвести запись «%1». %2</translation>
+    </message>
+    <message>
+        <source>Save as a Recording</source>
+        <translation>Сохранить как запись</translation>
+    </message>
+    <message>
+        <source>The recording &quot;%1&quot; was not saved: %2</source>
+        <translation>Запись «%1» не сохранена: %2</translation>
+    </message>
+    <message>
+        <source>The recording &quot;%1&quot; has %L2 calls.</source>
+        <translation>Вызовов в записи «%1»: %L2.</translation>
+    </message>
+    <message>
+        <source>%L1 were left out, because they were not sent or the log does not keep all of them.</source>
+        <translation>Пропущено: %L1 (не отправлены или хранятся в журнале не полностью).</translation>
+    </message>
+    <message>
+        <source>Stop Recording</source>
+        <translation>Остановить запись</translation>
+    </message>
+    <message>
+        <source>Record…</source>
+        <translation>Записать…</translation>
+    </message>
+    <message>
+        <source>Recording to %1</source>
+        <translation>Запись в %1</translation>
+    </message>
+    <message>
+        <source>Record what is sent to the emulator</source>
+        <translation>Записывать то, что отправляется в эмулятор</translation>
+    </message>
+    <message>
+        <source>The recording &quot;%1&quot; cannot be written: %2</source>
+        <translation>Не удаётся сохранить запись «%1»: %2</translation>
+    </message>
+    <message>
+        <source>The recording &quot;%1&quot; is incomplete: %2</source>
+        <translation>Запись «%1» неполная: %2</translation>
+    </message>
+</context>
+<context>
+    <name>EmulationManagement::Internal::MethodArguments</name>
+    <message>
+        <source>a whole number</source>
+        <translation>целое число</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>число</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true или false</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>текст</translation>
+    </message>
+    <message>
+        <source>an array of points, each an array of latitude, longitude, altitude and interval</source>
+        <translation>массив точек (каждая — массив из широты, долготы, высоты и интервала)</translation>
+    </message>
+    <message>
+        <source>one of %1</source>
+        <translation>одно из %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>от %1 до %2</translation>
+    </message>
+    <message>
+        <source>at least %1</source>
+        <translation>не менее %1</translation>
+    </message>
+    <message>
+        <source>%1 has another number of arguments: %2</source>
+        <translation>у %1 другое число аргументов: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 must be %3, not %4</source>
+        <translation>%1 в %2: ожидается %3, а не %4</translation>
+    </message>
 </context>
 <context>
     <name>EmulationManagement::Internal::OpeningProgress</name>
     <message>
         <source>Opening Emulation Management</source>
-        <translation>Открытие управления эмуляцией</translation>
+        <translation>Открытие окна управления эмуляцией</translation>
+    </message>
+</context>
+<context>
+    <name>EmulationManagement::Internal::PlaybackBar</name>
+    <message>
+        <source>Send the Next Call</source>
+        <translation>Отправить следующий вызов</translation>
+    </message>
+    <message>
+        <source>Time of the recording</source>
+        <translation>Время записи</translation>
+    </message>
+    <message>
+        <source>%1x</source>
+        <comment>speed</comment>
+        <translation>%1x</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Скорость</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Зациклить</translation>
+    </message>
+    <message>
+        <source>Wait for the link</source>
+        <translation>Ждать соединения</translation>
+    </message>
+    <message>
+        <source>Go on when a lost link is there again, instead of stopping</source>
+        <translation>При обрыве соединения не останавливаться, а продолжить после его восстановления</translation>
+    </message>
+    <message>
+        <source>Sensors</source>
+        <translation>Датчики</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Местоположение</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Камера</translation>
+    </message>
+    <message>
+        <source>Stop and Close the Recording</source>
+        <translation>Остановить и закрыть запись</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Приостановить</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Воспроизвести</translation>
+    </message>
+    <message>
+        <source>%L1 sent, %L2 refused, %L3 lost, latest %4 ms</source>
+        <translation>отправлено: %L1, отклонено: %L2, потеряно: %L3, макс. опоздание: %4 мс</translation>
+    </message>
+</context>
+<context>
+    <name>EmulationManagement::Internal::Recording</name>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>Не удалось прочитать файл: %1</translation>
+    </message>
+    <message>
+        <source>Line %1 is incomplete and was left out.</source>
+        <translation>Строка %1 неполная и пропущена.</translation>
+    </message>
+    <message>
+        <source>Line %1: %2.</source>
+        <translation>Строка %1: %2.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Файл пуст.</translation>
+    </message>
+    <message>
+        <source>this is not the header of a recording, which has the format &quot;%1&quot;</source>
+        <translation>это не заголовок записи в формате «%1»</translation>
+    </message>
+    <message>
+        <source>the version %1 is later than %2, the last one that is known</source>
+        <translation>версия %1 новее последней известной версии %2</translation>
+    </message>
+    <message>
+        <source>the version must be %1</source>
+        <translation>версия должна быть %1</translation>
+    </message>
+    <message>
+        <source>the unit of time must be &quot;ms&quot;</source>
+        <translation>единицей времени должна быть «ms»</translation>
+    </message>
+    <message>
+        <source>the start must be a date and a time of ISO 8601</source>
+        <translation>«start» — не дата и время в формате ISO 8601</translation>
+    </message>
+    <message>
+        <source>this is not a JSON object</source>
+        <translation>это не объект JSON</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not one of %2</source>
+        <translation>«%1» — не одно из %2</translation>
+    </message>
+    <message>
+        <source>&quot;after&quot; must be a number of milliseconds, not below 0</source>
+        <translation>«after» должно быть числом миллисекунд не меньше 0</translation>
+    </message>
+    <message>
+        <source>the time is too long</source>
+        <translation>слишком большое время</translation>
+    </message>
+    <message>
+        <source>the service &quot;%1&quot; is not one of %2</source>
+        <translation>служба «%1» — не одна из %2</translation>
+    </message>
+    <message>
+        <source>the service %1 has no method &quot;%2&quot;</source>
+        <translation>у службы %1 нет метода «%2»</translation>
+    </message>
+    <message>
+        <source>&quot;arguments&quot; must be an array</source>
+        <translation>«arguments» должно быть массивом</translation>
     </message>
 </context>
 <context>
@@ -264,6 +606,10 @@
     <message>
         <source>Camera Management</source>
         <translation>Управление камерой</translation>
+    </message>
+    <message>
+        <source>A recording is playing. This window sends its values again when the recording ends.</source>
+        <translation>Воспроизводится запись. Когда она закончится, это окно снова отправит свои значения.</translation>
     </message>
 </context>
 <context>
@@ -347,7 +693,7 @@
     </message>
     <message>
         <source>Only sizes up to %1x%1 can be streamed.</source>
-        <translation>Передавать можно только размеры до %1x%1.</translation>
+        <translation>Транслировать можно только размеры до %1x%1.</translation>
     </message>
 </context>
 <context>
@@ -399,7 +745,7 @@
     </message>
     <message>
         <source>Discard</source>
-        <translation>Отменить</translation>
+        <translation>Не применять</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -490,6 +836,17 @@
     </message>
 </context>
 <context>
+    <name>SensorAxes</name>
+    <message>
+        <source>Sensor axes</source>
+        <translation>Оси датчиков</translation>
+    </message>
+    <message>
+        <source>Gravity g, field B</source>
+        <translation>Тяжесть g, поле B</translation>
+    </message>
+</context>
+<context>
     <name>SensorsManagementPage</name>
     <message>
         <source>Accelerometer</source>
@@ -550,12 +907,12 @@
 <context>
     <name>SmartphoneModelArea</name>
     <message>
-        <source>Arrow keys turn about X and Z, with Shift about Y. Hold Ctrl to move.</source>
-        <translation>Стрелки поворачивают вокруг X и Z, с Shift — вокруг Y. Для перемещения удерживайте Ctrl.</translation>
-    </message>
-    <message>
         <source>Drag or press arrow keys to move along X and Y, roll the wheel for Z.</source>
         <translation>Перетаскивание и стрелки перемещают вдоль X и Y, колесо мыши — вдоль Z.</translation>
+    </message>
+    <message>
+        <source>Drag to turn, double-click to set upright. Arrow keys turn about X and Z, with Shift about Y. Hold Ctrl to move.</source>
+        <translation>Перетаскивание поворачивает, двойной щелчок возвращает вертикальное положение. Стрелки поворачивают вокруг X и Z, с Shift — вокруг Y. Для перемещения удерживайте Ctrl.</translation>
     </message>
 </context>
 <context>
@@ -591,6 +948,40 @@
     <message>
         <source>Z</source>
         <translation>Z</translation>
+    </message>
+    <message>
+        <source>Arrow keys turn it, with Ctrl they move it</source>
+        <translation>Стрелки поворачивают его, с Ctrl — перемещают</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Устройство</translation>
+    </message>
+</context>
+<context>
+    <name>SmartphoneScene</name>
+    <message>
+        <source>The device is drawn as a box, because the file &quot;%1&quot; cannot be read.</source>
+        <translation>Устройство показано как параллелепипед: не удалось прочитать файл «%1».</translation>
+    </message>
+    <message>
+        <source>The device is drawn as a box, because the file &quot;%1&quot; is too large to draw.</source>
+        <translation>Устройство показано как параллелепипед: файл «%1» слишком велик для отображения.</translation>
+    </message>
+    <message>
+        <source>The device is drawn as a box, because the file &quot;%1&quot; contains no mesh.</source>
+        <translation>Устройство показано как параллелепипед: в файле «%1» нет полигональной сетки.</translation>
+    </message>
+    <message>
+        <source>The device is drawn as a box, because the file &quot;%1&quot; contains no image.</source>
+        <translation>Устройство показано как параллелепипед: в файле «%1» нет изображения.</translation>
+    </message>
+</context>
+<context>
+    <name>StreamPreviewArea</name>
+    <message>
+        <source>Preview of the stream</source>
+        <translation>Предпросмотр трансляции</translation>
     </message>
 </context>
 <context>
@@ -658,6 +1049,13 @@
     </message>
 </context>
 <context>
+    <name>TrackShape</name>
+    <message>
+        <source>Shape of the track</source>
+        <translation>Форма трека</translation>
+    </message>
+</context>
+<context>
     <name>TrackTable</name>
     <message>
         <source>No.</source>
@@ -696,7 +1094,7 @@
     </message>
     <message>
         <source>Incorrect NMEA file</source>
-        <translation>Неверный файл NMEA</translation>
+        <translation>Некорректный файл NMEA</translation>
     </message>
     <message>
         <source>NMEA file has only empty lines</source>
