@@ -21,10 +21,11 @@ static QString language()
     return ExtensionSystem::PluginManager::settings()->value("General/OverrideLanguage").toString();
 }
 
-/// Whether a text is the same in every language: a number, or an enumerator that apps use.
+/// Whether a text is the same in every language: a number, the symbol of an axis or a vector, or an
+/// enumerator that apps use.
 static bool isData(const QString &text)
 {
-    static const QRegularExpression data("^([-0-9., =%x/]*|…|Undefined|Light|TopUp)$");
+    static const QRegularExpression data("^([-0-9., =%x/]*|[XYZgB]|…|Undefined|Light|TopUp)$");
     return data.match(text).hasMatch();
 }
 
