@@ -839,11 +839,11 @@
     <name>SensorAxes</name>
     <message>
         <source>Sensor axes</source>
-        <translation>Achsen der Sensoren</translation>
+        <translation>Sensor-Achsen</translation>
     </message>
     <message>
         <source>Gravity g, field B</source>
-        <translation>Schwere g, Feld B</translation>
+        <translation>Feld B, Schwere g</translation>
     </message>
 </context>
 <context>

@@ -843,7 +843,7 @@
     </message>
     <message>
         <source>Gravity g, field B</source>
-        <translation>Тяжесть g, поле B</translation>
+        <translation>Поле B, тяжесть g</translation>
     </message>
 </context>
 <context>
