@@ -487,7 +487,7 @@
     </message>
     <message>
         <source>%L1 sent, %L2 refused, %L3 lost, latest %4 ms</source>
-        <translation>gesendet: %L1, abgelehnt: %L2, verloren: %L3, max. Verspätung: %4 ms</translation>
+        <translation>%L1 gesendet, %L2 abgelehnt, %L3 verloren, max. %4 ms zu spät</translation>
     </message>
 </context>
 <context>

@@ -487,7 +487,7 @@
     </message>
     <message>
         <source>%L1 sent, %L2 refused, %L3 lost, latest %4 ms</source>
-        <translation>отправлено: %L1, отклонено: %L2, потеряно: %L3, макс. опоздание: %4 мс</translation>
+        <translation>отправлено %L1, отклонено %L2, потеряно %L3, опоздание до %4 мс</translation>
     </message>
 </context>
 <context>
