@@ -31,8 +31,8 @@ QString CallTexts::arguments(const LoggedCall &call)
     static constexpr qsizetype shown = 200; // characters of a shortened text
     if (call.omitted > 0) {
         return tr("%1… (%2 characters, which the log does not keep)")
-            .arg(call.arguments.first(shown))
-            .arg(call.arguments.size() + call.omitted);
+            .arg(call.arguments.first(shown),
+                 QString::number(call.arguments.size() + call.omitted));
     }
     return call.method ? MethodArguments::description(*call.method, call.arguments)
                        : call.arguments;

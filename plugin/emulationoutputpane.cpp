@@ -24,6 +24,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QLocale>
 #include <QMenu>
 #include <QRegularExpression>
 #include <QScrollBar>
@@ -441,7 +442,8 @@ void EmulationOutputPane::saveRecording(const QList<const LoggedCall *> &calls)
                 tr("The recording \"%1\" was not saved: %2").arg(path, error));
             return;
         }
-        QString message = tr("The recording \"%1\" has %L2 calls.").arg(path).arg(saved.calls);
+        QString message
+            = tr("The recording \"%1\" has %L2 calls.").arg(path, QLocale().toString(saved.calls));
         if (saved.leftOut > 0) {
             message
                 += u' '
@@ -492,8 +494,8 @@ void EmulationOutputPane::stopRecording()
     m_writer.reset();
     updateRecordButton();
     if (error.isEmpty()) {
-        Core::MessageManager::writeFlashing(
-            tr("The recording \"%1\" has %L2 calls.").arg(m_recordingPath).arg(count));
+        Core::MessageManager::writeFlashing(tr("The recording \"%1\" has %L2 calls.")
+                                                .arg(m_recordingPath, QLocale().toString(count)));
     } else {
         Core::MessageManager::writeDisrupting(
             tr("The recording \"%1\" is incomplete: %2").arg(m_recordingPath, error));

@@ -62,6 +62,7 @@ PlaybackBar::PlaybackBar(RecordingPlayer *player, const CallLog *log, QWidget *p
         showPosition();
     });
     layout->addWidget(m_time, 1);
+    m_time->setMinimumWidth(80); // the texts beside it may be long
     m_time->setAccessibleName(tr("Time of the recording"));
     connect(m_time, &QSlider::actionTriggered, this, [this] {
         m_player->seek(milliseconds(m_time->sliderPosition()));
