@@ -50,6 +50,10 @@ void TcpForwarder::acceptConnections()
 {
     while (QTcpSocket *client = m_server.nextPendingConnection()) {
         auto *guest = new QTcpSocket(client);
+        // Otherwise TCP holds back a short message until the one before was acknowledged.
+        client->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+        connect(guest, &QTcpSocket::connected, guest,
+                [guest] { guest->setSocketOption(QAbstractSocket::LowDelayOption, 1); });
         forward(client, guest);
         forward(guest, client);
         connect(guest, &QTcpSocket::errorOccurred, client, [client, guest] {

@@ -36,6 +36,8 @@ void RemoteDBusInvokerService::createWebSocket()
     webSocket->setMaxAllowedIncomingFrameSize(maxReplySize);
     webSocket->setMaxAllowedIncomingMessageSize(maxReplySize);
     connect(webSocket, &QWebSocket::connected, this, [this] {
+        // Otherwise TCP holds back a short request until the one before was acknowledged.
+        openSocket()->setSocketOption(QAbstractSocket::LowDelayOption, 1);
         m_sinceConnected.start();
         Q_EMIT webSocketConnected();
     });
@@ -108,13 +110,19 @@ void RemoteDBusInvokerService::sendRequest(const QString &request)
     scheduleFrame();
 }
 
+// Returns the socket below the WebSocket: the newest, because that of the last connection may not
+// have been deleted yet.
+QAbstractSocket *RemoteDBusInvokerService::openSocket() const
+{
+    return m_webSocket->findChildren<QAbstractSocket *>().constLast();
+}
+
 void RemoteDBusInvokerService::sendFrame()
 {
     TextMessage &request = m_waitingRequests.front();
     if (!request.isBegun())
         Q_EMIT requestSent(request.text());
-    // The newest, because the socket of the last connection may not have been deleted yet.
-    QAbstractSocket *socket = m_webSocket->findChildren<QAbstractSocket *>().constLast();
+    QAbstractSocket *socket = openSocket();
     request.writeFrame(*socket);
     if (request.isWritten())
         m_waitingRequests.pop_front();

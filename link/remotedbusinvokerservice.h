@@ -88,6 +88,7 @@ Q_SIGNALS:
 private:
     void createWebSocket();
     void handleDisconnected();
+    [[nodiscard]] QAbstractSocket *openSocket() const;
     void sendFrame();
     void scheduleFrame();
 
