@@ -5,6 +5,8 @@
 #include <link/methodarguments.h>
 #include <link/recording.h>
 
+#include <algorithm>
+
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -28,6 +30,15 @@ static void selectCamera(CameraEmulationManager &manager, const QString &name,
         manager.setFramerate(framerate);
 }
 
+void CameraPlayback::prepare(CameraEmulationManager &manager, const Recording &recording)
+{
+    const ServiceMethod *start = findMethod(cameraService, u"startCamera");
+    const auto &calls = recording.calls();
+    if (manager.cameras().isEmpty()
+        && std::ranges::find(calls, start, &RecordedCall::method) != calls.end())
+        manager.setupCameraStreamPipeline();
+}
+
 QString CameraPlayback::play(CameraEmulationManager &manager, const RecordedCall &call)
 {
     const QJsonArray values = MethodArguments::toJson(*call.method, call.arguments);
@@ -44,7 +55,8 @@ QString CameraPlayback::play(CameraEmulationManager &manager, const RecordedCall
                    ? QString()
                    : tr("The video file \"%1\" cannot be streamed.").arg(name);
     }
-    manager.setupCameraStreamPipeline(); // reads the cameras
+    if (!manager.cameras().contains(name))
+        manager.setupCameraStreamPipeline(); // reads the cameras
     if (!manager.cameras().contains(name))
         return tr("There is no camera \"%1\".").arg(name);
     selectCamera(manager, name, values);
