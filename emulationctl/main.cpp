@@ -54,7 +54,7 @@ int main(int argc, char **argv)
     else if (line->command == u"info"_s)
         return describeRecording(*line);
     else if (line->command == u"move"_s)
-        result = moveRecording(*line, &error);
+        result = moveFile(*line, &error);
     else
         return runCalls(*line);
     if (result)

@@ -8,7 +8,8 @@
 
 #include <link/recording.h>
 #include <link/recordingplayer.h>
-#include <link/recordingwriter.h>
+
+#include <location/movedcopy.h>
 
 #include <QCoreApplication>
 #include <QFile>
@@ -18,7 +19,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <memory>
 
 using namespace EmulationManagement::Internal;
 using namespace Qt::StringLiterals;
@@ -129,6 +129,7 @@ public:
         : m_session(session)
         , m_player(&session.link())
     {
+        CameraPlayback::prepare(m_camera, recording);
         m_player.setRecording(std::move(recording));
         m_player.setRate(options.rate);
         if (!options.services.empty())
@@ -177,9 +178,7 @@ public:
 private:
     void playCameraCall(const RecordedCall &call)
     {
-        if (!m_camera)
-            m_camera = std::make_unique<CameraEmulationManager>();
-        const QString error = CameraPlayback::play(*m_camera, call);
+        const QString error = CameraPlayback::play(m_camera, call);
         if (error.isEmpty())
             return;
         complain(error);
@@ -194,7 +193,7 @@ private:
 
     Session &m_session;
     RecordingPlayer m_player;
-    std::unique_ptr<CameraEmulationManager> m_camera;
+    CameraEmulationManager m_camera;
     Interruption m_interruption;
 };
 
@@ -246,7 +245,7 @@ int describeRecording(const CommandLine &line)
     return Success;
 }
 
-std::optional<int> moveRecording(const CommandLine &line, QString *error)
+std::optional<int> moveFile(const CommandLine &line, QString *error)
 {
     const std::optional<Place> place
         = parsePlace(line.arguments.at(1) + u',' + line.arguments.at(2));
@@ -255,20 +254,17 @@ std::optional<int> moveRecording(const CommandLine &line, QString *error)
                                                                    line.arguments.at(2));
         return std::nullopt;
     }
-    Recording recording = readRecording(line.arguments.constFirst());
-    if (!recording.error().isEmpty())
-        return WrongUse;
-    recording.movePositions(*place);
+    const QString path = line.arguments.constFirst();
+    QFile input(path);
+    const bool isOpen
+        = path == u"-"_s ? input.open(stdin, QIODevice::ReadOnly) : input.open(QIODevice::ReadOnly);
     QFile output;
     if (!output.open(stdout, QIODevice::WriteOnly))
         return WrongUse;
-    output.write(RecordingWriter::headerLine(recording.start()));
-    std::chrono::microseconds last{};
-    for (const RecordedCall &call : recording.calls()) {
-        output.write(RecordingWriter::callLine(call.time - last, *call.method, call.arguments));
-        last = call.time;
-    }
-    return output.flush() ? Success : WrongUse;
+    const QString mistake = isOpen ? MovedCopy::write(input, *place, output) : input.errorString();
+    if (!mistake.isEmpty())
+        complain((path == u"-"_s ? u"Standard input"_s : path) + u": "_s + mistake);
+    return mistake.isEmpty() && output.flush() ? Success : WrongUse;
 }
 
 } // namespace EmulationCtl

@@ -16,6 +16,6 @@ namespace EmulationCtl {
 // wrong: \a error says why.
 [[nodiscard]] std::optional<int> playRecording(const CommandLine &line, QString *error);
 [[nodiscard]] int describeRecording(const CommandLine &line);
-[[nodiscard]] std::optional<int> moveRecording(const CommandLine &line, QString *error);
+[[nodiscard]] std::optional<int> moveFile(const CommandLine &line, QString *error);
 
 } // namespace EmulationCtl

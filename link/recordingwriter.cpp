@@ -116,6 +116,16 @@ RecordingWriter::Saved RecordingWriter::save(const QString &path,
     return saved;
 }
 
+void RecordingWriter::write(const Recording &recording, QIODevice &device)
+{
+    device.write(headerLine(recording.start()));
+    std::chrono::microseconds last{};
+    for (const RecordedCall &call : recording.calls()) {
+        device.write(callLine(call.time - last, *call.method, call.arguments));
+        last = call.time;
+    }
+}
+
 void RecordingWriter::write(const QByteArray &line)
 {
     if (m_error.isEmpty() && m_file.write(line) != line.size())

@@ -52,6 +52,8 @@ public:
     static Saved save(const QString &path, const std::vector<LoggedCall> &calls, const CallLog &log,
                       QString *error);
 
+    /// Writes a whole recording. A failure shows when \a device is flushed.
+    static void write(const Recording &recording, QIODevice &device);
     /// Returns the lines of a recording.
     [[nodiscard]] static QByteArray headerLine(const QDateTime &start);
     [[nodiscard]] static QByteArray callLine(std::chrono::microseconds after,

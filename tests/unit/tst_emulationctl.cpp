@@ -72,6 +72,11 @@ static constexpr Command commandLines[] = {
      "^10 calls in 1\\.036 s, recorded at 2026-11-22T08:00:00\\.000Z\n +3  location goToPos"},
     {"home not moved away", "move SESSION 10 20", 0, "",
      "\\[\\[\\[10,20,12\\.5,0\\],\\[10\\.001,20,12\\.5,500\\]"},
+    {"wrong half of the earth or checksum", "move TRACK -33.5 -70", 0, "",
+     "^\\$GPGGA,120000.00,3330.00000,S,07000.00000,W,1,08,0.9,12.5,M,17.0,M,,\\*55\r\n"
+     "\\$GPRMC,120000.00,A,3330.00000,S,07000.00000,W,"},
+    {"lines that tell the place", "move TRACK 10 20", 0, "", "^(\\$GP(GGA|RMC|GLL),[^$]*)+$"},
+    {"neither of both", "move /etc/passwd 10 20", 2, "", "neither a recording nor a track"},
     {"speed of 6", "track x.nmea --speed 6", 2, "", "--speed must be 1 to 5, not 6"},
 };
 
@@ -126,6 +131,7 @@ private Q_SLOTS:
         QProcess process;
         QString arguments = QString::fromLatin1(row->arguments);
         arguments.replace(u"SESSION"_s, QStringLiteral(DOCUMENTS "/session.emulation.jsonl"));
+        arguments.replace(u"TRACK"_s, QStringLiteral(DOCUMENTS "/lake.nmea"));
         arguments.replace(u"BAD"_s, QStringLiteral(TEST_DATA "/bad-lines.jsonl"));
         start(process, arguments.split(u' ', Qt::SkipEmptyParts));
         QVERIFY(process.waitForFinished());
