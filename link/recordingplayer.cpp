@@ -149,11 +149,15 @@ void RecordingPlayer::stop()
 
 void RecordingPlayer::step()
 {
+    if (m_state == State::Playing || !m_link->isConnected())
+        return;
     const std::vector<RecordedCall> &calls = m_recording.calls();
     while (m_next < calls.size() && !isChosen(calls[m_next]))
         ++m_next;
-    if (m_state == State::Playing || m_next == calls.size() || !m_link->isConnected())
+    if (m_next == calls.size()) {
+        end();
         return;
+    }
     setState(State::Paused);
     const RecordedCall &call = calls[m_next++];
     m_position = call.time;
@@ -166,6 +170,8 @@ void RecordingPlayer::seek(microseconds time)
     time = std::clamp(time, microseconds(), m_recording.duration());
     const auto next = std::ranges::lower_bound(calls, time, {}, &RecordedCall::time);
     m_next = std::size_t(next - calls.begin());
+    if (m_state == State::Stopped)
+        setState(State::Paused);
     if (m_link->isConnected()) {
         for (const std::size_t index : lastValues(m_next))
             send(calls[index]);
@@ -173,6 +179,12 @@ void RecordingPlayer::seek(microseconds time)
     startClock(time);
     if (m_timer.isActive())
         schedule();
+}
+
+void RecordingPlayer::end()
+{
+    stop();
+    Q_EMIT finished();
 }
 
 void RecordingPlayer::send(const RecordedCall &call)
@@ -249,8 +261,7 @@ void RecordingPlayer::schedule()
         schedule();
         return;
     }
-    stop();
-    Q_EMIT finished();
+    end();
 }
 
 void RecordingPlayer::handleConnectionLost()

@@ -64,16 +64,16 @@ public:
     void pause();
     /// Goes back to the start. Sends nothing.
     void stop();
-    /// Sends the next call while paused, and goes to its time.
+    /// Sends the next call unless playing, and goes to its time. After the last one it ends.
     void step();
-    /// Goes to a time and sends the last value of each method before it.
+    /// Goes to a time and sends the last value of each method before it. Pauses if stopped.
     void seek(std::chrono::microseconds time);
 
 Q_SIGNALS:
     void stateChanged();
     /// A call of the camera is due, see cameraService.
     void cameraCallDue(const EmulationManagement::Internal::RecordedCall &call);
-    /// The recording was played to its end.
+    /// The recording was played or stepped to its end.
     void finished();
     /// The link is down, which ends the play if that was chosen.
     void linkIsDown();
@@ -82,6 +82,7 @@ private:
     void setState(State state);
     void sendDueCalls();
     void schedule();
+    void end();
     void send(const RecordedCall &call);
     [[nodiscard]] bool isChosen(const RecordedCall &call) const;
     [[nodiscard]] std::vector<std::size_t> lastValues(std::size_t end) const;

@@ -118,10 +118,12 @@ EmulationPage {
     Connections {
         target: root.gpsManager
 
-        // A recording is played instead.
+        // A recording is played instead. Afterwards, the emulator is set up anew.
         function onSuspendedChanged() {
-            if (root.gpsManager.suspended && player.playing)
-                player.pause();
+            if (root.gpsManager.suspended)
+                player.hold();
+            else
+                Qt.callLater(player.restore, root.gpsManager.currentPositionIndex);
         }
 
         function onReplyFromEmulatorReceived(reply: string) {

@@ -3,6 +3,7 @@
 #include <coreplugin/actionmanager/actionmanager.h>
 #include <coreplugin/actionmanager/command.h>
 
+#include <gpspagedriver.h>
 #include <plugindriver.h>
 
 #include <waiting.h>
@@ -94,6 +95,7 @@ void OutputPaneTest::testCallsAndTheirFailures()
                               "org.vexa.Error.Broken It is broken"};
     });
     control("fail setAlsValue");
+    QMetaObject::invokeMethod(errorDialog(), "close");
 }
 
 void OutputPaneTest::testRecordingIsPlayedAndTheWindowRests()
@@ -124,6 +126,29 @@ void OutputPaneTest::testRecordingIsPlayedAndTheWindowRests()
     calls.removeIf([](const QString &call) { return !call.startsWith("setAlsValue"); });
     QCOMPARE(calls, (QStringList{"setAlsValue int32:11", "setAlsValue int32:12",
                                  "setAlsValue int32:13", "setAlsValue int32:15"}));
+}
+
+// The recording replaces the emulator's track.
+void OutputPaneTest::testTrackRestsAndGoesOn()
+{
+    const GpsPageDriver page(WindowDriver::waitForWindow("Emulation Management"));
+    page.openTrack(TEST_DATA "/gga.nmea");
+    page.clickTrackButton("Play");
+    const QString second = "goToPositionOnTrack int32:1";
+    JournalReader journal(journalPath());
+    journal.waitForCall(second, 0);
+    const qsizetype start = journal.position();
+    click("Play…");
+    chooseFile(DOCUMENTS "/session.emulation.jsonl");
+    journal.waitForCall("setTrackLooped boolean:0", start); // the window's values
+    const qsizetype end = journal.position();
+    journal.waitForCall("goToPositionOnTrack int32:2", end);
+    QStringList calls = journal.callsSince(end);
+    calls.removeIf([](const QString &call) { return !call.contains("Track"); });
+    calls.removeDuplicates();
+    calls.removeFirst(); // the upload
+    QCOMPARE(calls, (QStringList{"goToPositionOnTrack int32:1", "startTrack ",
+                                 "goToPositionOnTrack int32:2"}));
 }
 
 void OutputPaneTest::cleanupTestCase()

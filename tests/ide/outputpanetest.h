@@ -11,5 +11,6 @@ private Q_SLOTS:
     void initTestCase();
     void testCallsAndTheirFailures();
     void testRecordingIsPlayedAndTheWindowRests();
+    void testTrackRestsAndGoesOn();
     void cleanupTestCase();
 };

@@ -32,7 +32,7 @@ Item {
     readonly property int frame: 16
     // The time of the next step, by monotonicTime().
     property double dueTime: 0
-    // Whether playback continues when the user releases the handle of the progress slider.
+    // Whether playback continues after hold().
     property bool playingWhenHeld: false
 
     // Returns the time of a clock that nobody sets. A test overrides this.
@@ -91,16 +91,27 @@ Item {
 
     // Interrupts playback until release(), without a call to the emulator.
     function hold() {
-        playingWhenHeld = playing;
         if (!playing)
             return;
+        playingWhenHeld = true;
         trackTimer.stop();
         playback = TrackPlayer.Paused;
     }
 
     function release() {
-        if (playingWhenHeld)
+        if (playingWhenHeld && !gpsManager.suspended)
             start();
+    }
+
+    // Goes back to a row after the manager has set up the emulator anew, and goes on if hold() has
+    // interrupted playback. The emulator may have lost its track.
+    function restore(row: int) {
+        if (stopped || lastRow < 0)
+            return;
+        gpsManager.currentPositionIndex = row;
+        if (!gpsManager.trackLoaded)
+            goToCurrentRow();
+        release();
     }
 
     // Goes to a row that the user chose, even if it is already the current row.
