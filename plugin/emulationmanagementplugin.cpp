@@ -261,6 +261,9 @@ void EmulationManagementPlugin::setupOutputPane()
                 if (size.isValid() && text != std::exchange(last, text))
                     m_callLog.note(text);
             });
+    connect(pane, &EmulationOutputPane::recordingRead, this, [this](const Recording &recording) {
+        CameraPlayback::prepare(m_cameraEmulationManager, recording);
+    });
     connect(pane, &EmulationOutputPane::playingChanged, this,
             &EmulationManagementPlugin::handleRecordingPlaying);
     connect(pane, &EmulationOutputPane::cameraCallDue, this, [this](const RecordedCall &call) {
@@ -272,6 +275,8 @@ void EmulationManagementPlugin::setupOutputPane()
 
 void EmulationManagementPlugin::handleRecordingPlaying(bool playing)
 {
+    if (playing == m_sensorsEmulationManager.isSuspended())
+        return;
     m_sensorsEmulationManager.setSuspended(playing);
     m_gpsEmulationManager.setSuspended(playing);
     if (!playing && m_remoteDBusInvokerService.isConnected()) {

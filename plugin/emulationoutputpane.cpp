@@ -1,18 +1,18 @@
 #include "emulationoutputpane.h"
 
+#include "movebutton.h"
 #include "playbackbar.h"
+#include "playbutton.h"
+#include "recordbutton.h"
+#include "recordingfiles.h"
 
 #include <coreplugin/actionmanager/actionmanager.h>
 #include <coreplugin/actionmanager/command.h>
 #include <coreplugin/coreconstants.h>
 #include <coreplugin/icontext.h>
-#include <coreplugin/icore.h>
-#include <coreplugin/messagemanager.h>
 
 #include <link/calllog.h>
 #include <link/calltexts.h>
-#include <link/recording.h>
-#include <link/remotedbusinvokerservice.h>
 
 #include <utils/elidinglabel.h>
 #include <utils/itemviews.h>
@@ -21,17 +21,13 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QHeaderView>
-#include <QLocale>
 #include <QMenu>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QWheelEvent>
-#include <QtConcurrentRun>
 
 #include <algorithm>
 #include <chrono>
@@ -49,7 +45,6 @@ EmulationOutputPane::EmulationOutputPane(CallLog *log, RemoteDBusInvokerService 
                                          QObject *parent)
     : IOutputPane(parent)
     , m_log(log)
-    , m_link(link)
     , m_model(log)
     , m_player(link)
 {
@@ -70,37 +65,31 @@ EmulationOutputPane::EmulationOutputPane(CallLog *log, RemoteDBusInvokerService 
     });
     connect(&m_totalsTimer, &QTimer::timeout, this, &EmulationOutputPane::showTotals);
 
-    m_recordButton = new QToolButton;
-    m_recordButton->setText(tr("Record"));
-    m_recordButton->setCheckable(true);
-    connect(m_recordButton, &QToolButton::clicked, this, &EmulationOutputPane::toggleRecording);
+    m_recordButton = new RecordButton(link);
     m_saveButton = new QToolButton;
     m_saveButton->setIcon(Utils::Icons::SAVEFILE_TOOLBAR.icon());
     m_saveButton->setToolTip(tr("Save What the Log Holds as a Recording…"));
-    connect(m_saveButton, &QToolButton::clicked, this, [this] { saveRecording(allCalls()); });
-    m_playButton = new QToolButton;
-    m_playButton->setText(tr("Play…"));
-    m_playButton->setToolTip(tr("Play a Recording…"));
-    connect(m_playButton, &QToolButton::clicked, this, &EmulationOutputPane::askForRecording);
-    connect(&m_reading, &QFutureWatcherBase::finished, this, &EmulationOutputPane::playReading);
+    connect(m_saveButton, &QToolButton::clicked, this,
+            [this] { RecordingFiles::save(this, allCalls(), *m_log); });
+    m_playButton = new PlayButton;
+    connect(m_playButton, &PlayButton::recordingRead, this, &EmulationOutputPane::play);
+    m_moveButton = new MoveButton;
     connect(&m_player, &RecordingPlayer::cameraCallDue, this, &EmulationOutputPane::cameraCallDue);
     connect(&m_player, &RecordingPlayer::stateChanged, this,
-            [this] { Q_EMIT playingChanged(m_player.state() == RecordingPlayer::State::Playing); });
-    updateRecordButton();
+            [this] { Q_EMIT playingChanged(m_player.state() != RecordingPlayer::State::Stopped); });
 }
 
 EmulationOutputPane::~EmulationOutputPane()
 {
-    for (const QPointer<QWidget> &widget : QList<QPointer<QWidget>>{
-             m_widget.data(), m_recordButton.data(), m_playButton.data(), m_saveButton.data()})
-        delete widget.data();
+    delete m_widget;
+    qDeleteAll(toolBarButtons());
 }
 
 void EmulationOutputPane::addCameraCall(const ServiceMethod &method, const QString &arguments)
 {
     m_log->add(method, arguments);
-    if (m_writer)
-        m_writer->add(RecordingWriter::Clock::now(), method, arguments);
+    if (m_recordButton)
+        m_recordButton->addCameraCall(method, arguments);
 }
 
 QWidget *EmulationOutputPane::outputWidget(QWidget *parent)
@@ -115,10 +104,14 @@ QWidget *EmulationOutputPane::outputWidget(QWidget *parent)
     return m_widget;
 }
 
+QList<QWidget *> EmulationOutputPane::toolBarButtons() const
+{
+    return {m_recordButton, m_playButton, m_saveButton, m_moveButton};
+}
+
 QList<QWidget *> EmulationOutputPane::toolBarWidgets() const
 {
-    return QList<QWidget *>{m_recordButton, m_playButton, m_saveButton}
-           + IOutputPane::toolBarWidgets();
+    return toolBarButtons() + IOutputPane::toolBarWidgets();
 }
 
 void EmulationOutputPane::createView()
@@ -221,7 +214,7 @@ void EmulationOutputPane::showTotals()
     const CallLog::Totals &totals = m_log->totals();
     const CallLog::Latencies latencies = m_log->latencies();
     m_totals->setText(
-        tr("%L1 calls, %L2 refused, %L3 lost, %L4 not sent; %L5/s; median %6 ms, 99 % %7 ms")
+        tr("%L1 calls, %L2 refused, %L3 lost, %L4 not sent; %L5/s; median %L6 ms, 99 % %L7 ms")
             .arg(totals.calls)
             .arg(totals.refused)
             .arg(totals.lost)
@@ -313,26 +306,26 @@ void EmulationOutputPane::updateFilter()
         m_filtered.setFilterRegularExpression(expression);
 }
 
-QList<const LoggedCall *> EmulationOutputPane::selectedCalls() const
+std::vector<LoggedCall> EmulationOutputPane::selectedCalls() const
 {
     QList<int> rows;
     const QModelIndexList selection = m_view->selectionModel()->selectedRows();
     for (const QModelIndex &index : selection)
         rows.append(m_filtered.mapToSource(index).row());
     std::ranges::sort(rows);
-    QList<const LoggedCall *> calls;
+    std::vector<LoggedCall> calls;
     for (const int row : std::as_const(rows)) {
         if (const LoggedCall *call = m_model.callAt(row))
-            calls.append(call);
+            calls.push_back(*call);
     }
     return calls;
 }
 
-QList<const LoggedCall *> EmulationOutputPane::allCalls() const
+std::vector<LoggedCall> EmulationOutputPane::allCalls() const
 {
-    QList<const LoggedCall *> calls;
+    std::vector<LoggedCall> calls;
     for (qint64 serial = m_log->begin(); serial < m_log->end(); ++serial)
-        calls.append(&m_log->at(serial));
+        calls.push_back(m_log->at(serial));
     return calls;
 }
 
@@ -345,24 +338,24 @@ void EmulationOutputPane::copy(const QStringList &lines)
 void EmulationOutputPane::copyText()
 {
     QStringList lines;
-    for (const LoggedCall *call : selectedCalls())
-        lines.append(CallTexts::line(*m_log, *call));
+    for (const LoggedCall &call : selectedCalls())
+        lines.append(CallTexts::line(*m_log, call));
     copy(lines);
 }
 
 void EmulationOutputPane::copyCsv()
 {
     QStringList lines{CallTexts::csvHeader()};
-    for (const LoggedCall *call : selectedCalls())
-        lines.append(CallTexts::csvLine(*m_log, *call));
+    for (const LoggedCall &call : selectedCalls())
+        lines.append(CallTexts::csvLine(*m_log, call));
     copy(lines);
 }
 
 void EmulationOutputPane::copyCommands()
 {
     QStringList lines;
-    for (const LoggedCall *call : selectedCalls())
-        lines.append(CallTexts::command(*call));
+    for (const LoggedCall &call : selectedCalls())
+        lines.append(CallTexts::command(call));
     lines.removeAll({});
     copy(lines);
 }
@@ -378,128 +371,20 @@ void EmulationOutputPane::showContextMenu(const QPoint &position)
     add(tr("Copy as CSV"), &EmulationOutputPane::copyCsv);
     add(tr("Copy as emulationctl Commands"), &EmulationOutputPane::copyCommands);
     menu.addSeparator();
-    add(tr("Save Selection as a Recording…"), [this] { saveRecording(selectedCalls()); });
+    add(tr("Save Selection as a Recording…"),
+        [this] { RecordingFiles::save(this, selectedCalls(), *m_log); });
     menu.addSeparator();
     menu.addAction(tr("Select All"), m_view.data(), &QAbstractItemView::selectAll);
     menu.exec(m_view->viewport()->mapToGlobal(position));
 }
 
-// The dialog is not modal to this function: the log goes on.
-void EmulationOutputPane::askForFile(const QString &title,
-                                     const std::function<void(const QString &)> &use)
+void EmulationOutputPane::play(const Recording &recording)
 {
-    auto *dialog = new QFileDialog(Core::ICore::dialogParent(), title);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setNameFilter(tr("Recordings (*%1)").arg(Recording::fileSuffix));
-    dialog->setDefaultSuffix(Recording::fileSuffix.sliced(1));
-    connect(dialog, &QFileDialog::fileSelected, this, use);
-    dialog->open();
-}
-
-void EmulationOutputPane::askForRecording()
-{
-    auto *dialog = new QFileDialog(Core::ICore::dialogParent(), tr("Play a Recording"));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setFileMode(QFileDialog::ExistingFile);
-    dialog->setNameFilter(tr("Recordings (*%1)").arg(Recording::fileSuffix));
-    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &path) {
-        m_playingPath = path;
-        m_playButton->setEnabled(false);
-        m_reading.setFuture(QtConcurrent::run(&Recording::readFile, path));
-    });
-    dialog->open();
-}
-
-void EmulationOutputPane::playReading()
-{
-    m_playButton->setEnabled(true);
-    Recording recording = m_reading.future().takeResult();
-    if (!recording.error().isEmpty()) {
-        Core::MessageManager::writeDisrupting(
-            tr("The recording \"%1\" cannot be played. %2").arg(m_playingPath, recording.error()));
-        return;
-    }
-    if (!recording.warning().isEmpty())
-        Core::MessageManager::writeFlashing(m_playingPath + u": "_s + recording.warning());
-    m_player.setRecording(std::move(recording));
+    Q_EMIT recordingRead(recording);
+    m_player.setRecording(recording);
     popup(IOutputPane::NoModeSwitch);
     m_playbackBar->show();
     m_playbackBar->play();
-}
-
-void EmulationOutputPane::saveRecording(const QList<const LoggedCall *> &calls)
-{
-    // Copies, because the log may forget calls while the dialog is open. Texts are shared.
-    std::vector<LoggedCall> copies;
-    for (const LoggedCall *call : calls)
-        copies.push_back(*call);
-    askForFile(tr("Save as a Recording"), [this, copies](const QString &path) {
-        QString error;
-        const RecordingWriter::Saved saved = RecordingWriter::save(path, copies, *m_log, &error);
-        if (!error.isEmpty()) {
-            Core::MessageManager::writeDisrupting(
-                tr("The recording \"%1\" was not saved: %2").arg(path, error));
-            return;
-        }
-        QString message
-            = tr("The recording \"%1\" has %L2 calls.").arg(path, QLocale().toString(saved.calls));
-        if (saved.leftOut > 0) {
-            message
-                += u' '
-                   + tr("%L1 were left out, because they were not sent or the log does not keep "
-                        "all of them.")
-                         .arg(saved.leftOut);
-        }
-        Core::MessageManager::writeFlashing(message);
-    });
-}
-
-void EmulationOutputPane::updateRecordButton()
-{
-    m_recordButton->setChecked(m_writer != nullptr);
-    m_recordButton->setText(m_writer ? tr("Stop Recording") : tr("Record…"));
-    m_recordButton->setToolTip(m_writer ? tr("Recording to %1").arg(m_recordingPath)
-                                        : tr("Record what is sent to the emulator"));
-}
-
-void EmulationOutputPane::toggleRecording(bool on)
-{
-    updateRecordButton(); // the file decides, not the click
-    if (!on) {
-        stopRecording();
-        return;
-    }
-    askForFile(tr("Record"), [this](const QString &path) {
-        auto writer = std::make_unique<RecordingWriter>();
-        const QString error = writer->open(path);
-        if (!error.isEmpty()) {
-            Core::MessageManager::writeDisrupting(
-                tr("The recording \"%1\" cannot be written: %2").arg(path, error));
-            return;
-        }
-        writer->watch(m_link);
-        m_writer = std::move(writer);
-        m_recordingPath = path;
-        updateRecordButton();
-    });
-}
-
-void EmulationOutputPane::stopRecording()
-{
-    if (!m_writer)
-        return;
-    const QString error = m_writer->close();
-    const qint64 count = m_writer->count();
-    m_writer.reset();
-    updateRecordButton();
-    if (error.isEmpty()) {
-        Core::MessageManager::writeFlashing(tr("The recording \"%1\" has %L2 calls.")
-                                                .arg(m_recordingPath, QLocale().toString(count)));
-    } else {
-        Core::MessageManager::writeDisrupting(
-            tr("The recording \"%1\" is incomplete: %2").arg(m_recordingPath, error));
-    }
 }
 
 } // namespace EmulationManagement::Internal

@@ -3,16 +3,14 @@
 #include "calllogmodel.h"
 
 #include <link/recordingplayer.h>
-#include <link/recordingwriter.h>
 
 #include <coreplugin/ioutputpane.h>
 
-#include <QFutureWatcher>
 #include <QPointer>
 #include <QSortFilterProxyModel>
 #include <QTimer>
 
-#include <memory>
+#include <vector>
 
 QT_BEGIN_NAMESPACE
 class QToolButton;
@@ -25,7 +23,10 @@ class ElidingLabel;
 
 namespace EmulationManagement::Internal {
 
+class MoveButton;
 class PlaybackBar;
+class PlayButton;
+class RecordButton;
 class RemoteDBusInvokerService;
 
 /*!
@@ -59,7 +60,9 @@ public:
     void goToPrev() override;
 
 Q_SIGNALS:
-    /// A recording plays, or no longer does.
+    /// A recording is about to be played.
+    void recordingRead(const EmulationManagement::Internal::Recording &recording);
+    /// A recording plays or is paused, or it has ended. Emitted by other changes, too.
     void playingChanged(bool playing);
     /// See RecordingPlayer::cameraCallDue().
     void cameraCallDue(const EmulationManagement::Internal::RecordedCall &call);
@@ -75,37 +78,28 @@ private:
     void goToFailure(int direction);
     [[nodiscard]] bool hasFailures() const;
     /// The calls of the selected rows, in their order.
-    [[nodiscard]] QList<const LoggedCall *> selectedCalls() const;
-    [[nodiscard]] QList<const LoggedCall *> allCalls() const;
+    [[nodiscard]] std::vector<LoggedCall> selectedCalls() const;
+    [[nodiscard]] std::vector<LoggedCall> allCalls() const;
     void copy(const QStringList &lines);
     void copyText();
     void copyCsv();
     void copyCommands();
-    void saveRecording(const QList<const LoggedCall *> &calls);
-    void toggleRecording(bool on);
-    void askForFile(const QString &title, const std::function<void(const QString &)> &use);
-    void stopRecording();
-    void askForRecording();
-    void playReading();
-    void updateRecordButton();
+    void play(const Recording &recording);
+    [[nodiscard]] QList<QWidget *> toolBarButtons() const;
 
     CallLog *m_log;
-    RemoteDBusInvokerService *m_link;
     CallLogModel m_model;
     QSortFilterProxyModel m_filtered;
     QPointer<QWidget> m_widget;
     QPointer<QTreeView> m_view;
-    QPointer<QToolButton> m_recordButton;
-    QPointer<QToolButton> m_playButton;
+    QPointer<RecordButton> m_recordButton;
+    QPointer<PlayButton> m_playButton;
     QPointer<QToolButton> m_saveButton;
+    QPointer<MoveButton> m_moveButton;
     QPointer<PlaybackBar> m_playbackBar;
     QPointer<Utils::ElidingLabel> m_totals;
     QTimer m_totalsTimer;
-    std::unique_ptr<RecordingWriter> m_writer; // while recording
-    QString m_recordingPath;
     RecordingPlayer m_player;
-    QFutureWatcher<Recording> m_reading;
-    QString m_playingPath;
     bool m_atEnd = true;
 };
 

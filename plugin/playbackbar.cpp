@@ -4,17 +4,20 @@
 #include <link/recordingplayer.h>
 #include <link/servicemethods.h>
 
+#include <utils/elidinglabel.h>
 #include <utils/utilsicons.h>
 
-#include <QCheckBox>
+#include <QAction>
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QLabel>
+#include <QLocale>
+#include <QMenu>
 #include <QSlider>
 #include <QToolButton>
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -36,8 +39,9 @@ static int millisecondsOf(std::chrono::microseconds time)
 static QString timeText(std::chrono::microseconds time)
 {
     const qint64 tenths = time.count() / 100'000;
-    return u"%1:%2.%3"_s.arg(tenths / 600)
+    return u"%1:%2%3%4"_s.arg(tenths / 600)
         .arg(tenths / 10 % 60, 2, 10, QChar(u'0'))
+        .arg(QLocale().decimalPoint())
         .arg(tenths % 10);
 }
 
@@ -48,7 +52,7 @@ PlaybackBar::PlaybackBar(RecordingPlayer *player, const CallLog *log, QWidget *p
     , m_play(new QToolButton)
     , m_step(new QToolButton)
     , m_time(new QSlider(Qt::Horizontal))
-    , m_text(new QLabel)
+    , m_text(new Utils::ElidingLabel)
 {
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(4, 2, 4, 2);
@@ -62,7 +66,8 @@ PlaybackBar::PlaybackBar(RecordingPlayer *player, const CallLog *log, QWidget *p
         showPosition();
     });
     layout->addWidget(m_time, 1);
-    m_time->setMinimumWidth(80); // the texts beside it may be long
+    m_time->setMinimumWidth(80);
+    m_text->setMinimumWidth(80); // in a narrow window
     m_time->setAccessibleName(tr("Time of the recording"));
     connect(m_time, &QSlider::actionTriggered, this, [this] {
         m_player->seek(milliseconds(m_time->sliderPosition()));
@@ -72,31 +77,40 @@ PlaybackBar::PlaybackBar(RecordingPlayer *player, const CallLog *log, QWidget *p
 
     auto *rate = new QComboBox;
     for (const double value : rates)
-        rate->addItem(tr("%1x", "speed").arg(value), value);
+        rate->addItem(tr("%L1x", "speed").arg(value), value);
     rate->setCurrentIndex(usualRate);
     rate->setToolTip(tr("Speed"));
     connect(rate, &QComboBox::currentIndexChanged, this,
             [this, rate] { m_player->setRate(rate->currentData().toDouble()); });
     layout->addWidget(rate);
-    auto *looped = new QCheckBox(tr("Loop"));
-    connect(looped, &QCheckBox::toggled, this, [this](bool on) { m_player->setLooped(on); });
-    layout->addWidget(looped);
-    auto *waits = new QCheckBox(tr("Wait for the link"));
+    auto *menu = new QMenu(this);
+    menu->setToolTipsVisible(true);
+    const auto addOption = [menu](const QString &name, bool on) {
+        QAction *option = menu->addAction(name);
+        option->setCheckable(true);
+        option->setChecked(on);
+        return option;
+    };
+    connect(addOption(tr("Loop"), false), &QAction::toggled, this,
+            [this](bool on) { m_player->setLooped(on); });
+    QAction *waits = addOption(tr("Wait for the Link"), true);
     waits->setToolTip(tr("Go on when a lost link is there again, instead of stopping"));
-    waits->setChecked(true);
-    connect(waits, &QCheckBox::toggled, this, [this](bool on) {
+    connect(waits, &QAction::toggled, this, [this](bool on) {
         m_player->setWhenLinkIsDown(on ? RecordingPlayer::WhenLinkIsDown::Wait
                                        : RecordingPlayer::WhenLinkIsDown::Stop);
     });
-    layout->addWidget(waits);
+    menu->addSeparator();
     const QStringList names{tr("Sensors"), tr("Location"), tr("Camera")};
     for (const Service *service : services()) {
-        auto *box = new QCheckBox(names.at(qsizetype(m_services.size())));
-        box->setChecked(true);
-        connect(box, &QCheckBox::toggled, this, &PlaybackBar::chooseServices);
-        layout->addWidget(box);
-        m_services.emplace_back(box, service);
+        QAction *option = addOption(names.at(qsizetype(m_services.size())), true);
+        connect(option, &QAction::toggled, this, &PlaybackBar::chooseServices);
+        m_services.emplace_back(option, service);
     }
+    auto *options = new QToolButton;
+    options->setText(tr("Options"));
+    options->setMenu(menu);
+    options->setPopupMode(QToolButton::InstantPopup);
+    layout->addWidget(options);
     auto *close = new QToolButton;
     close->setIcon(Utils::Icons::CLOSE_FOREGROUND.icon());
     close->setToolTip(tr("Stop and Close the Recording"));
@@ -138,7 +152,7 @@ void PlaybackBar::updateButtons()
         m_timer.start(showingInterval);
     else
         m_timer.stop();
-    if (playing && m_player->position().count() == 0) {
+    if (std::exchange(m_shownState, state) == State::Stopped) {
         m_refusedBefore = m_log->totals().refused;
         m_lostBefore = m_log->totals().lost;
     }
@@ -157,7 +171,7 @@ void PlaybackBar::showEnd()
 {
     const CallLog::Totals &totals = m_log->totals();
     const std::chrono::duration<double, std::milli> latest = m_player->totals().latest;
-    m_text->setText(tr("%L1 sent, %L2 refused, %L3 lost, latest %4 ms")
+    m_text->setText(tr("%L1 sent, %L2 refused, %L3 lost, latest %L4 ms")
                         .arg(m_player->totals().calls)
                         .arg(std::max<qint64>(0, totals.refused - m_refusedBefore))
                         .arg(std::max<qint64>(0, totals.lost - m_lostBefore))
@@ -167,8 +181,8 @@ void PlaybackBar::showEnd()
 void PlaybackBar::chooseServices()
 {
     std::vector<const Service *> chosen;
-    for (const auto &[box, service] : m_services) {
-        if (box->isChecked())
+    for (const auto &[option, service] : m_services) {
+        if (option->isChecked())
             chosen.push_back(service);
     }
     m_player->setServices(std::move(chosen));

@@ -1,22 +1,25 @@
 #pragma once
 
+#include <link/recordingplayer.h>
+
 #include <QTimer>
 #include <QWidget>
 
 #include <vector>
 
 QT_BEGIN_NAMESPACE
-class QCheckBox;
-class QComboBox;
-class QLabel;
+class QAction;
 class QSlider;
 class QToolButton;
 QT_END_NAMESPACE
 
+namespace Utils {
+class ElidingLabel;
+}
+
 namespace EmulationManagement::Internal {
 
 class CallLog;
-class RecordingPlayer;
 struct Service;
 
 /// The controls that play a recording: a bar of its time, rate, loop and the services that are
@@ -45,13 +48,14 @@ private:
 
     RecordingPlayer *m_player;
     const CallLog *m_log;
+    RecordingPlayer::State m_shownState = RecordingPlayer::State::Stopped;
     qint64 m_refusedBefore = 0;
     qint64 m_lostBefore = 0;
     QToolButton *m_play;
     QToolButton *m_step;
     QSlider *m_time;
-    QLabel *m_text;
-    std::vector<std::pair<QCheckBox *, const Service *>> m_services;
+    Utils::ElidingLabel *m_text;
+    std::vector<std::pair<QAction *, const Service *>> m_services;
     QTimer m_timer; // shows the position
 };
 
