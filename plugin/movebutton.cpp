@@ -13,6 +13,7 @@
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
 #include <QFormLayout>
+#include <QLabel>
 #include <QtConcurrentRun>
 
 using namespace Qt::StringLiterals;
@@ -47,13 +48,14 @@ void MoveButton::askForPlace(const QString &path)
     QDoubleSpinBox *longitude = degrees(180);
     auto *dialog = new QDialog(Core::ICore::dialogParent());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowTitle(tr("First Position"));
+    dialog->setWindowTitle(tr("Move to"));
     auto *buttons = new QDialogButtonBox;
     buttons->addButton(tr("OK"), QDialogButtonBox::AcceptRole);
     buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
     connect(buttons, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
     auto *layout = new QFormLayout(dialog);
+    layout->addRow(new QLabel(tr("All positions are moved so that the first one lies there.")));
     layout->addRow(tr("Latitude:"), latitude);
     layout->addRow(tr("Longitude:"), longitude);
     layout->addRow(buttons);
@@ -61,6 +63,7 @@ void MoveButton::askForPlace(const QString &path)
         askForTarget(path, {.latitude = latitude->value(), .longitude = longitude->value()});
     });
     dialog->open();
+    latitude->selectAll();
 }
 
 void MoveButton::askForTarget(const QString &path, const Place &place)

@@ -18,7 +18,8 @@ static QFileDialog *makeDialog(QObject *context, const QString &title, const QSt
     auto *dialog = new QFileDialog(Core::ICore::dialogParent(), title);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setNameFilter(filter);
-    QObject::connect(dialog, &QFileDialog::fileSelected, context, use);
+    // Queued, because a dialog that use() opens would become a child of this one.
+    QObject::connect(dialog, &QFileDialog::fileSelected, context, use, Qt::QueuedConnection);
     return dialog;
 }
 
