@@ -65,15 +65,15 @@ PlaybackBar::PlaybackBar(RecordingPlayer *player, const CallLog *log, QWidget *p
         m_player->step();
         showPosition();
     });
-    layout->addWidget(m_time, 1);
+    layout->addWidget(m_time, 2);
     m_time->setMinimumWidth(80);
-    m_text->setMinimumWidth(80); // in a narrow window
     m_time->setAccessibleName(tr("Time of the recording"));
     connect(m_time, &QSlider::actionTriggered, this, [this] {
         m_player->seek(milliseconds(m_time->sliderPosition()));
         showPosition();
     });
-    layout->addWidget(m_text);
+    layout->addWidget(m_text, 1); // a long text elides
+    m_text->setMinimumWidth(m_text->fontMetrics().horizontalAdvance(u"00:00.0 / 00:00.0"_s));
 
     auto *rate = new QComboBox;
     for (const double value : rates)
