@@ -98,6 +98,12 @@ PageScrollView {
                 }
 
                 RowLayout {
+                    // A narrow window has room for the table only. Does not depend on
+                    // shape.visible, which also changes with the page: the layout would then give
+                    // the shape more width than there is.
+                    readonly property bool hasShape: width >= table.comfortableWidth + 180
+                                                     && root.trackModel.rowCount > 0
+
                     Layout.fillHeight: true
                     Layout.fillWidth: true
                     Layout.minimumHeight: 60
@@ -109,7 +115,7 @@ PageScrollView {
                         Layout.fillHeight: true
                         Layout.fillWidth: true
                         Layout.horizontalStretchFactor: 3
-                        Layout.minimumWidth: shape.visible ? comfortableWidth : 0
+                        Layout.minimumWidth: parent.hasShape ? comfortableWidth : 0
                         Layout.preferredWidth: 1
                         centred: root.player.playing || progress.pressed
                         currentRow: root.player.currentRow
@@ -119,17 +125,13 @@ PageScrollView {
                     }
 
                     TrackShape {
-                        id: shape
-
                         Layout.fillHeight: true
                         Layout.fillWidth: true
                         Layout.horizontalStretchFactor: 2
                         Layout.preferredWidth: 1
                         currentRow: root.player.currentRow
                         trackModel: root.trackModel
-                        // A narrow window has room for the table only.
-                        visible: parent.width >= table.comfortableWidth + 180
-                                 && root.trackModel.rowCount > 0
+                        visible: parent.hasShape
                     }
                 }
             }
