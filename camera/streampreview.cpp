@@ -4,12 +4,14 @@
 
 #include <QByteArray>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 StreamPreview::StreamPreview(QObject *parent)
     : QObject(parent)
 {
-    m_timer.setInterval(interval);
+    m_timer.setInterval(shortestInterval);
     connect(&m_timer, &QTimer::timeout, this, &StreamPreview::takePicture);
 }
 
@@ -34,11 +36,20 @@ void StreamPreview::setShown(bool shown)
     Q_EMIT shownChanged();
 }
 
+void StreamPreview::setInterval(int interval)
+{
+    interval = std::max(interval, int(shortestInterval.count()));
+    if (interval == m_timer.interval())
+        return;
+    m_timer.setInterval(interval);
+    Q_EMIT intervalChanged();
+}
+
 void StreamPreview::update()
 {
     if (m_shown && m_pipeline) {
         static_cast<void>(m_pipeline->takePicture()); // an old one
-        m_timer.start();
+        m_timer.start(shortestInterval); // the first picture comes at once
     } else {
         m_timer.stop();
     }

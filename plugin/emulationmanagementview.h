@@ -2,6 +2,8 @@
 
 #include <QQuickView>
 
+#include <atomic>
+
 namespace EmulationManagement::Internal {
 
 /*!
@@ -11,9 +13,14 @@ namespace EmulationManagement::Internal {
 class EmulationManagementView final : public QQuickView
 {
     Q_OBJECT
+    Q_PROPERTY(double frameCost READ frameCost)
 
 public:
-    using QQuickView::QQuickView;
+    EmulationManagementView();
+
+    /// Milliseconds of processor time that it takes to draw the window: some tenths with a graphics
+    /// processor, more than ten if a software takes its place.
+    [[nodiscard]] double frameCost() const { return m_frameCost; }
 
     /// Shows the window, restores it if it is minimised, and gives it the focus. A maximised
     /// window stays maximised.
@@ -26,6 +33,9 @@ private:
     void activateOnceFocusReturns();
     void restoreGeometry();
     void saveGeometry() const;
+    void measureFrames();
+
+    std::atomic<double> m_frameCost = 0; // is written by the thread that draws
 };
 
 } // namespace EmulationManagement::Internal

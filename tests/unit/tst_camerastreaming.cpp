@@ -95,7 +95,7 @@ private Q_SLOTS:
         QVERIFY(shows({160, 120}));
         preview->setShown(false);
         const QSignalSpy changed(preview, &StreamPreview::pictureChanged);
-        QTest::qWait(3 * StreamPreview::interval);
+        QTest::qWait(3 * StreamPreview::shortestInterval);
         QVERIFY(changed.isEmpty());
     }
 
