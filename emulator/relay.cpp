@@ -3,6 +3,7 @@
 #include "journalwriter.h"
 #include "relayclient.h"
 
+#include <QTcpSocket>
 #include <QWebSocket>
 #include <QWebSocketCorsAuthenticator>
 
@@ -22,6 +23,7 @@ Relay::Relay(const QHostAddress &address, const QDBusConnection &bus, JournalWri
     , m_journal(journal)
     , m_server(u"remote-dbus-invoker"_s, QWebSocketServer::NonSecureMode)
 {
+    connect(&m_listener, &QTcpServer::newConnection, this, &Relay::acceptConnections);
     connect(&m_server, &QWebSocketServer::newConnection, this, &Relay::acceptClients);
     // Browsers let any web page open WebSockets to this machine, but send the page's origin.
     connect(&m_server, &QWebSocketServer::originAuthenticationRequired, this,
@@ -35,21 +37,31 @@ Relay::~Relay()
 
 bool Relay::open(QString *error)
 {
-    if (m_server.isListening() || m_server.listen(m_address, port))
+    if (m_listener.isListening() || m_listener.listen(m_address, port))
         return true;
     *error = u"The relay cannot listen on %1 port %2: %3."_s.arg(m_address.toString())
                  .arg(port)
-                 .arg(m_server.errorString());
+                 .arg(m_listener.errorString());
     return false;
 }
 
 void Relay::close()
 {
+    m_listener.close();
     m_server.close();
     const QList<RelayClient *> clients = std::exchange(m_clients, {});
     for (RelayClient *client : clients) {
         delete client;
         m_journal.write("relay-disconnected"_L1);
+    }
+}
+
+// A reply must not wait until the host acknowledges the reply before.
+void Relay::acceptConnections()
+{
+    while (QTcpSocket *socket = m_listener.nextPendingConnection()) {
+        socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+        m_server.handleConnection(socket);
     }
 }
 

@@ -4,6 +4,7 @@
 #include <QHash>
 #include <QHostAddress>
 #include <QObject>
+#include <QTcpServer>
 #include <QWebSocketServer>
 
 #include <chrono>
@@ -50,11 +51,13 @@ public:
     [[nodiscard]] RelayFaults &faults() { return m_faults; }
 
 private:
+    void acceptConnections();
     void acceptClients();
 
     QHostAddress m_address;
     QDBusConnection m_bus;
     JournalWriter &m_journal;
+    QTcpServer m_listener;
     QWebSocketServer m_server;
     RelayFaults m_faults;
     QList<RelayClient *> m_clients; // children of the relay
