@@ -15,6 +15,8 @@ using std::chrono::microseconds;
 
 // After this time the event loop gets a turn, so that windows keep responding.
 static constexpr std::chrono::milliseconds longestTurn{10};
+// Enough to paint a part of a window.
+static constexpr std::chrono::milliseconds shortestGap{20};
 static constexpr microseconds latenessUnit{100};
 
 /// Calls with the same key replace each other. Empty for a call that sets nothing.
@@ -250,6 +252,8 @@ void RecordingPlayer::schedule()
         const Clock::duration wait = dueTime(m_recording.calls()[m_next].time) - Clock::now();
         m_timer.setInterval(std::max(std::chrono::nanoseconds(), std::chrono::nanoseconds(wait)));
         m_timer.start();
+        if (wait > shortestGap)
+            Q_EMIT gapBegan();
         return;
     }
     // A recording without a duration would loop without a pause.

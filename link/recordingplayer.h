@@ -75,6 +75,8 @@ Q_SIGNALS:
     void cameraCallDue(const EmulationManagement::Internal::RecordedCall &call);
     /// The recording was played or stepped to its end.
     void finished();
+    /// No call is due soon: whatever takes time delays no call now.
+    void gapBegan();
     /// The link is down, which ends the play if that was chosen.
     void linkIsDown();
 

@@ -43,6 +43,20 @@ void CallLogModel::setFollowing(bool following)
     }
 }
 
+void CallLogModel::setRecordingPlays(bool plays)
+{
+    m_timer.setInterval(plays ? batchIntervalOfRecording : batchInterval);
+}
+
+void CallLogModel::useGap()
+{
+    if (!m_timer.isActive()
+        || m_timer.intervalAsDuration() - m_timer.remainingTimeAsDuration() < batchInterval)
+        return;
+    m_timer.stop();
+    follow();
+}
+
 void CallLogModel::schedule()
 {
     if (!m_timer.isActive())

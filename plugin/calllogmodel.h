@@ -27,11 +27,16 @@ public:
     /// Whether the call was refused, lost or dropped.
     static constexpr int FailedRole = Qt::UserRole + 1;
     static constexpr std::chrono::milliseconds batchInterval{50};
+    static constexpr std::chrono::milliseconds batchIntervalOfRecording{500};
 
     /// \a log must outlive the model.
     explicit CallLogModel(CallLog *log, QObject *parent = nullptr);
 
     void setFollowing(bool following);
+    /// Showing rows would delay the calls of a recording that plays, so they come in its gaps.
+    void setRecordingPlays(bool plays);
+    /// Uses a gap to show the rows that have waited for a batchInterval.
+    void useGap();
     /// The call of a row, or null if the log no longer keeps it.
     [[nodiscard]] const LoggedCall *callAt(int row) const;
 

@@ -75,8 +75,12 @@ EmulationOutputPane::EmulationOutputPane(CallLog *log, RemoteDBusInvokerService 
     connect(m_playButton, &PlayButton::recordingRead, this, &EmulationOutputPane::play);
     m_moveButton = new MoveButton;
     connect(&m_player, &RecordingPlayer::cameraCallDue, this, &EmulationOutputPane::cameraCallDue);
-    connect(&m_player, &RecordingPlayer::stateChanged, this,
-            [this] { Q_EMIT playingChanged(m_player.state() != RecordingPlayer::State::Stopped); });
+    connect(&m_player, &RecordingPlayer::gapBegan, &m_model, &CallLogModel::useGap);
+    connect(&m_player, &RecordingPlayer::stateChanged, this, [this] {
+        using State = RecordingPlayer::State;
+        m_model.setRecordingPlays(m_player.state() == State::Playing);
+        Q_EMIT playingChanged(m_player.state() != State::Stopped);
+    });
 }
 
 EmulationOutputPane::~EmulationOutputPane()
