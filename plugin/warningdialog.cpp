@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QShortcut>
 
 namespace EmulationManagement::Internal {
 
@@ -58,6 +59,9 @@ void WarningDialog::show()
     box.setCheckBox(doNotShowAgain);
     doNotShowAgain->setVisible(m_withDoNotShowAgainCheckBox);
     translateButtons(&box);
+    // The box ignores the Escape key if it has no button for it. Closed so, it has no answer.
+    if (!box.button(QMessageBox::Cancel))
+        connect(new QShortcut(Qt::Key_Escape, &box), &QShortcut::activated, &box, &QDialog::reject);
 
     const int answer = box.exec();
     // The box raised the IDE above the asking window: bring that window back.

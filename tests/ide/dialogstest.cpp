@@ -22,6 +22,7 @@ void DialogsTest::testWarningDialog_data()
     QTest::newRow("cancel ignored") << withBox << QMessageBox::Cancel << "rejected";
     QTest::newRow("apply ignored") << apply << QMessageBox::Apply << "accepted";
     QTest::newRow("discard ignored") << apply << QMessageBox::Discard << "rejected";
+    QTest::newRow("Escape ignored") << apply << QMessageBox::NoButton << "";
     QTest::newRow("another answer reported") << yes << QMessageBox::Yes << "";
 }
 

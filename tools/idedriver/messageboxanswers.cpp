@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QPushButton>
+#include <QTest>
 
 #include <chrono>
 
@@ -48,6 +49,8 @@ void MessageBoxAnswers::answer()
                    box->textFormat(),      box->checkBox() && box->checkBox()->isVisible()};
     if (box->checkBox())
         box->checkBox()->setChecked(m_tick);
-    if (QAbstractButton *button = box->button(m_answer)) // boxes of the IDE may lack it
+    if (m_answer == QMessageBox::NoButton)
+        QTest::keyClick(box, Qt::Key_Escape);
+    else if (QAbstractButton *button = box->button(m_answer)) // boxes of the IDE may lack it
         button->click();
 }

@@ -21,6 +21,7 @@ public:
         bool hasVisibleCheckBox;
     };
 
+    /// Presses the Escape key if \a answer is NoButton.
     /// \a tick also ticks the check box of the boxes, visible or not.
     explicit MessageBoxAnswers(QMessageBox::StandardButton answer, bool tick = false);
 
