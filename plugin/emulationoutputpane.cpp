@@ -134,12 +134,13 @@ void EmulationOutputPane::createView()
         = [view](const QString &text) { return view->fontMetrics().horizontalAdvance(text) + 24; };
     QHeaderView *header = view->header();
     header->setStretchLastSection(false);
+    header->setMinimumSectionSize(width(u"1000.00"_s));
     header->setSectionResizeMode(CallLogModel::Arguments, QHeaderView::Stretch);
+    header->setSectionResizeMode(CallLogModel::Reply, QHeaderView::Stretch);
     header->resizeSection(CallLogModel::Time, width(u"00:00:00.000"_s));
     header->resizeSection(CallLogModel::Service, width(u"location"_s));
     header->resizeSection(CallLogModel::Method, width(u"setMagnetometerCalibrationLevel"_s));
-    header->resizeSection(CallLogModel::Reply, width(tr("not sent, because the link was down")));
-    header->resizeSection(CallLogModel::Latency, width(u"1000.00"_s));
+    header->resizeSection(CallLogModel::Latency, header->minimumSectionSize());
     m_widget->layout()->addWidget(view);
     m_playbackBar = new PlaybackBar(&m_player, m_log);
     m_playbackBar->hide();
