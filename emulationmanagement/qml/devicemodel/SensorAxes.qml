@@ -13,7 +13,8 @@ Grid {
     required property list<real> rotationState // Euler angles in degrees
     required property var magneticField // in the world's axes
 
-    readonly property real diagramSize: 66
+    // Wide enough for the words of the titles.
+    readonly property real diagramSize: Math.max(66, 4.7 * metrics.height)
     readonly property list<var> axes: Logic.deviceAxes(rotationState)
 
     component Diagram: Column {
@@ -40,6 +41,10 @@ Grid {
     }
 
     spacing: 8
+
+    FontMetrics {
+        id: metrics
+    }
 
     Diagram {
         title: qsTr("Sensor axes")

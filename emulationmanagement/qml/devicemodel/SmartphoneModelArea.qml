@@ -90,7 +90,8 @@ Rectangle {
         anchors.left: parent.left
         anchors.margins: 10
         anchors.top: parent.top
-        columns: root.width < 0.75 * root.height ? 2 : 1 // where the device leaves room
+        // beside the device if there is room, otherwise above it
+        columns: 0.3 * root.width < diagramSize + 2 * anchors.margins ? 2 : 1
         magneticField: root.magneticField
         rotationState: root.rotationState
         visible: model.drawn

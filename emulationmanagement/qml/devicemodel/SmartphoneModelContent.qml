@@ -31,6 +31,10 @@ RowLayout {
 
     spacing: 12
 
+    FontMetrics {
+        id: metrics
+    }
+
     SmartphoneModelArea {
         Layout.fillHeight: true
         Layout.fillWidth: true
@@ -61,7 +65,7 @@ RowLayout {
         Layout.fillHeight: true
         Layout.fillWidth: true
         Layout.maximumWidth: Layout.preferredWidth
-        Layout.preferredWidth: 400
+        Layout.preferredWidth: Math.max(400, 24 * metrics.height)
 
         ColumnLayout {
             spacing: 12
