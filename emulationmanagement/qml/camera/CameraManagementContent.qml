@@ -26,6 +26,8 @@ PageScrollView {
             title: qsTr("Source")
 
             Row {
+                // The style draws the ring of a radio button in this colour, darker and blurred.
+                palette.window: Qt.lighter(root.palette.windowText, 1.5)
                 spacing: root.page.spacing
 
                 RadioButton {

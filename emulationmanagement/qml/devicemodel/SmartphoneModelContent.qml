@@ -72,6 +72,8 @@ RowLayout {
             width: Math.max(controls.availableWidth, implicitWidth)
 
             Row {
+                // The style draws the ring of a radio button in this colour, darker and blurred.
+                palette.window: Qt.lighter(root.palette.windowText, 1.5)
                 spacing: 12
 
                 RadioButton {
