@@ -73,7 +73,10 @@ PageScrollView {
             }
 
             Button {
+                Accessible.name: qsTr("Open Video File")
+                implicitWidth: 40
                 text: qsTr("…")
+
                 onClicked: root.page.fileDialog.open()
             }
         }
