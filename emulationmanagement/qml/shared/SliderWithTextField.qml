@@ -75,6 +75,7 @@ RowLayout {
         Accessible.name: root.accessibleName
         Layout.fillWidth: true
         Layout.minimumWidth: 60
+        Layout.preferredWidth: 80 // leaves room for large fonts; the slider takes what is left
         from: root.minValue
         snapMode: Slider.SnapAlways
         stepSize: root.stepSize
