@@ -39,7 +39,7 @@ Button {
     }
 
     background: Rectangle {
-        border.color: root.active ? root.palette.windowText : root.highlightColor
+        border.color: root.palette.windowText
         border.width: root.visualFocus ? 1 : 0
         color: root.active ? root.highlightColor : root.backgroundColor
     }

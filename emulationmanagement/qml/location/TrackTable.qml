@@ -133,6 +133,14 @@ ColumnLayout {
 
         onWidthChanged: forceLayout()
 
+        Rectangle {
+            anchors.fill: parent
+            border.color: palette.highlight
+            color: "transparent"
+            parent: tableView // not the content, which scrolls
+            visible: tableView.activeFocus
+        }
+
         TapHandler {
             onTapped: point => {
                 tableView.forceActiveFocus(Qt.MouseFocusReason);
