@@ -145,25 +145,28 @@ Item {
         }
 
         function test_keyboardAndScreenReader_data(): var {
-            return titles.map(title => ({tag: title}));
+            return [...titles.map(title => ({tag: title, title, points: 3})),
+                    {tag: "GPS Management without a track", title: "GPS Management", points: 0}];
         }
 
         // The Tab key reaches each control of a page, and a screen reader has a name for it.
         function test_keyboardAndScreenReader(row: var) {
-            const title = row.tag;
-            if (title === "GPS Management")
-                host.fillTrack(view.pagesIds[3].trackModel, 3, 1000);
+            const title = row.title;
             mouseClick(button(title));
+            if (title === "GPS Management")
+                host.fillTrack(view.pagesIds[3].trackModel, row.points, 1000);
             button(title).forceActiveFocus(Qt.TabFocusReason);
             const missed = new Set(focusStops(view.pagesIds[titles.indexOf(title)]));
             verify(missed.size > 1);
+            let focused = null;
             for (let i = 0; i < 100 && missed.size > 0; ++i) {
-                const focused = view.Window.activeFocusItem;
+                focused = view.Window.activeFocusItem;
                 verify(host.accessibleName(focused) !== "", `${focused} after ${i} keys`);
                 missed.delete(focused);
                 keyClick(Qt.Key_Tab);
             }
             compare([...missed], []);
+            verify(view.Window.activeFocusItem !== focused, `${focused} kept the focus`);
         }
 
         // Each field refuses the key that would take its number out of the range.

@@ -99,6 +99,8 @@ ColumnLayout {
         boundsBehavior: Flickable.StopAtBounds
         clip: true
         columnWidthProvider: column => root.columnWidth(column)
+        // The view's own key navigation stops at each cell, and takes the Tab key of an empty table.
+        keyNavigationEnabled: false
         model: root.trackModel
 
         delegate: Rectangle {
@@ -125,8 +127,6 @@ ColumnLayout {
             }
         }
 
-        // The view has no selection model and so no key navigation of its own, in which the Tab key
-        // would stop at each cell.
         Keys.onDownPressed: root.chooseNeighbour(1)
         Keys.onUpPressed: root.chooseNeighbour(-1)
         ScrollBar.vertical: ScrollBar {}
