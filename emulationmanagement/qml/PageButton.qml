@@ -13,12 +13,17 @@ Button {
     property color highlightColor: themeHighlightColor // qmllint disable unqualified
     readonly property color backgroundColor: themeBackgroundColorNormal // qmllint disable unqualified
 
+    Accessible.role: Accessible.PageTab
+    Accessible.selectable: true
+    Accessible.selected: active
     anchors.left: parent?.left
     anchors.right: parent?.right
     bottomPadding: 6
     leftPadding: 15
     rightPadding: 15
     topPadding: 6
+
+    Accessible.onPressAction: clicked()
 
     contentItem: Text {
         // White is unreadable on the pale highlight of a light theme.

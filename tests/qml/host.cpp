@@ -76,6 +76,21 @@ QString Host::accessibleName(QObject *item) const
     return name.isEmpty() ? item->property("text").toString() : name;
 }
 
+QString Host::accessibleValue(QObject *item) const
+{
+    QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(item);
+    if (!accessible)
+        return {};
+    if (const QAccessibleValueInterface *number = accessible->valueInterface()) {
+        return u"%1 of %2 to %3"_s.arg(number->currentValue().toString(),
+                                       number->minimumValue().toString(),
+                                       number->maximumValue().toString());
+    }
+    if (accessible->state().selectable)
+        return accessible->state().selected ? u"selected"_s : u"not selected"_s;
+    return accessible->text(QAccessible::Value) + accessible->text(QAccessible::Description);
+}
+
 void Host::setCameras(const QStringList &cameras)
 {
     m_cameras.set({cameras.join(u'\n').toUtf8()});

@@ -54,6 +54,8 @@ public:
                                double interval);
     /// The name that a screen reader speaks.
     Q_INVOKABLE [[nodiscard]] QString accessibleName(QObject *item) const;
+    /// The value that a screen reader speaks.
+    Q_INVOKABLE [[nodiscard]] QString accessibleValue(QObject *item) const;
     /// Plugs cameras in and out, see VirtualCameras.
     Q_INVOKABLE void setCameras(const QStringList &cameras);
 

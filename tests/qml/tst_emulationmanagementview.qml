@@ -144,17 +144,34 @@ Item {
             return stops.concat(...Array.from(item.children).map(child => focusStops(child)));
         }
 
+        // The value that a screen reader is to speak.
+        function spokenValue(item: Item): string {
+            if (item instanceof Slider)
+                return `${item.value} of ${item.from} to ${item.to}`;
+            if (item instanceof PageButton)
+                return item.active ? "selected" : "not selected";
+            if (item instanceof ComboBox)
+                return item.displayText;
+            if (item instanceof TableView)
+                return item.rows > 0 ? "0, 00:00:00.0, 0.0000000, 0.0000000, 0.00" : "";
+            return host.accessibleValue(item); // of Qt
+        }
+
         function test_keyboardAndScreenReader_data(): var {
             return [...titles.map(title => ({tag: title, title, points: 3})),
                     {tag: "GPS Management without a track", title: "GPS Management", points: 0}];
         }
 
-        // The Tab key reaches each control of a page, and a screen reader has a name for it.
+        // The Tab key reaches each control of a page, and a screen reader has its name and value.
         function test_keyboardAndScreenReader(row: var) {
             const title = row.title;
             mouseClick(button(title));
-            if (title === "GPS Management")
+            if (title === "GPS Management") {
                 host.fillTrack(view.pagesIds[3].trackModel, row.points, 1000);
+                view.pagesIds[3].player.currentRow = 0;
+                verify(Find.find(view.pagesIds[3], item => host.accessibleName(item)
+                                                           === "Latitude 0.0000000"));
+            }
             button(title).forceActiveFocus(Qt.TabFocusReason);
             const missed = new Set(focusStops(view.pagesIds[titles.indexOf(title)]));
             verify(missed.size > 1);
@@ -162,6 +179,7 @@ Item {
             for (let i = 0; i < 100 && missed.size > 0; ++i) {
                 focused = view.Window.activeFocusItem;
                 verify(host.accessibleName(focused) !== "", `${focused} after ${i} keys`);
+                compare(host.accessibleValue(focused), spokenValue(focused));
                 missed.delete(focused);
                 keyClick(Qt.Key_Tab);
             }

@@ -27,7 +27,7 @@ GroupBox {
         Label {
             id: value
 
-            Accessible.name: label.text
+            Accessible.name: label.text + " " + text
             Layout.fillWidth: true
             elide: Text.ElideRight
         }

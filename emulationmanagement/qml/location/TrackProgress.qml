@@ -24,6 +24,10 @@ RowLayout {
     Slider {
         id: slider
 
+        // By these names, screen readers find the range.
+        readonly property double minimumValue: from
+        readonly property double maximumValue: to
+
         Accessible.name: qsTr("Track progress")
         Layout.fillWidth: true
         Layout.minimumWidth: 60

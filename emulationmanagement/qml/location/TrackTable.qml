@@ -41,6 +41,18 @@ ColumnLayout {
             rowChosen(row);
     }
 
+    function cellText(column: int, display: string): string {
+        return column === TrackModel.Time ? TrackPoints.millisToPointTime(Number(display)) : display;
+    }
+
+    function rowText(row: int): string {
+        if (row < 0 || row >= rowCount)
+            return "";
+        const columns = Array.from({length: trackModel.columnCount()}, (_, column) => column);
+        return columns.map(column => cellText(column, trackModel.data(trackModel.index(row, column))))
+            .join(", ");
+    }
+
     // The last column takes the rest of the width.
     function columnWidth(column: int): real {
         const sixth = tableView.width / 6;
@@ -92,6 +104,7 @@ ColumnLayout {
     TableView {
         id: tableView
 
+        Accessible.description: root.rowText(root.currentRow)
         Accessible.name: qsTr("Track points")
         Layout.fillHeight: true
         Layout.fillWidth: true
@@ -122,8 +135,7 @@ ColumnLayout {
                 color: cell.highlighted ? root.highlightedTextColor : palette.windowText
                 elide: Text.ElideRight
                 padding: root.padding
-                text: cell.column === TrackModel.Time
-                    ? TrackPoints.millisToPointTime(Number(cell.display)) : cell.display
+                text: root.cellText(cell.column, cell.display)
             }
         }
 

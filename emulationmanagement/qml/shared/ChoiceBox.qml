@@ -25,6 +25,8 @@ ComboBox {
     // The user chose an entry.
     signal chosen(index: int)
 
+    // Screen readers find no value of a combo box that has a name.
+    Accessible.description: displayText
     // The palette of the pages has another colour for the edges of controls.
     popup.palette.window: themeBackgroundColorNormal // qmllint disable unqualified
     popup.height: fitsOverBox ? listHeight : Math.min(listHeight, Math.max(roomAbove, roomBelow))

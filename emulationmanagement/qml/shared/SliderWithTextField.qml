@@ -64,6 +64,9 @@ RowLayout {
     Slider {
         id: slider
 
+        // By these names, screen readers find the range.
+        readonly property double minimumValue: from
+        readonly property double maximumValue: to
         // Where a press on the handle, beside its middle, has moved the slider; otherwise NaN. The
         // value changes only when the pointer moves on, so that a click changes nothing.
         property double pressedPosition: NaN
@@ -72,6 +75,7 @@ RowLayout {
             value = Qt.binding(() => root.value / root.resultValueMultiplier);
         }
 
+        Accessible.description: root.valueUnits
         Accessible.name: root.accessibleName
         Layout.fillWidth: true
         Layout.minimumWidth: 60
