@@ -1,19 +1,14 @@
 #include "outputpanetest.h"
 
-#include <coreplugin/actionmanager/actionmanager.h>
-#include <coreplugin/actionmanager/command.h>
-
 #include <gpspagedriver.h>
+#include <outputpanedriver.h>
 #include <plugindriver.h>
 
 #include <waiting.h>
 
-#include <QAction>
 #include <QApplication>
-#include <QFileDialog>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QToolButton>
 #include <QTreeView>
 
 using namespace PluginDriver;
@@ -26,29 +21,6 @@ static QTreeView *table()
             return qobject_cast<QTreeView *>(widget);
     }
     return nullptr;
-}
-
-static void click(const QString &text)
-{
-    for (QWidget *widget : QApplication::allWidgets()) {
-        auto *button = qobject_cast<QToolButton *>(widget);
-        if (button && button->text() == text)
-            return button->click();
-    }
-    throw WaitingFailed("no button " + text.toStdString());
-}
-
-/// Answers the dialog that the last click has opened.
-static void chooseFile(const QString &path)
-{
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
-        if (auto *dialog = qobject_cast<QFileDialog *>(widget); dialog && dialog->isVisible()) {
-            Q_EMIT dialog->fileSelected(path);
-            dialog->close();
-            return;
-        }
-    }
-    throw WaitingFailed("no file dialog");
 }
 
 /// The columns of the last row whose method is this.
@@ -76,9 +48,7 @@ void OutputPaneTest::initTestCase()
     setLight(7); // there is no link yet
     openWindow(journal);
     QVERIFY(!table()); // the pane costs nothing until it is shown
-    Core::ActionManager::command("QtCreator.Pane.EmulationManagement.OutputPane")
-        ->action()
-        ->trigger();
+    OutputPaneDriver::show();
     waitFor("the table", [] { return table() && table()->model()->rowCount() > 0; });
 }
 
@@ -103,20 +73,20 @@ void OutputPaneTest::testRecordingIsPlayedAndTheWindowRests()
     const QTemporaryDir folder;
     const QString path = folder.filePath("session.emulation.jsonl");
     JournalReader journal(journalPath());
-    click("Record…");
-    chooseFile(path);
+    OutputPaneDriver::click("Record…");
+    OutputPaneDriver::chooseFile(path);
     for (const int lux : {11, 12, 13}) {
         setLight(lux);
         QTest::qWait(50);
     }
-    click("Stop Recording");
+    OutputPaneDriver::click("Stop Recording");
     setLight(14);
     waitFor("the window's value",
             [&] { return journal.callsSince(0).contains("setAlsValue int32:14"); });
 
     const qsizetype start = journal.position();
-    click("Play…");
-    chooseFile(path);
+    OutputPaneDriver::click("Play…");
+    OutputPaneDriver::chooseFile(path);
     waitFor("the recording",
             [&] { return journal.callsSince(start).contains("setAlsValue int32:11"); });
     setLight(15); // is not sent while the recording plays, but afterwards
@@ -138,8 +108,8 @@ void OutputPaneTest::testTrackRestsAndGoesOn()
     JournalReader journal(journalPath());
     journal.waitForCall(second, 0);
     const qsizetype start = journal.position();
-    click("Play…");
-    chooseFile(DOCUMENTS "/session.emulation.jsonl");
+    OutputPaneDriver::click("Play…");
+    OutputPaneDriver::chooseFile(DOCUMENTS "/session.emulation.jsonl");
     journal.waitForCall("setTrackLooped boolean:0", start); // the window's values
     const qsizetype end = journal.position();
     journal.waitForCall("goToPositionOnTrack int32:2", end);

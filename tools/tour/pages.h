@@ -13,3 +13,5 @@ void visitDeviceModelPage(TourGuide &guide);
 void visitGpsPage(TourGuide &guide);
 /// Streams a virtual camera, unplugs it, and streams a video file.
 void visitCameraPage(TourGuide &guide);
+/// Shows the IDE's output pane, and plays a recording there.
+void visitOutputPane(TourGuide &guide);

@@ -32,6 +32,7 @@ void takeTour(TourGuide &guide)
         visitDeviceModelPage(guide);
         visitGpsPage(guide);
         visitCameraPage(guide);
+        visitOutputPane(guide);
     } catch (const WaitingFailed &) {
         guide.takePicture(u"failure"_s);
         throw;
