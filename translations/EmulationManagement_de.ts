@@ -280,32 +280,16 @@
         <translation>Emulation</translation>
     </message>
     <message>
-        <source>Record</source>
-        <translation>Aufzeichnen</translation>
-    </message>
-    <message>
         <source>Save What the Log Holds as a Recording…</source>
         <translation>Inhalt des Protokolls als Aufzeichnung speichern…</translation>
-    </message>
-    <message>
-        <source>Play…</source>
-        <translation>Abspielen…</translation>
-    </message>
-    <message>
-        <source>Play a Recording…</source>
-        <translation>Aufzeichnung abspielen…</translation>
     </message>
     <message>
         <source>Calls of the emulator</source>
         <translation>Aufrufe des Emulators</translation>
     </message>
     <message>
-        <source>not sent, because the link was down</source>
-        <translation>nicht gesendet, da keine Verbindung</translation>
-    </message>
-    <message>
-        <source>%L1 calls, %L2 refused, %L3 lost, %L4 not sent; %L5/s; median %6 ms, 99 % %7 ms</source>
-        <translation>Aufrufe: %L1, abgelehnt: %L2, verloren: %L3, nicht gesendet: %L4; %L5/s; Median: %6 ms, 99 %: %7 ms</translation>
+        <source>%L1 calls, %L2 refused, %L3 lost, %L4 not sent; %L5/s; median %L6 ms, 99 % %L7 ms</source>
+        <translation>Aufrufe: %L1, abgelehnt: %L2, verloren: %L3, nicht gesendet: %L4; %L5/s; Median: %L6 ms, 99 %: %L7 ms</translation>
     </message>
     <message>
         <source>Copy</source>
@@ -326,58 +310,6 @@
     <message>
         <source>Select All</source>
         <translation>Alles auswählen</translation>
-    </message>
-    <message>
-        <source>Recordings (*%1)</source>
-        <translation>Aufzeichnungen (*%1)</translation>
-    </message>
-    <message>
-        <source>Play a Recording</source>
-        <translation>Aufzeichnung abspielen</translation>
-    </message>
-    <message>
-        <source>The recording &quot;%1&quot; cannot be played. %2</source>
-        <translation>Die Aufzeichnung „%1“ kann nicht abgespielt werden. %2</translation>
-    </message>
-    <message>
-        <source>Save as a Recording</source>
-        <translation>Als Aufzeichnung speichern</translation>
-    </message>
-    <message>
-        <source>The recording &quot;%1&quot; was not saved: %2</source>
-        <translation>Die Aufzeichnung „%1“ wurde nicht gespeichert: %2</translation>
-    </message>
-    <message>
-        <source>The recording &quot;%1&quot; has %L2 calls.</source>
-        <translation>Aufrufe in der Aufzeichnung „%1“: %L2.</translation>
-    </message>
-    <message>
-        <source>%L1 were left out, because they were not sent or the log does not keep all of them.</source>
-        <translation>Ausgelassen: %L1 (nicht gesendet oder nicht vollständig im Protokoll).</translation>
-    </message>
-    <message>
-        <source>Stop Recording</source>
-        <translation>Aufzeichnung beenden</translation>
-    </message>
-    <message>
-        <source>Record…</source>
-        <translation>Aufzeichnen…</translation>
-    </message>
-    <message>
-        <source>Recording to %1</source>
-        <translation>Aufzeichnung in %1</translation>
-    </message>
-    <message>
-        <source>Record what is sent to the emulator</source>
-        <translation>Aufzeichnen, was an den Emulator gesendet wird</translation>
-    </message>
-    <message>
-        <source>The recording &quot;%1&quot; cannot be written: %2</source>
-        <translation>Die Aufzeichnung „%1“ kann nicht geschrieben werden: %2</translation>
-    </message>
-    <message>
-        <source>The recording &quot;%1&quot; is incomplete: %2</source>
-        <translation>Die Aufzeichnung „%1“ ist unvollständig: %2</translation>
     </message>
 </context>
 <context>
@@ -424,10 +356,91 @@
     </message>
 </context>
 <context>
+    <name>EmulationManagement::Internal::MoveButton</name>
+    <message>
+        <source>Move to…</source>
+        <translation>Verschieben nach…</translation>
+    </message>
+    <message>
+        <source>Copy a recording or a track to another place, to pass it on</source>
+        <translation>Eine Aufzeichnung oder einen Track an einen anderen Ort kopieren, um sie weiterzugeben</translation>
+    </message>
+    <message>
+        <source>Move a Recording or a Track</source>
+        <translation>Aufzeichnung oder Track verschieben</translation>
+    </message>
+    <message>
+        <source>Recordings and tracks (*%1 *.nmea)</source>
+        <translation>Aufzeichnungen und Tracks (*%1 *.nmea)</translation>
+    </message>
+    <message>
+        <source>Move to</source>
+        <translation>Verschieben nach</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>All positions are moved so that the first one lies there.</source>
+        <translation>Alle Positionen werden so verschoben, dass die erste dort liegt.</translation>
+    </message>
+    <message>
+        <source>Latitude:</source>
+        <translation>Breitengrad:</translation>
+    </message>
+    <message>
+        <source>Longitude:</source>
+        <translation>Längengrad:</translation>
+    </message>
+    <message>
+        <source>Save the Moved Copy</source>
+        <translation>Verschobene Kopie speichern</translation>
+    </message>
+    <message>
+        <source>The moved copy is &quot;%1&quot;.</source>
+        <translation>Die verschobene Kopie ist „%1“.</translation>
+    </message>
+    <message>
+        <source>The copy &quot;%1&quot; was not written. %2</source>
+        <translation>Die Kopie „%1“ wurde nicht geschrieben. %2</translation>
+    </message>
+</context>
+<context>
+    <name>EmulationManagement::Internal::MovedCopy</name>
+    <message>
+        <source>The file is neither a recording nor a track.</source>
+        <translation>Die Datei ist weder eine Aufzeichnung noch ein Track.</translation>
+    </message>
+</context>
+<context>
     <name>EmulationManagement::Internal::OpeningProgress</name>
     <message>
         <source>Opening Emulation Management</source>
         <translation>Emulationsverwaltung wird geöffnet</translation>
+    </message>
+</context>
+<context>
+    <name>EmulationManagement::Internal::PlayButton</name>
+    <message>
+        <source>Play…</source>
+        <translation>Abspielen…</translation>
+    </message>
+    <message>
+        <source>Play a Recording…</source>
+        <translation>Aufzeichnung abspielen…</translation>
+    </message>
+    <message>
+        <source>Play a Recording</source>
+        <translation>Aufzeichnung abspielen</translation>
+    </message>
+    <message>
+        <source>The recording &quot;%1&quot; cannot be played. %2</source>
+        <translation>Die Aufzeichnung „%1“ kann nicht abgespielt werden. %2</translation>
     </message>
 </context>
 <context>
@@ -441,9 +454,9 @@
         <translation>Zeit der Aufzeichnung</translation>
     </message>
     <message>
-        <source>%1x</source>
+        <source>%L1x</source>
         <comment>speed</comment>
-        <translation>%1x</translation>
+        <translation>%L1x</translation>
     </message>
     <message>
         <source>Speed</source>
@@ -454,7 +467,7 @@
         <translation>Wiederholen</translation>
     </message>
     <message>
-        <source>Wait for the link</source>
+        <source>Wait for the Link</source>
         <translation>Auf Verbindung warten</translation>
     </message>
     <message>
@@ -486,8 +499,47 @@
         <translation>Abspielen</translation>
     </message>
     <message>
-        <source>%L1 sent, %L2 refused, %L3 lost, latest %4 ms</source>
-        <translation>%L1 gesendet, %L2 abgelehnt, %L3 verloren, max. %4 ms zu spät</translation>
+        <source>%L1 sent, %L2 refused, %L3 lost, latest %L4 ms</source>
+        <translation>%L1 gesendet, %L2 abgelehnt, %L3 verloren, max. %L4 ms zu spät</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+</context>
+<context>
+    <name>EmulationManagement::Internal::RecordButton</name>
+    <message>
+        <source>Stop Recording</source>
+        <translation>Aufzeichnung beenden</translation>
+    </message>
+    <message>
+        <source>Record…</source>
+        <translation>Aufzeichnen…</translation>
+    </message>
+    <message>
+        <source>Recording to %1</source>
+        <translation>Aufzeichnung in %1</translation>
+    </message>
+    <message>
+        <source>Record what is sent to the emulator</source>
+        <translation>Aufzeichnen, was an den Emulator gesendet wird</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Aufzeichnen</translation>
+    </message>
+    <message>
+        <source>The recording &quot;%1&quot; cannot be written: %2</source>
+        <translation>Die Aufzeichnung „%1“ kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>The recording &quot;%1&quot; has %L2 calls.</source>
+        <translation>Aufrufe in der Aufzeichnung „%1“: %L2.</translation>
+    </message>
+    <message>
+        <source>The recording &quot;%1&quot; is incomplete: %2</source>
+        <translation>Die Aufzeichnung „%1“ ist unvollständig: %2</translation>
     </message>
 </context>
 <context>
@@ -555,6 +607,33 @@
     <message>
         <source>&quot;arguments&quot; must be an array</source>
         <translation>„arguments“ muss ein Array sein</translation>
+    </message>
+</context>
+<context>
+    <name>EmulationManagement::Internal::RecordingFiles</name>
+    <message>
+        <source>Recordings (*%1)</source>
+        <translation>Aufzeichnungen (*%1)</translation>
+    </message>
+    <message>
+        <source>Tracks (*%1)</source>
+        <translation>Tracks (*%1)</translation>
+    </message>
+    <message>
+        <source>The recording &quot;%1&quot; was not saved: %2</source>
+        <translation>Die Aufzeichnung „%1“ wurde nicht gespeichert: %2</translation>
+    </message>
+    <message>
+        <source>The recording &quot;%1&quot; has %L2 calls.</source>
+        <translation>Aufrufe in der Aufzeichnung „%1“: %L2.</translation>
+    </message>
+    <message>
+        <source>%L1 were left out, because they were not sent or the log does not keep all of them.</source>
+        <translation>Ausgelassen: %L1 (nicht gesendet oder nicht vollständig im Protokoll).</translation>
+    </message>
+    <message>
+        <source>Save as a Recording</source>
+        <translation>Als Aufzeichnung speichern</translation>
     </message>
 </context>
 <context>

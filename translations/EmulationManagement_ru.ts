@@ -280,32 +280,16 @@
         <translation>Эмуляция</translation>
     </message>
     <message>
-        <source>Record</source>
-        <translation>Записать</translation>
-    </message>
-    <message>
         <source>Save What the Log Holds as a Recording…</source>
         <translation>Сохранить содержимое журнала как запись…</translation>
-    </message>
-    <message>
-        <source>Play…</source>
-        <translation>Воспроизвести…</translation>
-    </message>
-    <message>
-        <source>Play a Recording…</source>
-        <translation>Воспроизвести запись…</translation>
     </message>
     <message>
         <source>Calls of the emulator</source>
         <translation>Вызовы эмулятора</translation>
     </message>
     <message>
-        <source>not sent, because the link was down</source>
-        <translation>не отправлен: не было соединения</translation>
-    </message>
-    <message>
-        <source>%L1 calls, %L2 refused, %L3 lost, %L4 not sent; %L5/s; median %6 ms, 99 % %7 ms</source>
-        <translation>Вызовов: %L1, отклонено: %L2, потеряно: %L3, не отправлено: %L4; %L5/с; медиана: %6 мс, 99 %: %7 мс</translation>
+        <source>%L1 calls, %L2 refused, %L3 lost, %L4 not sent; %L5/s; median %L6 ms, 99 % %L7 ms</source>
+        <translation>Вызовов: %L1, отклонено: %L2, потеряно: %L3, не отправлено: %L4; %L5/с; медиана: %L6 мс, 99 %: %L7 мс</translation>
     </message>
     <message>
         <source>Copy</source>
@@ -326,58 +310,6 @@
     <message>
         <source>Select All</source>
         <translation>Выделить всё</translation>
-    </message>
-    <message>
-        <source>Recordings (*%1)</source>
-        <translation>Записи (*%1)</translation>
-    </message>
-    <message>
-        <source>Play a Recording</source>
-        <translation>Воспроизвести запись</translation>
-    </message>
-    <message>
-        <source>The recording &quot;%1&quot; cannot be played. %2</source>
-        <translation>Не удалось воспроизвести запись «%1». %2</translation>
-    </message>
-    <message>
-        <source>Save as a Recording</source>
-        <translation>Сохранить как запись</translation>
-    </message>
-    <message>
-        <source>The recording &quot;%1&quot; was not saved: %2</source>
-        <translation>Запись «%1» не сохранена: %2</translation>
-    </message>
-    <message>
-        <source>The recording &quot;%1&quot; has %L2 calls.</source>
-        <translation>Вызовов в записи «%1»: %L2.</translation>
-    </message>
-    <message>
-        <source>%L1 were left out, because they were not sent or the log does not keep all of them.</source>
-        <translation>Пропущено: %L1 (не отправлены или хранятся в журнале не полностью).</translation>
-    </message>
-    <message>
-        <source>Stop Recording</source>
-        <translation>Остановить запись</translation>
-    </message>
-    <message>
-        <source>Record…</source>
-        <translation>Записать…</translation>
-    </message>
-    <message>
-        <source>Recording to %1</source>
-        <translation>Запись в %1</translation>
-    </message>
-    <message>
-        <source>Record what is sent to the emulator</source>
-        <translation>Записывать то, что отправляется в эмулятор</translation>
-    </message>
-    <message>
-        <source>The recording &quot;%1&quot; cannot be written: %2</source>
-        <translation>Не удаётся сохранить запись «%1»: %2</translation>
-    </message>
-    <message>
-        <source>The recording &quot;%1&quot; is incomplete: %2</source>
-        <translation>Запись «%1» неполная: %2</translation>
     </message>
 </context>
 <context>
@@ -424,10 +356,91 @@
     </message>
 </context>
 <context>
+    <name>EmulationManagement::Internal::MoveButton</name>
+    <message>
+        <source>Move to…</source>
+        <translation>Переместить в…</translation>
+    </message>
+    <message>
+        <source>Copy a recording or a track to another place, to pass it on</source>
+        <translation>Скопировать запись или трек в другое место на карте, чтобы передать другим</translation>
+    </message>
+    <message>
+        <source>Move a Recording or a Track</source>
+        <translation>Перемещение записи или трека</translation>
+    </message>
+    <message>
+        <source>Recordings and tracks (*%1 *.nmea)</source>
+        <translation>Записи и треки (*%1 *.nmea)</translation>
+    </message>
+    <message>
+        <source>Move to</source>
+        <translation>Переместить в</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>All positions are moved so that the first one lies there.</source>
+        <translation>Все координаты смещаются так, чтобы первая оказалась здесь.</translation>
+    </message>
+    <message>
+        <source>Latitude:</source>
+        <translation>Широта:</translation>
+    </message>
+    <message>
+        <source>Longitude:</source>
+        <translation>Долгота:</translation>
+    </message>
+    <message>
+        <source>Save the Moved Copy</source>
+        <translation>Сохранить перемещённую копию</translation>
+    </message>
+    <message>
+        <source>The moved copy is &quot;%1&quot;.</source>
+        <translation>Перемещённая копия: «%1».</translation>
+    </message>
+    <message>
+        <source>The copy &quot;%1&quot; was not written. %2</source>
+        <translation>Копия «%1» не записана. %2</translation>
+    </message>
+</context>
+<context>
+    <name>EmulationManagement::Internal::MovedCopy</name>
+    <message>
+        <source>The file is neither a recording nor a track.</source>
+        <translation>Файл не является ни записью, ни треком.</translation>
+    </message>
+</context>
+<context>
     <name>EmulationManagement::Internal::OpeningProgress</name>
     <message>
         <source>Opening Emulation Management</source>
         <translation>Открытие окна управления эмуляцией</translation>
+    </message>
+</context>
+<context>
+    <name>EmulationManagement::Internal::PlayButton</name>
+    <message>
+        <source>Play…</source>
+        <translation>Воспроизвести…</translation>
+    </message>
+    <message>
+        <source>Play a Recording…</source>
+        <translation>Воспроизвести запись…</translation>
+    </message>
+    <message>
+        <source>Play a Recording</source>
+        <translation>Воспроизвести запись</translation>
+    </message>
+    <message>
+        <source>The recording &quot;%1&quot; cannot be played. %2</source>
+        <translation>Не удалось воспроизвести запись «%1». %2</translation>
     </message>
 </context>
 <context>
@@ -441,9 +454,9 @@
         <translation>Время записи</translation>
     </message>
     <message>
-        <source>%1x</source>
+        <source>%L1x</source>
         <comment>speed</comment>
-        <translation>%1x</translation>
+        <translation>%L1x</translation>
     </message>
     <message>
         <source>Speed</source>
@@ -454,7 +467,7 @@
         <translation>Зациклить</translation>
     </message>
     <message>
-        <source>Wait for the link</source>
+        <source>Wait for the Link</source>
         <translation>Ждать соединения</translation>
     </message>
     <message>
@@ -486,8 +499,47 @@
         <translation>Воспроизвести</translation>
     </message>
     <message>
-        <source>%L1 sent, %L2 refused, %L3 lost, latest %4 ms</source>
-        <translation>отправлено %L1, отклонено %L2, потеряно %L3, опоздание до %4 мс</translation>
+        <source>%L1 sent, %L2 refused, %L3 lost, latest %L4 ms</source>
+        <translation>отправлено %L1, отклонено %L2, потеряно %L3, опоздание до %L4 мс</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Параметры</translation>
+    </message>
+</context>
+<context>
+    <name>EmulationManagement::Internal::RecordButton</name>
+    <message>
+        <source>Stop Recording</source>
+        <translation>Остановить запись</translation>
+    </message>
+    <message>
+        <source>Record…</source>
+        <translation>Записать…</translation>
+    </message>
+    <message>
+        <source>Recording to %1</source>
+        <translation>Запись в %1</translation>
+    </message>
+    <message>
+        <source>Record what is sent to the emulator</source>
+        <translation>Записывать то, что отправляется в эмулятор</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Записать</translation>
+    </message>
+    <message>
+        <source>The recording &quot;%1&quot; cannot be written: %2</source>
+        <translation>Не удаётся сохранить запись «%1»: %2</translation>
+    </message>
+    <message>
+        <source>The recording &quot;%1&quot; has %L2 calls.</source>
+        <translation>Вызовов в записи «%1»: %L2.</translation>
+    </message>
+    <message>
+        <source>The recording &quot;%1&quot; is incomplete: %2</source>
+        <translation>Запись «%1» неполная: %2</translation>
     </message>
 </context>
 <context>
@@ -555,6 +607,33 @@
     <message>
         <source>&quot;arguments&quot; must be an array</source>
         <translation>«arguments» должно быть массивом</translation>
+    </message>
+</context>
+<context>
+    <name>EmulationManagement::Internal::RecordingFiles</name>
+    <message>
+        <source>Recordings (*%1)</source>
+        <translation>Записи (*%1)</translation>
+    </message>
+    <message>
+        <source>Tracks (*%1)</source>
+        <translation>Треки (*%1)</translation>
+    </message>
+    <message>
+        <source>The recording &quot;%1&quot; was not saved: %2</source>
+        <translation>Запись «%1» не сохранена: %2</translation>
+    </message>
+    <message>
+        <source>The recording &quot;%1&quot; has %L2 calls.</source>
+        <translation>Вызовов в записи «%1»: %L2.</translation>
+    </message>
+    <message>
+        <source>%L1 were left out, because they were not sent or the log does not keep all of them.</source>
+        <translation>Пропущено: %L1 (не отправлены или хранятся в журнале не полностью).</translation>
+    </message>
+    <message>
+        <source>Save as a Recording</source>
+        <translation>Сохранить как запись</translation>
     </message>
 </context>
 <context>
