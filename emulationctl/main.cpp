@@ -33,11 +33,8 @@ static int runCalls(const CommandLine &line)
     return QCoreApplication::exec();
 }
 
-int main(int argc, char **argv)
+static int runCommand()
 {
-    const QCoreApplication application(argc, argv);
-    QCoreApplication::setApplicationName(u"emulationctl"_s);
-    QLocale::setDefault(QLocale::c());
     ExitStatus status = Success;
     const std::optional<CommandLine> line
         = parseCommandLine(QCoreApplication::arguments(), &status);
@@ -61,4 +58,18 @@ int main(int argc, char **argv)
         return *result;
     complain(error + u'\n' + usage(line->command));
     return WrongUse;
+}
+
+int main(int argc, char **argv)
+{
+    // Qt would warn of each other locale without UTF-8, which scripts often have.
+    qputenv("LC_ALL", "C.UTF-8");
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(u"emulationctl"_s);
+    QLocale::setDefault(QLocale::c());
+    const int status = runCommand();
+    if (isOutputWritten())
+        return status;
+    complain(u"The output cannot be written."_s);
+    return status == Success ? WrongUse : status;
 }

@@ -26,6 +26,11 @@ void print(const QJsonObject &object)
     write(stdout, QJsonDocument(object).toJson(QJsonDocument::Compact));
 }
 
+bool isOutputWritten()
+{
+    return std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
+}
+
 void complain(const QString &message)
 {
     note(u"emulationctl: "_s + message);
