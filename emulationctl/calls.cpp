@@ -129,6 +129,22 @@ struct Reading
     int maximum = 0;
 };
 
+static QString listed(const QStringList &forms)
+{
+    return u"  "_s + forms.join(u"\n  "_s);
+}
+
+/// Prints forms such as "als VALUE (lx)", which begin with the names of what they are.
+static void printForms(const QString &kind, const QStringList &forms, bool json)
+{
+    if (!json) {
+        print(listed(forms));
+        return;
+    }
+    for (const QString &form : forms)
+        print(QJsonObject{{kind, form.section(u' ', 0, 0)}, {u"usage"_s, form}});
+}
+
 static const QList<Reading> &readings()
 {
     static const QList<Reading> all{
@@ -193,12 +209,12 @@ static QString textOf(const Reading &reading)
     return text;
 }
 
-QString readingsText()
+static QStringList readingForms()
 {
-    QStringList texts;
+    QStringList forms;
     for (const Reading &reading : readings())
-        texts.append(u"  "_s + textOf(reading));
-    return texts.join(u'\n');
+        forms.append(textOf(reading));
+    return forms;
 }
 
 static std::optional<double> numberOf(const Reading &reading, const QString &text)
@@ -211,16 +227,16 @@ static std::optional<double> numberOf(const Reading &reading, const QString &tex
     return ok && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
-static std::optional<Calls> setCalls(const QStringList &arguments, QString *error)
+static std::optional<Calls> setCalls(const QStringList &arguments, bool json, QString *error)
 {
     if (arguments.isEmpty()) {
-        print(readingsText());
+        printForms(u"reading"_s, readingForms(), json);
         return std::nullopt;
     }
     const auto reading = std::ranges::find(readings(), arguments.constFirst(), &Reading::name);
     if (reading == readings().end()) {
-        *error
-            = u"There is no reading \"%1\", only:\n"_s.arg(arguments.constFirst()) + readingsText();
+        *error = u"There is no reading \"%1\", only:\n"_s.arg(arguments.constFirst())
+                 + listed(readingForms());
         return std::nullopt;
     }
     const QString expected = u"\nUsage: emulationctl set "_s + textOf(*reading);
@@ -277,15 +293,15 @@ static std::optional<Calls> checkedCall(const QString &command, const ServiceMet
     return oneCall(called, encoded.text);
 }
 
-static QString methodsText(const Service &service)
+static QStringList methodForms(const Service &service)
 {
-    QStringList usages;
+    QStringList forms;
     for (const ServiceMethod &called : service.methods)
-        usages.append(u"  "_s + MethodArguments::usage(called));
-    return usages.join(u'\n');
+        forms.append(MethodArguments::usage(called));
+    return forms;
 }
 
-static std::optional<Calls> serviceCall(const QStringList &arguments, QString *error)
+static std::optional<Calls> serviceCall(const QStringList &arguments, bool json, QString *error)
 {
     const Service *service = findService(arguments.constFirst());
     if (!service || service->dbusName.isEmpty()) {
@@ -294,14 +310,14 @@ static std::optional<Calls> serviceCall(const QStringList &arguments, QString *e
         return std::nullopt;
     }
     if (arguments.size() == 1) {
-        print(methodsText(*service));
+        printForms(u"method"_s, methodForms(*service), json);
         return std::nullopt;
     }
     const ServiceMethod *called = findMethod(*service, arguments.at(1));
     if (!called) {
         *error = u"The service %1 has no method \"%2\", only:\n"_s.arg(arguments.at(0),
                                                                        arguments.at(1))
-                 + methodsText(*service);
+                 + listed(methodForms(*service));
         return std::nullopt;
     }
     const std::optional<Calls> calls = checkedCall(u"call"_s, *called, arguments.sliced(2), error);
@@ -326,9 +342,9 @@ std::optional<Calls> callsOf(const CommandLine &line, QString *error)
     if (line.command == u"sensor"_s)
         return sensorCalls(line.arguments, error);
     if (line.command == u"set"_s)
-        return setCalls(line.arguments, error);
+        return setCalls(line.arguments, line.general.json, error);
     if (line.command == u"call"_s)
-        return serviceCall(line.arguments, error);
+        return serviceCall(line.arguments, line.general.json, error);
     QStringList position = line.arguments;
     if (position.size() == 2)
         position.append(u"0"_s);

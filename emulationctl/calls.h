@@ -4,8 +4,6 @@
 
 #include <link/servicemethods.h>
 
-#include <QList>
-
 #include <functional>
 #include <optional>
 
@@ -15,9 +13,6 @@ class Session;
 
 /// What a command does once the link is there, before the session is closed.
 using Calls = std::function<void(Session &)>;
-
-/// The readings that "set" knows, with their values, for the user.
-[[nodiscard]] QString readingsText();
 
 /*!
  * Returns the calls of the commands status, sensor, set, position and call.
