@@ -6,6 +6,7 @@
 #include <camera/cameraemulationmanager.h>
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
@@ -114,6 +115,8 @@ static int run(CameraEmulationManager &manager, const GeneralOptions &options,
         if (!sent)
             complain(u"No picture was sent for %1 s."_s.arg(double(options.timeout.count()) / 1e3));
     });
+    QElapsedTimer time;
+    time.start();
     const Interruption interruption;
     QObject::connect(&interruption, &Interruption::requested, QCoreApplication::instance(),
                      &QCoreApplication::quit);
@@ -123,7 +126,8 @@ static int run(CameraEmulationManager &manager, const GeneralOptions &options,
     }
     QCoreApplication::exec();
     manager.stopStreams();
-    return sent || (duration && *duration < 2) ? Success : Refused; // measured once a second
+    static constexpr std::chrono::seconds measured{2}; // the longest time to the first measurement
+    return sent || time.durationElapsed() < measured ? Success : Refused;
 }
 
 static std::optional<int> streamCamera(const CommandLine &line, QString *error)

@@ -7,7 +7,8 @@ namespace EmulationCtl {
 
 /*!
  * Tells once that the user wants the program to end, by Ctrl+C or SIGTERM, so that it can stop
- * tracks and streams first. A second Ctrl+C ends the program at once.
+ * tracks and streams first. A second Ctrl+C ends the program at once. A third one does so if the
+ * program hangs.
  *
  * Only one object may exist at a time, because signals belong to the whole process.
  */

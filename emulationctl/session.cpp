@@ -105,7 +105,7 @@ void Session::abort(ExitStatus status)
 void Session::endIfAnswered()
 {
     if (m_closing && m_log.waiting() == 0)
-        abort(m_status);
+        abort(m_connected ? m_status : NoLink);
 }
 
 void Session::handleFinished(qint64 serial)
