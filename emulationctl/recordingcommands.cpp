@@ -110,8 +110,9 @@ static PlayOptions readOptions(const CommandLine &line, QString *error)
 /// Reads a recording and reports its mistakes.
 static Recording readRecording(const QString &path)
 {
+    static constexpr int standardInput = 0; // a descriptor: stdin as FILE ends a line at a NUL
     QFile input;
-    const bool isInput = path == u"-"_s && input.open(stdin, QIODevice::ReadOnly);
+    const bool isInput = path == u"-"_s && input.open(standardInput, QIODevice::ReadOnly);
     Recording recording = isInput ? Recording::read(input) : Recording::readFile(path);
     const QString name = isInput ? u"Standard input"_s : path;
     if (!recording.error().isEmpty())

@@ -65,12 +65,14 @@ static std::optional<PlaybackOptions> readOptions(const CommandLine &line, QStri
     return ok ? std::optional(options) : std::nullopt;
 }
 
-/// Copies standard input to a file, because tracks are read from files.
-static bool copyStandardInput(QTemporaryFile &file)
+/// Copies standard input or a pipe to a file, because tracks are read from files.
+static bool copyPipe(const QString &path, QTemporaryFile &file)
 {
     static constexpr qint64 pieceSize = 1 << 20; // bytes
-    QFile input;
-    if (!file.open() || !input.open(stdin, QIODevice::ReadOnly))
+    QFile input(path);
+    if (!file.open()
+        || !(path == u"-"_s ? input.open(stdin, QIODevice::ReadOnly)
+                            : input.open(QIODevice::ReadOnly)))
         return false;
     for (QByteArray piece = input.read(pieceSize); !piece.isEmpty();
          piece = input.read(pieceSize)) {
@@ -84,14 +86,13 @@ static bool copyStandardInput(QTemporaryFile &file)
 static Track readTrack(const QString &path, QString *error)
 {
     QTemporaryFile copy;
-    const bool isInput = path == u"-"_s;
-    const QString name = isInput ? u"Standard input"_s : path;
-    const bool isThere = isInput ? copyStandardInput(copy) : QFileInfo(path).isFile();
-    const QString file = isInput ? copy.fileName() : path;
-    if (!isThere) {
+    const bool isFile = path != u"-"_s && QFileInfo(path).isFile();
+    const QString name = path == u"-"_s ? u"Standard input"_s : path;
+    if (!isFile && !copyPipe(path, copy)) {
         *error = u"%1 cannot be read."_s.arg(name);
         return {};
     }
+    const QString file = isFile ? path : copy.fileName();
     if (QFileInfo(file).size() > maximumFileSize) {
         *error = u"%1 is larger than %2 MB."_s.arg(name).arg(maximumFileSize / 1'000'000);
         return {};

@@ -18,6 +18,7 @@ namespace EmulationManagement::Internal {
 const QString Recording::formatName = u"emulation"_s;
 const QString Recording::fileSuffix = u".emulation.jsonl"_s;
 
+static constexpr qint64 longestHeader = 1 << 20; // bytes
 static constexpr double longestRecording = 1e12; // milliseconds, about 30 years
 
 static QString serviceNames()
@@ -48,8 +49,11 @@ Recording Recording::read(QIODevice &device)
 {
     Recording recording;
     bool hasHeader = false;
-    for (int number = 1; !device.atEnd(); ++number) {
-        const QByteArray whole = device.readLine();
+    for (int number = 1;; ++number) {
+        // A file without lines is refused before all of it is read.
+        const QByteArray whole = device.readLine(hasHeader ? 0 : longestHeader);
+        if (whole.isEmpty()) // the end: a pipe does not know it before
+            break;
         const QByteArray line = whole.trimmed();
         if (line.isEmpty() || line.startsWith('#'))
             continue;
