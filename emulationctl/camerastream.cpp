@@ -165,6 +165,10 @@ static std::optional<int> streamVideo(const CommandLine &line, QString *error)
     if (!error->isEmpty())
         return std::nullopt;
     const QString file = line.arguments.constFirst();
+    if (!QFileInfo(file).isFile()) {
+        complain(u"There is no file \"%1\"."_s.arg(file));
+        return WrongUse;
+    }
     CameraEmulationManager manager;
     QString reason;
     QObject::connect(&manager, &CameraEmulationManager::videoFileCodecChecked, &manager,

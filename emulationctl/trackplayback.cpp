@@ -62,6 +62,10 @@ static std::optional<PlaybackOptions> readOptions(const CommandLine &line, QStri
         if (!ok)
             *error = placeError(line.value(u"move-to"_s));
     }
+    if (ok && options.looped && options.untilEnd) {
+        ok = false;
+        *error = u"--loop and --until-end exclude each other."_s;
+    }
     return ok ? std::optional(options) : std::nullopt;
 }
 

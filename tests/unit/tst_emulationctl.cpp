@@ -68,6 +68,10 @@ static constexpr Command commandLines[] = {
     {"place of one number", "play SESSION --move-to 60", 2, "", "--move-to must be"},
     {"service misspelled", "play SESSION --services gps", 2, "", "no service \"gps\""},
     {"rate of 0", "play SESSION --rate 0", 2, "", "--rate must be 0.1 to 100, not 0"},
+    {"end without a track's end", "track x.nmea --loop --until-end", 2, "", "exclude each other"},
+    {"forms not as JSON", "--json set", 0, "",
+     "^(\\{\"reading\":\"\\w+\",\"usage\":\".*\"\\}\n){9}$"},
+    {"missing file taken for a video", "video /nonexistent", 2, "", "There is no file"},
     {"counts wrong", "info SESSION", 0, "",
      "^10 calls in 1\\.036 s, recorded at 2026-11-22T08:00:00\\.000Z\n +3  location goToPos"},
     {"home not moved away", "move SESSION 10 20", 0, "",
@@ -215,7 +219,7 @@ private Q_SLOTS:
     {
         takeCalls();
         QProcess process;
-        start(process, {u"track"_s, u"-"_s, u"--loop"_s});
+        start(process, {u"track"_s, u"/dev/stdin"_s, u"--loop"_s});
         process.write(track);
         process.closeWriteChannel();
         QTRY_VERIFY(m_sdk.journal().sliced(m_read).contains("startTrack"));
