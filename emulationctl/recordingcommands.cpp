@@ -137,9 +137,9 @@ public:
             m_player.setServices(options.services);
         m_player.setLooped(options.looped);
         connect(&session, &Session::connected, this, [this, start = options.start] {
+            m_player.play();
             if (start.count() > 0)
                 m_player.seek(start);
-            m_player.play();
         });
         connect(&m_player, &RecordingPlayer::cameraCallDue, this,
                 &RecordingPlayback::playCameraCall);

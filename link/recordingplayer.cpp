@@ -45,7 +45,10 @@ RecordingPlayer::RecordingPlayer(RemoteDBusInvokerService *link, QObject *parent
     connect(link, &RemoteDBusInvokerService::connectionLost, this,
             &RecordingPlayer::handleConnectionLost);
     connect(link, &RemoteDBusInvokerService::webSocketConnected, this, [this] {
-        if (std::exchange(m_waitingForLink, false) && m_state == State::Playing) {
+        const bool waited = std::exchange(m_waitingForLink, false);
+        if (waited || m_state == State::Paused)
+            sendLastValues(); // an emulator that was started again has lost them
+        if (waited && m_state == State::Playing) {
             startClock(m_position);
             schedule();
         }
@@ -122,6 +125,11 @@ void RecordingPlayer::play()
 {
     if (m_state == State::Playing)
         return;
+    if (m_next == m_recording.calls().size()) { // steps or a seek came to the end
+        m_next = 0;
+        m_position = {};
+    }
+    startTotals();
     startClock(m_position);
     m_waitingForLink = false;
     setState(State::Playing);
@@ -129,6 +137,14 @@ void RecordingPlayer::play()
         schedule();
     else
         handleConnectionLost();
+}
+
+void RecordingPlayer::sendLastValues()
+{
+    if (!m_link->isConnected())
+        return;
+    for (const std::size_t index : lastValues(m_next))
+        send(m_recording.calls()[index]);
 }
 
 void RecordingPlayer::pause()
@@ -174,10 +190,7 @@ void RecordingPlayer::seek(microseconds time)
     m_next = std::size_t(next - calls.begin());
     if (m_state == State::Stopped)
         setState(State::Paused);
-    if (m_link->isConnected()) {
-        for (const std::size_t index : lastValues(m_next))
-            send(calls[index]);
-    }
+    sendLastValues();
     startClock(time);
     if (m_timer.isActive())
         schedule();
@@ -189,13 +202,18 @@ void RecordingPlayer::end()
     Q_EMIT finished();
 }
 
+// The totals of the last play stay until the next one begins.
+void RecordingPlayer::startTotals()
+{
+    if (!std::exchange(m_startsAnew, false))
+        return;
+    m_totals = {};
+    m_lateness = {};
+}
+
 void RecordingPlayer::send(const RecordedCall &call)
 {
-    // The totals of the last play stay until the next one begins.
-    if (std::exchange(m_startsAnew, false)) {
-        m_totals = {};
-        m_lateness = {};
-    }
+    startTotals();
     ++m_totals.calls;
     if (call.method->service == &cameraService) {
         Q_EMIT cameraCallDue(call);

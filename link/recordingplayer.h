@@ -59,7 +59,7 @@ public:
     /// The delay that this part of the calls (0 to 1) did not exceed, at most 100 ms.
     [[nodiscard]] std::chrono::microseconds latenessQuantile(double part) const;
 
-    /// Plays from the place on.
+    /// Plays from the place on, from the start if the place is the end.
     void play();
     void pause();
     /// Goes back to the start. Sends nothing.
@@ -85,6 +85,8 @@ private:
     void sendDueCalls();
     void schedule();
     void end();
+    void sendLastValues();
+    void startTotals();
     void send(const RecordedCall &call);
     [[nodiscard]] bool isChosen(const RecordedCall &call) const;
     [[nodiscard]] std::vector<std::size_t> lastValues(std::size_t end) const;
