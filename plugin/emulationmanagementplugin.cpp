@@ -44,6 +44,8 @@
 #include <QSettings>
 #include <QTranslator>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace EmulationManagement::Internal {
@@ -267,6 +269,7 @@ void EmulationManagementPlugin::setupOutputPane()
     connect(pane, &EmulationOutputPane::playingChanged, this,
             &EmulationManagementPlugin::handleRecordingPlaying);
     connect(pane, &EmulationOutputPane::cameraCallDue, this, [this](const RecordedCall &call) {
+        m_recordingHasCamera = true;
         const QString error = CameraPlayback::play(m_cameraEmulationManager, call);
         if (!error.isEmpty())
             Core::MessageManager::writeFlashing(error);
@@ -277,6 +280,9 @@ void EmulationManagementPlugin::handleRecordingPlaying(bool playing)
 {
     if (playing == m_sensorsEmulationManager.isSuspended())
         return;
+    // The window may be hidden, and then it could not stop the camera.
+    if (!playing && std::exchange(m_recordingHasCamera, false))
+        m_cameraEmulationManager.stopStreams();
     m_sensorsEmulationManager.setSuspended(playing);
     m_gpsEmulationManager.setSuspended(playing);
     if (!playing && m_remoteDBusInvokerService.isConnected()) {

@@ -113,6 +113,7 @@ private:
     QPointer<Ravik::Emulator> m_currentEmulator;
     bool m_vmRunning = false;
     bool m_packagesChecked = false;
+    bool m_recordingHasCamera = false; // it has sent a call of the camera since it began to play
     bool m_startRequested = false;
     QMap<QString, QVariant> m_deviceSensorsConfigurations;
     EmulationManagementPackagesChecker m_packagesChecker;

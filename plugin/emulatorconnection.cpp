@@ -60,6 +60,7 @@ void EmulationManagementPlugin::setUpEmulatorConnection()
     connect(machine, &Ravik::VirtualMachine::virtualMachineOffChanged, this, [this](bool off) {
         if (off) {
             m_emulationManagementView.hide();
+            m_cameraEmulationManager.stopStreams(); // a recording may stream while it is hidden
             m_packagesChecked = false;
             // If a start was requested while the machine was stopping, the machine starts now.
             if (!m_startRequested)

@@ -7,6 +7,7 @@
 #include <waiting.h>
 
 #include <QApplication>
+#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTreeView>
@@ -83,6 +84,15 @@ void OutputPaneTest::testRecordingIsPlayedAndTheWindowRests()
     setLight(14);
     waitFor("the window's value",
             [&] { return journal.callsSince(0).contains("setAlsValue int32:14"); });
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QByteArrayList lines = file.readAll().split('\n');
+    lines.insert(
+        1, R"({"after":0,"service":"camera","method":"startVideo","arguments":[")" MEDIA_FOLDER
+           R"(/vp8.webm"]})");
+    file.seek(0);
+    file.write(lines.join('\n'));
+    file.close();
 
     const qsizetype start = journal.position();
     OutputPaneDriver::click("Play…");
@@ -96,6 +106,7 @@ void OutputPaneTest::testRecordingIsPlayedAndTheWindowRests()
     calls.removeIf([](const QString &call) { return !call.startsWith("setAlsValue"); });
     QCOMPARE(calls, (QStringList{"setAlsValue int32:11", "setAlsValue int32:12",
                                  "setAlsValue int32:13", "setAlsValue int32:15"}));
+    QVERIFY(!contextObject("cameraEmulationManager")->property("streamRunning").toBool());
 }
 
 // The recording replaces the emulator's track.
