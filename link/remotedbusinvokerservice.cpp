@@ -53,14 +53,12 @@ void RemoteDBusInvokerService::connectToEmulator()
     m_retryTimer.stop();
     if (!m_webSocket)
         createWebSocket();
+    loseConnection(); // the socket drops an open connection without a signal
     m_webSocket->open(QUrl(u"ws://127.0.0.1:%1"_s.arg(m_port)));
 }
 
-void RemoteDBusInvokerService::handleDisconnected()
+void RemoteDBusInvokerService::loseConnection()
 {
-    // Wait before reconnecting to a relay that accepts connections only to close them.
-    const bool wasUsable
-        = m_sinceConnected.isValid() && m_sinceConnected.durationElapsed() >= retryInterval;
     const bool wasConnected = m_sinceConnected.isValid();
     m_sinceConnected.invalidate();
     m_nextTurn.stop();
@@ -71,6 +69,14 @@ void RemoteDBusInvokerService::handleDisconnected()
     }
     if (wasConnected)
         Q_EMIT connectionLost();
+}
+
+void RemoteDBusInvokerService::handleDisconnected()
+{
+    // Wait before reconnecting to a relay that accepts connections only to close them.
+    const bool wasUsable
+        = m_sinceConnected.isValid() && m_sinceConnected.durationElapsed() >= retryInterval;
+    loseConnection();
     Q_EMIT webSocketDisconnected();
     if (wasUsable)
         connectToEmulator();

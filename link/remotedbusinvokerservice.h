@@ -48,7 +48,7 @@ public:
     /// Sets the port of this host that leads to the relay, in place of hostTcpPort.
     void setPort(unsigned short port) { m_port = port; }
     [[nodiscard]] bool isConnected() const { return m_sinceConnected.isValid(); }
-    /// Opens the WebSocket to the host end of the forwarded port.
+    /// Opens the WebSocket to the host end of the forwarded port, again if it is open.
     void connectToEmulator();
 
     /*!
@@ -74,7 +74,7 @@ public:
 
 Q_SIGNALS:
     void webSocketConnected();
-    /// A connection was lost. webSocketDisconnected() follows.
+    /// A connection was lost, and webSocketDisconnected() follows, or it is opened again.
     void connectionLost();
     /// A connection was lost, or an attempt to connect failed.
     void webSocketDisconnected();
@@ -88,6 +88,7 @@ Q_SIGNALS:
 private:
     void createWebSocket();
     void handleDisconnected();
+    void loseConnection();
     [[nodiscard]] QAbstractSocket *openSocket() const;
     void sendFrame();
     void scheduleFrame();

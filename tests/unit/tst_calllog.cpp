@@ -92,6 +92,10 @@ private Q_SLOTS:
         QCOMPARE(log.at(0).arguments, u"int32:7"_s);
         QCOMPARE(log.at(7).method, nullptr);
         QCOMPARE(log.callsPerSecond(), 8);
+        QTRY_VERIFY(link.isConnected());
+        link.sendRequest(setAls);
+        link.connectToEmulator(); // its reply does not come over the new connection
+        QVERIFY(outcomes(log).endsWith(u'L'));
     }
 
     // A reply to a call that is no longer kept must not go to a later call.
