@@ -11,8 +11,10 @@ Dialog {
     // In milliseconds. A message that comes again within this time is not shown again: a page can
     // repeat a call that the emulator refuses ten times a second.
     readonly property int repetitionInterval: 1000
-    // The times of the messages of the last repetitionInterval, by their texts.
-    property var lastTimes: ({})
+    // The last messages of the last repetitionInterval, each with its time.
+    property var lastTimes: []
+    // A burst of different messages would otherwise make each of them slower than the one before.
+    readonly property int maximumTimes: 20
     property string text: ""
 
     // Shows a message. It replaces one that is still open.
@@ -25,14 +27,11 @@ Dialog {
     function showOnce(message: string) {
         const key = PlainText.shortened(message);
         const now = Date.now();
-        const recent = {};
-        for (const [other, time] of Object.entries(lastTimes)) {
-            if (Math.abs(now - time) < repetitionInterval)
-                recent[other] = time;
-        }
-        const isRepetition = key in recent;
-        recent[key] = now;
-        lastTimes = recent;
+        const recent = lastTimes.slice(-maximumTimes)
+            .filter(([, time]) => Math.abs(now - time) < repetitionInterval);
+        const others = recent.filter(([other]) => other !== key);
+        lastTimes = [...others, [key, now]];
+        const isRepetition = others.length < recent.length;
         if (!isRepetition)
             show(message);
     }

@@ -222,6 +222,10 @@ Item {
             tryCompare(dialog, "visible", false);
             view.pagesIds[3].refuseTrack("four"); // not a message of the emulator
             compare(dialog.text, "four");
+            for (let i = 0; i < 100; ++i)
+                host.receive("burst " + i);
+            // all messages of the last second made each one slower
+            verify(dialog.lastTimes.length <= dialog.maximumTimes + 1);
         }
     }
 }
