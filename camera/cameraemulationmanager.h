@@ -66,6 +66,13 @@ public:
     /// True while a video file is streamed.
     [[nodiscard]] bool videoStreamRunning() const { return isPlaying(m_videoPipeline.get()); }
 
+    /// Whether the chosen camera streams with the chosen size and rate.
+    [[nodiscard]] bool isSelectionStreaming() const
+    {
+        return cameraStreamRunning() && m_appliedCameraName == m_cameraName
+               && m_appliedSize == QSize(m_width, m_height) && m_appliedFramerate == m_framerate;
+    }
+
     /// See StreamMeter::framesPerSecond().
     [[nodiscard]] int streamFramesPerSecond() const { return m_meter.framesPerSecond(); }
     /// See StreamMeter::size().

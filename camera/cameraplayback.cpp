@@ -60,6 +60,8 @@ QString CameraPlayback::play(CameraEmulationManager &manager, const RecordedCall
     if (!manager.cameras().contains(name))
         return tr("There is no camera \"%1\".").arg(name);
     selectCamera(manager, name, values);
+    if (manager.isSelectionStreaming())
+        return {}; // goes on: each move of the slider of a recording comes here
     manager.stopStreams();
     manager.setCameraStreamSettings();
     manager.startCameraStream();
