@@ -399,6 +399,8 @@ void SensorsEmulationManager::setDefaultValues()
 
 void SensorsEmulationManager::setupSensors()
 {
+    if (isSuspended())
+        return; // the emulator would not be asked
     if (m_sensorsSetUp) {
         const QSet<QString> switchedOff = m_switchedOffByUser;
         const QMap<QString, QVariant> availability = m_sensorsAvailability;
