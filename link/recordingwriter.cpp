@@ -128,8 +128,18 @@ void RecordingWriter::write(const Recording &recording, QIODevice &device)
 
 void RecordingWriter::write(const QByteArray &line)
 {
-    if (m_error.isEmpty() && m_file.write(line) != line.size())
-        m_error = m_file.errorString();
+    if (!m_error.isEmpty())
+        return;
+    // A full disk takes a part of the line. Only the next attempt names the error.
+    for (qint64 written = 0; written < line.size();) {
+        const qint64 size = m_file.write(line.constData() + written, line.size() - written);
+        if (size <= 0) {
+            m_error = m_file.errorString();
+            Q_EMIT failed();
+            return;
+        }
+        written += size;
+    }
 }
 
 QString RecordingWriter::close()

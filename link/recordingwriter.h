@@ -59,6 +59,10 @@ public:
     [[nodiscard]] static QByteArray callLine(std::chrono::microseconds after,
                                              const ServiceMethod &method, QStringView arguments);
 
+Q_SIGNALS:
+    /// The file takes no more. close() tells why. Emitted in the thread that writes.
+    void failed();
+
 private:
     void write(const QByteArray &line);
 

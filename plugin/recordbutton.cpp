@@ -56,6 +56,10 @@ void RecordButton::begin(const QString &path)
         return;
     }
     writer->watch(m_link);
+    connect(writer.get(), &RecordingWriter::failed, this, [this, writer = writer.get()] {
+        if (m_writer.get() == writer)
+            end();
+    });
     m_writer = std::move(writer);
     m_path = path;
     showState();

@@ -120,10 +120,13 @@ EmulationPage {
 
         // A recording is played instead. Afterwards, the emulator is set up anew.
         function onSuspendedChanged() {
-            if (root.gpsManager.suspended)
+            if (root.gpsManager.suspended) {
                 player.hold();
-            else
-                Qt.callLater(player.restore, root.gpsManager.currentPositionIndex);
+                return;
+            }
+            const position = root.gpsManager.currentPosition;
+            Qt.callLater(player.restore, root.gpsManager.currentPositionIndex, position.latitude,
+                         position.longitude, position.altitude);
         }
 
         function onReplyFromEmulatorReceived(reply: string) {

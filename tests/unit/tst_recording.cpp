@@ -12,6 +12,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/resource.h>
+
+#include <cerrno>
+#include <csignal>
+
 using namespace EmulationManagement::Internal;
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -170,6 +175,24 @@ private Q_SLOTS:
             QCOMPARE(call.method->name + u' ' + call.arguments, sent.at(qsizetype(i)));
         }
         QVERIFY(recording.duration() >= 18ms);
+    }
+
+    void fullDiskIsToldAtOnce()
+    {
+        const QTemporaryDir folder;
+        RecordingWriter writer;
+        QCOMPARE(writer.open(folder.filePath(u"full"_s)), QString());
+        QSignalSpy failed(&writer, &RecordingWriter::failed);
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit limit{};
+        getrlimit(RLIMIT_FSIZE, &limit);
+        const rlimit small{.rlim_cur = 100, .rlim_max = limit.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+        writer.add(RecordingWriter::Clock::now(), *findMethod(cameraService, u"stop"), u"[]"_s);
+        const bool isTold = failed.wait();
+        setrlimit(RLIMIT_FSIZE, &limit);
+        QVERIFY(isTold);
+        QCOMPARE(writer.close(), qt_error_string(EFBIG)); // a short write has no error
     }
 
     void savedLogLeavesOutWhatWasNotSent()

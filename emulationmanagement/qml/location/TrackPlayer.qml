@@ -103,15 +103,18 @@ Item {
             start();
     }
 
-    // Goes back to a row after the manager has set up the emulator anew, and goes on if hold() has
-    // interrupted playback. The emulator may have lost its track.
-    function restore(row: int) {
-        if (stopped || lastRow < 0)
+    // Goes back to a row and a position after the manager has set up the emulator anew, which may
+    // have lost its track, and goes on if hold() has interrupted playback.
+    function restore(row: int, latitude: double, longitude: double, altitude: double) {
+        if (lastRow < 0)
             return;
         gpsManager.currentPositionIndex = row;
         if (!gpsManager.trackLoaded)
             goToCurrentRow();
-        release();
+        if (stopped)
+            gpsManager.setPosition(latitude, longitude, altitude);
+        else
+            release();
     }
 
     // Goes to a row that the user chose, even if it is already the current row.
