@@ -9,6 +9,7 @@
 #include <QSaveFile>
 
 #include <algorithm>
+#include <cerrno>
 
 using namespace Qt::StringLiterals;
 
@@ -146,6 +147,8 @@ QString RecordingWriter::close()
 {
     m_thread.waitForDone();
     m_file.close();
+    if (m_error.isEmpty() && !m_file.exists())
+        m_error = qt_error_string(ENOENT); // removed meanwhile
     return m_error;
 }
 

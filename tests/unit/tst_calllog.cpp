@@ -91,7 +91,7 @@ private Q_SLOTS:
         QCOMPARE(log.at(0).method, findMethod(sensorsService, u"setAlsValue"));
         QCOMPARE(log.at(0).arguments, u"int32:7"_s);
         QCOMPARE(log.at(7).method, nullptr);
-        QCOMPARE(log.callsPerSecond(), 8);
+        QCOMPARE_GE(log.callsPerSecond(), 7); // connecting may take longer than a second
         QTRY_VERIFY(link.isConnected());
         link.sendRequest(setAls);
         link.connectToEmulator(); // its reply does not come over the new connection

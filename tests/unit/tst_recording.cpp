@@ -193,6 +193,9 @@ private Q_SLOTS:
         setrlimit(RLIMIT_FSIZE, &limit);
         QVERIFY(isTold);
         QCOMPARE(writer.close(), qt_error_string(EFBIG)); // a short write has no error
+        QCOMPARE(writer.open(folder.filePath(u"gone"_s)), QString());
+        QVERIFY(QFile::remove(folder.filePath(u"gone"_s)));
+        QCOMPARE(writer.close(), qt_error_string(ENOENT));
     }
 
     void savedLogLeavesOutWhatWasNotSent()
