@@ -17,6 +17,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -57,6 +58,7 @@ void FaultRun::testRandomFaults()
     const std::chrono::seconds duration(environmentNumber("FAULT_SECONDS", 20));
     qInfo("Seed %d, %d seconds", seed, int(duration.count()));
     m_random.seed(unsigned(seed));
+    QTest::failOnWarning(QRegularExpression("qrc:.*(Type|Reference|Range)Error"));
     m_faults = std::make_unique<Faults>(m_random);
     const bool quits = qEnvironmentVariableIsSet("FAULT_QUIT");
     QSignalSpy links(invoker(), SIGNAL(webSocketConnected()));
