@@ -15,6 +15,8 @@ using std::chrono::microseconds;
 
 // After this time the event loop gets a turn, so that windows keep responding.
 static constexpr std::chrono::milliseconds longestTurn{10};
+// Windows show that it plays before the first call, which would be late otherwise.
+static constexpr std::chrono::milliseconds leadTime{50};
 // Enough to paint a part of a window.
 static constexpr std::chrono::milliseconds shortestGap{20};
 static constexpr microseconds latenessUnit{100};
@@ -96,14 +98,14 @@ microseconds RecordingPlayer::position() const
     if (m_state != State::Playing || m_waitingForLink)
         return m_position;
     const std::chrono::duration<double, std::micro> played = (Clock::now() - m_clockStart) * m_rate;
-    return std::min(m_position + std::chrono::duration_cast<microseconds>(played),
-                    std::max(m_position, m_recording.duration()));
+    return std::clamp(m_position + std::chrono::duration_cast<microseconds>(played), m_position,
+                      std::max(m_position, m_recording.duration()));
 }
 
-void RecordingPlayer::startClock(microseconds time)
+void RecordingPlayer::startClock(microseconds time, Clock::duration lead)
 {
     m_position = time;
-    m_clockStart = Clock::now();
+    m_clockStart = Clock::now() + lead;
 }
 
 RecordingPlayer::Clock::time_point RecordingPlayer::dueTime(microseconds time) const
@@ -130,7 +132,7 @@ void RecordingPlayer::play()
         m_position = {};
     }
     startTotals();
-    startClock(m_position);
+    startClock(m_position, leadTime);
     m_waitingForLink = false;
     setState(State::Playing);
     if (m_link->isConnected())

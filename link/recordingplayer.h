@@ -53,6 +53,11 @@ public:
     void setWhenLinkIsDown(WhenLinkIsDown reaction) { m_whenLinkIsDown = reaction; }
 
     [[nodiscard]] State state() const { return m_state; }
+    /// Whether it plays, but the link is down.
+    [[nodiscard]] bool isWaitingForLink() const
+    {
+        return m_state == State::Playing && m_waitingForLink;
+    }
     /// The place in the recording.
     [[nodiscard]] std::chrono::microseconds position() const;
     [[nodiscard]] const Totals &totals() const { return m_totals; }
@@ -91,7 +96,7 @@ private:
     [[nodiscard]] bool isChosen(const RecordedCall &call) const;
     [[nodiscard]] std::vector<std::size_t> lastValues(std::size_t end) const;
     [[nodiscard]] Clock::time_point dueTime(std::chrono::microseconds time) const;
-    void startClock(std::chrono::microseconds time);
+    void startClock(std::chrono::microseconds time, Clock::duration lead = {});
     void handleConnectionLost();
     void noteLateness(Clock::duration lateness);
 

@@ -45,6 +45,7 @@ EmulationOutputPane::EmulationOutputPane(CallLog *log, RemoteDBusInvokerService 
                                          QObject *parent)
     : IOutputPane(parent)
     , m_log(log)
+    , m_link(link)
     , m_model(log)
     , m_player(link)
 {
@@ -59,11 +60,11 @@ EmulationOutputPane::EmulationOutputPane(CallLog *log, RemoteDBusInvokerService 
     m_filtered.setFilterKeyColumn(0);
     connect(this, &IOutputPane::zoomInRequested, this, [this](int range) { zoom(range); });
     connect(this, &IOutputPane::zoomOutRequested, this, [this](int range) { zoom(-range); });
-    connect(this, &IOutputPane::resetZoomRequested, this, [this] {
-        if (m_view)
-            m_view->setFont(QApplication::font(m_view));
-    });
+    connect(this, &IOutputPane::resetZoomRequested, this,
+            [this] { setFontSize(QApplication::font(m_view).pointSize()); });
     connect(&m_totalsTimer, &QTimer::timeout, this, &EmulationOutputPane::showTotals);
+    m_filterTimer.setSingleShot(true);
+    connect(&m_filterTimer, &QTimer::timeout, this, &EmulationOutputPane::filter);
 
     m_recordButton = new RecordButton(link);
     m_saveButton = new QToolButton;
@@ -130,19 +131,12 @@ void EmulationOutputPane::createView()
     view->setFrameStyle(QFrame::NoFrame);
     view->setContextMenuPolicy(Qt::CustomContextMenu);
     view->setAccessibleName(tr("Calls of the emulator"));
-    const auto width
-        = [view](const QString &text) { return view->fontMetrics().horizontalAdvance(text) + 24; };
-    QHeaderView *header = view->header();
-    header->setStretchLastSection(false);
-    header->setMinimumSectionSize(width(u"1000.00"_s));
-    header->setSectionResizeMode(CallLogModel::Arguments, QHeaderView::Stretch);
-    header->setSectionResizeMode(CallLogModel::Reply, QHeaderView::Stretch);
-    header->resizeSection(CallLogModel::Time, width(u"00:00:00.000"_s));
-    header->resizeSection(CallLogModel::Service, width(u"location"_s));
-    header->resizeSection(CallLogModel::Method, width(u"setMagnetometerCalibrationLevel"_s));
-    header->resizeSection(CallLogModel::Latency, header->minimumSectionSize());
+    view->header()->setStretchLastSection(false);
+    view->header()->setSectionResizeMode(CallLogModel::Arguments, QHeaderView::Stretch);
+    view->header()->setSectionResizeMode(CallLogModel::Reply, QHeaderView::Stretch);
+    fitColumns();
     m_widget->layout()->addWidget(view);
-    m_playbackBar = new PlaybackBar(&m_player, m_log);
+    m_playbackBar = new PlaybackBar(&m_player, m_link, m_log);
     m_playbackBar->hide();
     connect(m_playbackBar, &PlaybackBar::closed, this, [this] { m_playbackBar->hide(); });
     m_widget->layout()->addWidget(m_playbackBar);
@@ -168,6 +162,20 @@ void EmulationOutputPane::createView()
     connect(copyAction, &QAction::triggered, this, &EmulationOutputPane::copyText);
 }
 
+// The arguments and the replies share the rest of the width.
+void EmulationOutputPane::fitColumns()
+{
+    const auto width = [this](const QString &text) {
+        return m_view->fontMetrics().horizontalAdvance(text) + 24;
+    };
+    QHeaderView *header = m_view->header();
+    header->setMinimumSectionSize(width(u"1000.00"_s));
+    header->resizeSection(CallLogModel::Time, width(u"00:00:00.000"_s));
+    header->resizeSection(CallLogModel::Service, width(u"location"_s));
+    header->resizeSection(CallLogModel::Method, width(u"setMagnetometerCalibrationLevel"_s));
+    header->resizeSection(CallLogModel::Latency, header->minimumSectionSize());
+}
+
 bool EmulationOutputPane::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Wheel) {
@@ -183,13 +191,20 @@ bool EmulationOutputPane::eventFilter(QObject *watched, QEvent *event)
 
 void EmulationOutputPane::zoom(int points)
 {
+    if (m_view)
+        setFontSize(m_view->font().pointSize() + points);
+}
+
+void EmulationOutputPane::setFontSize(int points)
+{
     static constexpr int smallest = 4;
     static constexpr int largest = 40;
     if (!m_view)
         return;
     QFont font = m_view->font();
-    font.setPointSize(std::clamp(font.pointSize() + points, smallest, largest));
+    font.setPointSize(std::clamp(points, smallest, largest));
     m_view->setFont(font);
+    fitColumns();
 }
 
 void EmulationOutputPane::clearContents()
@@ -296,7 +311,14 @@ void EmulationOutputPane::goToFailure(int direction)
     }
 }
 
+// Filtering 100,000 lines takes longer than typing a letter.
 void EmulationOutputPane::updateFilter()
+{
+    static constexpr std::chrono::milliseconds pause{200};
+    m_filterTimer.start(pause);
+}
+
+void EmulationOutputPane::filter()
 {
     const QString text
         = filterUsesRegexp() ? filterText() : QRegularExpression::escape(filterText());

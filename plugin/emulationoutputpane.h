@@ -69,10 +69,13 @@ Q_SIGNALS:
 
 private:
     void updateFilter() override;
+    void filter();
     void createView();
     void showContextMenu(const QPoint &position);
     void showTotals();
     void zoom(int points);
+    void setFontSize(int points);
+    void fitColumns();
     bool eventFilter(QObject *watched, QEvent *event) override;
 
     void goToFailure(int direction);
@@ -88,6 +91,7 @@ private:
     [[nodiscard]] QList<QWidget *> toolBarButtons() const;
 
     CallLog *m_log;
+    RemoteDBusInvokerService *m_link;
     CallLogModel m_model;
     QSortFilterProxyModel m_filtered;
     QPointer<QWidget> m_widget;
@@ -99,6 +103,7 @@ private:
     QPointer<PlaybackBar> m_playbackBar;
     QPointer<Utils::ElidingLabel> m_totals;
     QTimer m_totalsTimer;
+    QTimer m_filterTimer;
     RecordingPlayer m_player;
     bool m_atEnd = true;
 };

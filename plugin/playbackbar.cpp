@@ -2,6 +2,7 @@
 
 #include <link/calllog.h>
 #include <link/recordingplayer.h>
+#include <link/remotedbusinvokerservice.h>
 #include <link/servicemethods.h>
 
 #include <utils/elidinglabel.h>
@@ -45,9 +46,11 @@ static QString timeText(std::chrono::microseconds time)
         .arg(tenths % 10);
 }
 
-PlaybackBar::PlaybackBar(RecordingPlayer *player, const CallLog *log, QWidget *parent)
+PlaybackBar::PlaybackBar(RecordingPlayer *player, const RemoteDBusInvokerService *link,
+                         const CallLog *log, QWidget *parent)
     : QWidget(parent)
     , m_player(player)
+    , m_link(link)
     , m_log(log)
     , m_play(new QToolButton)
     , m_step(new QToolButton)
@@ -122,6 +125,11 @@ PlaybackBar::PlaybackBar(RecordingPlayer *player, const CallLog *log, QWidget *p
 
     connect(player, &RecordingPlayer::stateChanged, this, &PlaybackBar::updateButtons);
     connect(player, &RecordingPlayer::finished, this, &PlaybackBar::showEnd);
+    connect(player, &RecordingPlayer::linkIsDown, this, &PlaybackBar::showLostLink);
+    connect(link, &RemoteDBusInvokerService::webSocketConnected, this, &PlaybackBar::updateButtons);
+    connect(link, &RemoteDBusInvokerService::connectionLost, m_step,
+            [this] { m_step->setEnabled(false); });
+    connect(log, &CallLog::cleared, this, [this] { m_refusedBefore = m_lostBefore = 0; });
     connect(&m_timer, &QTimer::timeout, this, &PlaybackBar::showPosition);
     updateButtons();
 }
@@ -147,7 +155,7 @@ void PlaybackBar::updateButtons()
     m_play->setIcon(playing ? Utils::Icons::INTERRUPT_SMALL.icon()
                             : Utils::Icons::RUN_SMALL.icon());
     m_play->setToolTip(playing ? tr("Pause") : tr("Play"));
-    m_step->setEnabled(!playing);
+    m_step->setEnabled(!playing && m_link->isConnected());
     if (playing)
         m_timer.start(showingInterval);
     else
@@ -159,10 +167,20 @@ void PlaybackBar::updateButtons()
     showPosition();
 }
 
+void PlaybackBar::showLostLink()
+{
+    m_text->setText(m_player->state() == State::Playing ? tr("Waiting for the link")
+                                                        : tr("Stopped, because the link is down"));
+}
+
 void PlaybackBar::showPosition()
 {
     if (!m_time->isSliderDown())
         m_time->setValue(millisecondsOf(m_player->position()));
+    if (m_player->isWaitingForLink()) {
+        showLostLink();
+        return;
+    }
     m_text->setText(u"%1 / %2"_s.arg(timeText(m_player->position()),
                                      timeText(m_player->recording().duration())));
 }
@@ -176,6 +194,12 @@ void PlaybackBar::showEnd()
                         .arg(std::max<qint64>(0, totals.refused - m_refusedBefore))
                         .arg(std::max<qint64>(0, totals.lost - m_lostBefore))
                         .arg(latest.count(), 0, 'f', 1));
+    if (m_log->waiting() > 0) { // for replies, which may be refusals
+        QTimer::singleShot(showingInterval, this, [this] {
+            if (m_player->state() == State::Stopped)
+                showEnd();
+        });
+    }
 }
 
 void PlaybackBar::chooseServices()

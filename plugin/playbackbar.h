@@ -20,6 +20,7 @@ class ElidingLabel;
 namespace EmulationManagement::Internal {
 
 class CallLog;
+class RemoteDBusInvokerService;
 struct Service;
 
 /// The controls that play a recording: a bar of its time, rate, loop and the services that are
@@ -29,8 +30,9 @@ class PlaybackBar : public QWidget
     Q_OBJECT
 
 public:
-    /// \a player and \a log must outlive the bar.
-    PlaybackBar(RecordingPlayer *player, const CallLog *log, QWidget *parent = nullptr);
+    /// \a player, \a link and \a log must outlive the bar.
+    PlaybackBar(RecordingPlayer *player, const RemoteDBusInvokerService *link, const CallLog *log,
+                QWidget *parent = nullptr);
 
     /// Plays the player's recording from its start.
     void play();
@@ -44,9 +46,11 @@ private:
     void updateButtons();
     void showPosition();
     void showEnd();
+    void showLostLink();
     void chooseServices();
 
     RecordingPlayer *m_player;
+    const RemoteDBusInvokerService *m_link;
     const CallLog *m_log;
     RecordingPlayer::State m_shownState = RecordingPlayer::State::Stopped;
     qint64 m_refusedBefore = 0;

@@ -37,6 +37,7 @@ void chooseFile(const QString &path)
         if (auto *dialog = qobject_cast<QFileDialog *>(widget); dialog && dialog->isVisible()) {
             Q_EMIT dialog->fileSelected(path);
             dialog->close();
+            QCoreApplication::processEvents(); // the pane uses the file once the dialog is closed
             return;
         }
     }
