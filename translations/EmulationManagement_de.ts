@@ -506,6 +506,14 @@
         <source>Options</source>
         <translation>Optionen</translation>
     </message>
+    <message>
+        <source>Waiting for the link</source>
+        <translation>Warten auf die Verbindung</translation>
+    </message>
+    <message>
+        <source>Stopped, because the link is down</source>
+        <translation>Beendet, weil die Verbindung unterbrochen ist</translation>
+    </message>
 </context>
 <context>
     <name>EmulationManagement::Internal::RecordButton</name>

@@ -506,6 +506,14 @@
         <source>Options</source>
         <translation>Параметры</translation>
     </message>
+    <message>
+        <source>Waiting for the link</source>
+        <translation>Ожидание соединения</translation>
+    </message>
+    <message>
+        <source>Stopped, because the link is down</source>
+        <translation>Остановлено: нет соединения</translation>
+    </message>
 </context>
 <context>
     <name>EmulationManagement::Internal::RecordButton</name>
