@@ -70,6 +70,7 @@ EmulationOutputPane::EmulationOutputPane(CallLog *log, RemoteDBusInvokerService 
     m_saveButton = new QToolButton;
     m_saveButton->setIcon(Utils::Icons::SAVEFILE_TOOLBAR.icon());
     m_saveButton->setToolTip(tr("Save What the Log Holds as a Recording…"));
+    m_saveButton->setAccessibleName(m_saveButton->toolTip());
     connect(m_saveButton, &QToolButton::clicked, this,
             [this] { RecordingFiles::save(this, allCalls(), *m_log); });
     m_playButton = new PlayButton;

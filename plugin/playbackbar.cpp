@@ -46,6 +46,13 @@ static QString timeText(std::chrono::microseconds time)
         .arg(tenths % 10);
 }
 
+/// Describes a control without a text to everyone.
+static void describe(QWidget *control, const QString &description)
+{
+    control->setToolTip(description);
+    control->setAccessibleName(description);
+}
+
 PlaybackBar::PlaybackBar(RecordingPlayer *player, const RemoteDBusInvokerService *link,
                          const CallLog *log, QWidget *parent)
     : QWidget(parent)
@@ -62,7 +69,7 @@ PlaybackBar::PlaybackBar(RecordingPlayer *player, const RemoteDBusInvokerService
     layout->addWidget(m_play);
     connect(m_play, &QToolButton::clicked, this, &PlaybackBar::togglePlay);
     m_step->setIcon(Utils::Icons::NEXT.icon());
-    m_step->setToolTip(tr("Send the Next Call"));
+    describe(m_step, tr("Send the Next Call"));
     layout->addWidget(m_step);
     connect(m_step, &QToolButton::clicked, this, [this] {
         m_player->step();
@@ -82,7 +89,7 @@ PlaybackBar::PlaybackBar(RecordingPlayer *player, const RemoteDBusInvokerService
     for (const double value : rates)
         rate->addItem(tr("%L1x", "speed").arg(value), value);
     rate->setCurrentIndex(usualRate);
-    rate->setToolTip(tr("Speed"));
+    describe(rate, tr("Speed"));
     connect(rate, &QComboBox::currentIndexChanged, this,
             [this, rate] { m_player->setRate(rate->currentData().toDouble()); });
     layout->addWidget(rate);
@@ -116,7 +123,7 @@ PlaybackBar::PlaybackBar(RecordingPlayer *player, const RemoteDBusInvokerService
     layout->addWidget(options);
     auto *close = new QToolButton;
     close->setIcon(Utils::Icons::CLOSE_FOREGROUND.icon());
-    close->setToolTip(tr("Stop and Close the Recording"));
+    describe(close, tr("Stop and Close the Recording"));
     connect(close, &QToolButton::clicked, this, [this] {
         m_player->stop();
         Q_EMIT closed();
@@ -154,7 +161,7 @@ void PlaybackBar::updateButtons()
     const bool playing = state == State::Playing;
     m_play->setIcon(playing ? Utils::Icons::INTERRUPT_SMALL.icon()
                             : Utils::Icons::RUN_SMALL.icon());
-    m_play->setToolTip(playing ? tr("Pause") : tr("Play"));
+    describe(m_play, playing ? tr("Pause") : tr("Play"));
     m_step->setEnabled(!playing && m_link->isConnected());
     if (playing)
         m_timer.start(showingInterval);
