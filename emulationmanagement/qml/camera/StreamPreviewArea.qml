@@ -16,7 +16,7 @@ Item {
     // Without a graphics processor, the whole window is drawn at great cost for each picture. Then
     // there are fewer pictures, so that all of them take less than a hundredth of a processor.
     function adaptInterval() {
-        root.preview.interval = 150 * (Window.window?.frameCost ?? 0); // qmllint disable missing-property
+        root.preview.interval = 250 * (Window.window?.frameCost ?? 0); // qmllint disable missing-property
     }
 
     Connections {
