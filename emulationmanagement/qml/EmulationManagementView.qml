@@ -168,12 +168,11 @@ Rectangle {
         color: root.separatorColor
     }
 
+    // Here no page loses room to it.
     Text {
-        id: recordingLine
-
         anchors.bottom: parent.bottom
-        anchors.left: buttonsColumnSeparator.right
-        anchors.right: parent.right
+        anchors.left: buttonsColumn.left
+        anchors.right: buttonsColumn.right
         color: root.palette.windowText
         padding: 12
         text: qsTr("A recording is playing. This window sends its values again when the recording ends.")
@@ -185,7 +184,7 @@ Rectangle {
         id: pagesArea
 
         anchors.top: parent.top
-        anchors.bottom: recordingLine.visible ? recordingLine.top : parent.bottom
+        anchors.bottom: parent.bottom
         anchors.left: buttonsColumnSeparator.right
         anchors.right: parent.right
         // The Fusion style draws edges in the colour of the window, made darker by this factor.
