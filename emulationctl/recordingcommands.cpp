@@ -107,10 +107,12 @@ static PlayOptions readOptions(const CommandLine &line, QString *error)
     return options;
 }
 
+// A descriptor: stdin as FILE ends a line at a NUL.
+static constexpr int standardInput = 0;
+
 /// Reads a recording and reports its mistakes.
 static Recording readRecording(const QString &path)
 {
-    static constexpr int standardInput = 0; // a descriptor: stdin as FILE ends a line at a NUL
     QFile input;
     const bool isInput = path == u"-"_s && input.open(standardInput, QIODevice::ReadOnly);
     Recording recording = isInput ? Recording::read(input) : Recording::readFile(path);
@@ -257,8 +259,8 @@ std::optional<int> moveFile(const CommandLine &line, QString *error)
     }
     const QString path = line.arguments.constFirst();
     QFile input(path);
-    const bool isOpen
-        = path == u"-"_s ? input.open(stdin, QIODevice::ReadOnly) : input.open(QIODevice::ReadOnly);
+    const bool isOpen = path == u"-"_s ? input.open(standardInput, QIODevice::ReadOnly)
+                                       : input.open(QIODevice::ReadOnly);
     QFile output;
     if (!output.open(stdout, QIODevice::WriteOnly))
         return WrongUse;

@@ -28,14 +28,14 @@ static double parseDegrees(const QString &text)
 static QString formatDegrees(double degrees, int degreesSize, int decimals,
                              QLatin1StringView hemispheres)
 {
-    // Rounded before it is split, so that there are never 60 minutes.
-    const double unit = std::pow(10, -decimals);
-    const double minutes = std::round(std::abs(degrees) * 60 / unit) * unit;
-    const double whole = std::floor(minutes / 60);
+    // Whole numbers of the last decimal, so that there are never 60 minutes.
+    const qint64 minute = std::llround(std::pow(10, decimals));
+    const qint64 value = std::llround(std::abs(degrees) * 60 * double(minute));
+    const double minutes = double(value % (60 * minute)) / double(minute);
     const int minutesSize = 3 + decimals; // two digits and the point
-    return QString::number(whole).rightJustified(degreesSize, u'0')
-           + QString::number(minutes - 60 * whole, 'f', decimals).rightJustified(minutesSize, u'0')
-           + u',' + hemispheres.at(degrees < 0 ? 1 : 0);
+    return QString::number(value / (60 * minute)).rightJustified(degreesSize, u'0')
+           + QString::number(minutes, 'f', decimals).rightJustified(minutesSize, u'0') + u','
+           + hemispheres.at(degrees < 0 ? 1 : 0);
 }
 
 /// The exclusive or of the characters between "$" and "*".
@@ -47,13 +47,13 @@ static QString checksum(QStringView sentence)
     return QString::number(sum & 0xff, 16).rightJustified(2, u'0').toUpper();
 }
 
-/// Returns an empty text if the line has no position.
+/// Returns an empty text if the line has no position, or more than one.
 static QString moveSentence(const QString &line, PositionShift &shift)
 {
     static const QRegularExpression position(
         u"(\\d{3,}\\.(\\d+)),([NS]),(\\d{3,}\\.\\d+),([EW])"_s);
     const QRegularExpressionMatch match = position.match(line);
-    if (!match.hasMatch())
+    if (!match.hasMatch() || position.match(line, match.capturedEnd()).hasMatch())
         return {};
     const auto signedValue = [&](int value, int hemisphere) {
         const QString name = match.captured(hemisphere);

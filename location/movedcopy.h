@@ -14,7 +14,7 @@ struct Place;
 /*!
  * Copies of recordings and of NMEA logs that lie at another place, see PositionShift.
  *
- * Of an NMEA log only the lines with a position are copied: others may tell the place, too. A
+ * Of an NMEA log only the lines with one position are copied: others may tell the place, too. A
  * position is four fields such as "4807.038,N,01131.000,E". Lines with a checksum get a new one.
  */
 class MovedCopy

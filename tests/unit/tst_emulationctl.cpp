@@ -80,6 +80,8 @@ static constexpr Command commandLines[] = {
      "^\\$GPGGA,120000.00,3330.00000,S,07000.00000,W,1,08,0.9,12.5,M,17.0,M,,\\*55\r\n"
      "\\$GPRMC,120000.00,A,3330.00000,S,07000.00000,W,"},
     {"lines that tell the place", "move TRACK 10 20", 0, "", "^(\\$GP(GGA|RMC|GLL),[^$]*)+$"},
+    {"carry lost or second place kept", "move PLACES 9.9999999999 20", 0, "",
+     "^\\$GPGLL,1000.000,N,02000.000,E,120000,A\r\n$"},
     {"neither of both", "move /etc/passwd 10 20", 2, "", "neither a recording nor a track"},
     {"speed of 6", "track x.nmea --speed 6", 2, "", "--speed must be 1 to 5, not 6"},
 };
@@ -135,6 +137,7 @@ private Q_SLOTS:
         QProcess process;
         QString arguments = QString::fromLatin1(row->arguments);
         arguments.replace(u"SESSION"_s, QStringLiteral(DOCUMENTS "/session.emulation.jsonl"));
+        arguments.replace(u"PLACES"_s, QStringLiteral(TEST_DATA "/places.nmea"));
         arguments.replace(u"TRACK"_s, QStringLiteral(DOCUMENTS "/lake.nmea"));
         arguments.replace(u"BAD"_s, QStringLiteral(TEST_DATA "/bad-lines.jsonl"));
         start(process, arguments.split(u' ', Qt::SkipEmptyParts));
